@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "shared/table.h"
+
+// What the windows share of their look. Colours are 0x00BBGGRR numbers.
+
+/// Entries of CalendarColors and TextColors beyond the calendars' own.
+enum ColorEntry : int {
+    ChosenDayBackground = 5, ///< of CalendarColors
+    OrdinaryText = 1,        ///< of TextColors
+    TitleText = 2,           ///< of TextColors
+    ChosenDayText = 3,       ///< of TextColors
+};
+
+/// Cell backgrounds: Julian white, Gregorian light cyan, Jewish light yellow,
+/// Moslem light green, and red for the chosen day.
+inline const Table<int, 5> CalendarColors{0xFFFFFF, 0xFFFFC0, 0xC0FFFF, 0xC0FFC0, 0x0000FF};
+
+/// Navy for ordinary text, brown for month titles, white for the chosen day.
+inline const Table<int, 3> TextColors{0x800000, 0x404080, 0xFFFFFF};
+
+/// Left edges of the four panes of the monthly window, in twips.
+inline const Table<int, 4> PaneLeft{300, 2640, 4980, 7320};

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <initializer_list>
+
+/// Told of every access outside a table, with the index that was asked for and
+/// the table's extent. Unset in the program, where such an access is harmless;
+/// tests set it to fail loudly.
+using OutOfBoundsHandler = void (*)(int index, int extent);
+inline OutOfBoundsHandler onOutOfBounds = nullptr;
+
+/// A table of one or two dimensions whose indices begin at 1, read as it is
+/// spoken of: CurDate(c, Year). Every access is checked; outside its bounds a
+/// table reads as T{} and takes no values.
+template <typename T, int Rows, int Columns = 1>
+class Table {
+public:
+    static constexpr int size = Rows * Columns;
+
+    constexpr Table() = default;
+
+    /// The entries in order, row after row; those not given are T{}.
+    constexpr Table(std::initializer_list<T> values) {
+        std::size_t at = 0;
+        for (const T& value : values)
+            m_cells.at(at++) = value;
+    }
+
+    constexpr T& operator()(int row, int column = 1) {
+        return inside(row, column) ? m_cells[offset(row, column)] : (m_outside = T{});
+    }
+
+    constexpr const T& operator()(int row, int column = 1) const {
+        return inside(row, column) ? m_cells[offset(row, column)] : nothing;
+    }
+
+    constexpr bool operator==(const Table& other) const { return m_cells == other.m_cells; }
+
+private:
+    static constexpr bool inside(int row, int column) {
+        return within(row, Rows) && within(column, Columns);
+    }
+
+    static constexpr bool within(int index, int extent) {
+        if (index >= 1 && index <= extent)
+            return true;
+        if (onOutOfBounds != nullptr)
+            onOutOfBounds(index, extent);
+        return false;
+    }
+
+    static constexpr std::size_t offset(int row, int column) {
+        return static_cast<std::size_t>((row - 1) * Columns + column - 1);
+    }
+
+    static inline const T nothing{};
+
+    std::array<T, static_cast<std::size_t>(size)> m_cells{};
+    T m_outside{};
+};
