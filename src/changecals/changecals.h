@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+/// Carries a change of the chosen day to all calendars and then to all windows.
+/// Nothing here checks ranges: the window that takes the user's input does.
+namespace ChangeCals {
+
+/// The day, month and year of calendar c were written into CurDate: brings
+/// everything else up to date.
+void ChangeCal(int c);
+
+/// The same after CurJD was written.
+void ChangeJD();
+
+/// Redraws what is visible: first the window named by CurrentWindow, which is
+/// then 0 again.
+void UpdateWindows();
+
+/// Weekday, age and phase of the moon on the chosen day, by a mean lunation of
+/// 29.530588 days from a mean new moon on Julian Day 1720993.
+void SetMoonAge();
+
+/// One lunation in days, in single precision as the moon's age is counted.
+inline constexpr float lunation = 29.530588F;
+
+/// Makes today the chosen day, as changed in window number `window` (as
+/// CurrentWindow). Nothing happens when it already is.
+void GoToToday(int window);
+
+} // namespace ChangeCals

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+class Form;
+
+/// Closing of windows and the end of the program. The program lives while one of
+/// the five calendar windows is visible; the moon window and the dialogs do not
+/// count.
+namespace ChangeCals {
+
+/// How many of the calendar windows are visible, 0..5, minimised ones included.
+/// One that is not loaded counts as not visible.
+int CountOpenWindows();
+
+/// A close button: hides the window, or ends the program when it is the last one
+/// open. `arg` is handed to ExitProgram, which has no use for it.
+void CloseWindow(Form& form, int arg = 0);
+
+/// Saves the six windows' positions and ends the program. A minimised window and
+/// one whose place cannot be known keep the position read at start. A position
+/// beyond 16 bits of twips ends the program with a message and status 1, and
+/// nothing is saved.
+void ExitProgram(int arg = 0);
+
+/// After a calendar window has gone: ends the program without saving when none
+/// is left, otherwise brings the close buttons' tool tips up to date.
+void AfterWindowClosed();
+
+/// Gives every close button the tool tip of several open windows.
+void SetCloseTipsSeveral();
+
+/// Gives every close button the tool tip that the number of open windows asks
+/// for.
+void RefreshCloseTips();
+
+/// The program is ending: windows that go need not tell.
+bool IsLeaving();
+
+/// Ends the program without saving anything; `status` is its exit status.
+void LeaveProgram(int status);
+
+/// As before any end. For the start.
+void ResetLeaving();
+
+} // namespace ChangeCals

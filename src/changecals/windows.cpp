@@ -1,0 +1,99 @@
+// SPDX-License-Identifier: MIT
+#include "changecals/windows.h"
+
+#include "shared/settings.h"
+#include "shared/table.h"
+
+#include <QPointer>
+
+namespace {
+
+ChangeCals::WindowFactories make;
+
+QPointer<MonthlyWindow> monthly;
+Table<QPointer<YearWindow>, calendarCount> years;
+QPointer<MoonWindow> moon;
+QPointer<Form> options;
+QPointer<Form> about;
+
+// An unloaded window still lives until its events are done.
+template <typename Window>
+bool isLoaded(const QPointer<Window>& window) {
+    return window && !window->IsUnloaded();
+}
+
+template <typename Window, typename Maker>
+Window& loaded(QPointer<Window>& window, const Maker& maker) {
+    if (!isLoaded(window))
+        window = maker();
+    return *window;
+}
+
+template <typename Action>
+void forAllWindows(const Action& action) {
+    for (int c = 1; c <= calendarCount; ++c)
+        action(years(c).data());
+    action(monthly.data());
+    action(moon.data());
+    action(options.data());
+    action(about.data());
+}
+
+} // namespace
+
+void ChangeCals::SetFactories(WindowFactories factories) {
+    make = std::move(factories);
+}
+
+MonthlyWindow& ChangeCals::Monthly() {
+    return loaded(monthly, make.monthly);
+}
+
+YearWindow& ChangeCals::Year(int c) {
+    return loaded(years(c), [c] { return make.year(c); });
+}
+
+MoonWindow& ChangeCals::Moon() {
+    return loaded(moon, make.moon);
+}
+
+Form& ChangeCals::Options() {
+    return loaded(options, make.options);
+}
+
+Form& ChangeCals::About() {
+    return loaded(about, make.about);
+}
+
+MainWindow* ChangeCals::LoadedWindow(int number) {
+    if (number == MoonWindowNumber)
+        return isLoaded(moon) ? moon.data() : nullptr;
+    return LoadedCalendarWindow(number);
+}
+
+CalendarWindow* ChangeCals::LoadedCalendarWindow(int number) {
+    if (number == MonthlyWindowNumber)
+        return isLoaded(monthly) ? monthly.data() : nullptr;
+    return isLoaded(years(number)) ? years(number).data() : nullptr;
+}
+
+void ChangeCals::UnloadOptions() {
+    if (isLoaded(options))
+        options->Unload();
+}
+
+void ChangeCals::UnloadAbout() {
+    if (isLoaded(about))
+        about->Unload();
+}
+
+void ChangeCals::HideAllWindows() {
+    forAllWindows([](Form* window) {
+        if (window != nullptr)
+            window->hide();
+    });
+}
+
+void ChangeCals::DestroyAllWindows() {
+    forAllWindows([](Form* window) { delete window; });
+}

@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/form.h"
+
+#include <functional>
+
+// The windows as they see each other.
+
+/// One of the six windows whose positions are stored.
+class MainWindow : public Form {
+    Q_OBJECT
+
+public:
+    using Form::Form;
+
+    /// Caption and tool tips in the language now chosen; the tips are empty when
+    /// ShowTips is off. Accessible names are set in either case.
+    virtual void SetTexts() = 0;
+};
+
+/// One of the five windows of which the last to go ends the program.
+class CalendarWindow : public MainWindow {
+    Q_OBJECT
+
+public:
+    using MainWindow::MainWindow;
+    virtual void SetCloseTip(const QString& tip) = 0;
+};
+
+/// The window of the four panes 1..4.
+class MonthlyWindow : public CalendarWindow {
+    Q_OBJECT
+
+public:
+    using CalendarWindow::CalendarWindow;
+
+    /// Refills a pane's selectors; always followed by SetGrid of that pane.
+    virtual void SetCal(int pane) = 0;
+
+    /// Refills a pane's month grid.
+    virtual void SetGrid(int pane) = 0;
+
+    /// Refills weekday, moon and Julian Day.
+    virtual void SetCommonInfo() = 0;
+
+    /// Rebuilds all of it.
+    virtual void ReSetForm() = 0;
+};
+
+/// The year window of one calendar.
+class YearWindow : public CalendarWindow {
+    Q_OBJECT
+
+public:
+    using CalendarWindow::CalendarWindow;
+
+    /// Brings it up to date with the chosen day.
+    virtual void ShowYear() = 0;
+};
+
+class MoonWindow : public MainWindow {
+    Q_OBJECT
+
+public:
+    using MainWindow::MainWindow;
+
+    /// Draws the moon of the chosen day.
+    virtual void ReSetForm() = 0;
+};
+
+namespace ChangeCals {
+
+/// Make a window, loaded but not shown. Handed over at start.
+struct WindowFactories {
+    std::function<MonthlyWindow*()> monthly;
+    std::function<YearWindow*(int c)> year;
+    std::function<MoonWindow*()> moon;
+    std::function<Form*()> options;
+    std::function<Form*()> about;
+};
+
+void SetFactories(WindowFactories factories);
+
+/// The single instances, created on first use and afresh after an unloading.
+MonthlyWindow& Monthly();
+YearWindow& Year(int c);
+MoonWindow& Moon();
+Form& Options();
+Form& About();
+
+/// A main window by its number (1..6), nullptr while it is not loaded.
+MainWindow* LoadedWindow(int number);
+
+/// A calendar window by its number (1..5), nullptr while it is not loaded.
+CalendarWindow* LoadedCalendarWindow(int number);
+
+/// Unloads a dialog that is loaded.
+void UnloadOptions();
+void UnloadAbout();
+
+/// Takes every window from the screen without telling it.
+void HideAllWindows();
+
+/// Destroys every window; they are not to be used afterwards.
+void DestroyAllWindows();
+
+} // namespace ChangeCals

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#include "changecals/windows.h"
+#include "platform/program.h"
+#include "start/start.h"
+
+#include <QApplication>
+
+namespace {
+
+// Only X11 lets a program say and know where its windows stand, so it is taken
+// first where a desktop offers both; a choice made outside is left alone.
+void preferX11() {
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM") && qEnvironmentVariableIsSet("DISPLAY"))
+        qputenv("QT_QPA_PLATFORM", "xcb;wayland");
+}
+
+} // namespace
+
+int main(int argc, char* argv[]) {
+    preferX11();
+    QApplication app(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false); // closing decides by itself
+    QApplication::setApplicationName(ProgramTitle());
+    QApplication::setDesktopFileName(QStringLiteral("orvalen-years-calendar"));
+    const int status = Start::Main() ? QApplication::exec() : 1;
+    ChangeCals::DestroyAllWindows();
+    return status;
+}

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "monthly/juliandayfield.h"
+#include "platform/buttonstack.h"
+#include "platform/combobox.h"
+
+/// What the four calendars have in common for the chosen day: weekday, age and
+/// phase of the moon, Julian Day.
+class CommonInfo : public QObject {
+    Q_OBJECT
+
+public:
+    explicit CommonInfo(QWidget* parent);
+
+    /// Places the controls from `left` on in a row around `middle`, in pixels.
+    void Place(int left, int middle);
+
+    /// Fills the weekday list.
+    void Reset();
+
+    /// Shows the chosen day. Sets Updating and clears it.
+    void Fill();
+
+    void SetTexts();
+
+    JulianDayField* JulianDay() const { return m_combo8; }
+
+private:
+    void Combo6_Click();
+    void Combo7_Click();
+
+    void fillMoonAges();
+    void moveBy(double days);
+
+    ComboBox* m_combo6; ///< weekday
+    ComboBox* m_combo7; ///< moon age
+    ButtonStack m_command2;
+    JulianDayField* m_combo8;
+    QString m_moonAge; ///< as last shown
+};
+
+/// A text of the window as a number in single precision: one that contains a
+/// comma by the locale's rule, any other by Val. 0 where it is no number.
+float MyVal(const QString& text);

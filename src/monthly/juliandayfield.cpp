@@ -1,0 +1,147 @@
+// SPDX-License-Identifier: MIT
+#include "monthly/juliandayfield.h"
+
+#include "calc/state.h"
+#include "changecals/changecals.h"
+#include "changecals/closing.h"
+#include "platform/beep.h"
+#include "platform/message.h"
+#include "platform/numbers.h"
+#include "platform/text.h"
+#include "shared/flags.h"
+#include "shared/texts.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+
+namespace {
+
+// The Jewish range is the widest; this is the field's in every pane.
+int lowestDay() {
+    return MinJD(Jewish);
+}
+
+int highestDay() {
+    return MaxJD(Jewish);
+}
+
+QString rangeText() {
+    return Text(StringTexts(JulianDayRangeText)) + LineBreak() +
+           QStringLiteral("%1 \u2014 %2").arg(lowestDay()).arg(highestDay());
+}
+
+// Switching to another window, or a popup, is not leaving the field.
+bool leavesField(Qt::FocusReason reason) {
+    return reason == Qt::MouseFocusReason || reason == Qt::TabFocusReason ||
+           reason == Qt::BacktabFocusReason || reason == Qt::ShortcutFocusReason;
+}
+
+bool isReturn(int key) {
+    return key == Qt::Key_Return || key == Qt::Key_Enter;
+}
+
+} // namespace
+
+JulianDayField::JulianDayField(const QString& name, QWidget* parent) : ComboBox(name, parent) {
+    setEditable(true);
+    setCompleter(nullptr);
+    setInsertPolicy(QComboBox::NoInsert);
+    connect(lineEdit(), &QLineEdit::textEdited, this, &JulianDayField::Combo8_Change);
+    connect(this, &ComboBox::Click, this, &JulianDayField::Combo8_Click);
+}
+
+void JulianDayField::Show(int julianDay) {
+    m_shown = m_accepted = QString::number(julianDay);
+    SetOnlyItem(m_shown);
+    setEditText(m_shown);
+}
+
+void JulianDayField::keyPressEvent(QKeyEvent* event) {
+    if (isReturn(event->key())) {
+        Combo8_KeyDown(event->key());
+        return;
+    }
+    m_cursor = lineEdit()->cursorPosition();
+    ComboBox::keyPressEvent(event);
+}
+
+void JulianDayField::focusOutEvent(QFocusEvent* event) {
+    ComboBox::focusOutEvent(event);
+    if (leavesField(event->reason()))
+        Combo8_LostFocus();
+}
+
+// The press that took the focus from a refused number does nothing else.
+bool JulianDayField::eventFilter(QObject* receiver, QEvent* event) {
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+        return receiver->isWidgetType();
+    default:
+        return ComboBox::eventFilter(receiver, event);
+    }
+}
+
+void JulianDayField::Combo8_Change(const QString& text) {
+    if (text.isEmpty() || IsWholeNumber(text))
+        m_accepted = text;
+    else
+        refuseText();
+}
+
+void JulianDayField::Combo8_KeyDown(int key) {
+    if (isReturn(key))
+        accept();
+}
+
+void JulianDayField::Combo8_LostFocus() {
+    const bool leaving = ChangeCals::IsLeaving() || QApplication::focusWidget() == m_leavingControl;
+    if (!leaving)
+        accept();
+}
+
+void JulianDayField::Combo8_Click() {
+    if (!Updating)
+        accept();
+}
+
+void JulianDayField::accept() {
+    if (m_refusing || Text() == m_shown)
+        return;
+    const double number = Val(Text());
+    m_accepted = Text();
+    if (number < lowestDay() || number > highestDay()) {
+        refuseNumber();
+        return;
+    }
+    const int julianDay = CLng(number).value_or(CurJD);
+    if (julianDay == CurJD)
+        return;
+    CurJD = julianDay;
+    ChangeCals::ChangeJD();
+}
+
+void JulianDayField::refuseText() {
+    Beep();
+    setEditText(m_accepted);
+    lineEdit()->setCursorPosition(m_cursor);
+}
+
+// The focus cannot be taken back while it is still on its way elsewhere.
+void JulianDayField::refuseNumber() {
+    m_refusing = true;
+    qApp->installEventFilter(this);
+    QMetaObject::invokeMethod(this, &JulianDayField::tellRange, Qt::QueuedConnection);
+}
+
+void JulianDayField::tellRange() {
+    qApp->removeEventFilter(this);
+    if (!ChangeCals::IsLeaving()) {
+        setFocus();
+        MsgBox(rangeText());
+        setFocus();
+    }
+    m_refusing = false;
+}

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/combobox.h"
+
+/// The Julian Day of the chosen day (Combo8), into which another can be typed. A
+/// whole number is taken on Return, when the field is left by mouse or keyboard,
+/// and when the list's entry is chosen. Anything but a whole number is refused
+/// while it is typed, with a beep; a number outside the range that the program
+/// can show, with a message when it is to be taken.
+class JulianDayField : public ComboBox {
+    Q_OBJECT
+
+public:
+    JulianDayField(const QString& name, QWidget* parent);
+
+    /// Shows a Julian Day.
+    void Show(int julianDay);
+
+    /// A control that closes the window: a number is not judged on the way to it.
+    void SetLeavingControl(const QWidget* control) { m_leavingControl = control; }
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    bool eventFilter(QObject* receiver, QEvent* event) override;
+
+private:
+    void Combo8_Change(const QString& text);
+    void Combo8_KeyDown(int key);
+    void Combo8_LostFocus();
+    void Combo8_Click();
+
+    void accept();
+    void refuseText();
+    void refuseNumber();
+    void tellRange();
+
+    const QWidget* m_leavingControl = nullptr;
+    QString m_shown;    ///< what the program put there
+    QString m_accepted; ///< comes back when a typed character is refused
+    int m_cursor = 0;   ///< before the last key
+    bool m_refusing = false;
+};

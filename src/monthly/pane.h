@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "monthly/monthgrid.h"
+#include "platform/combobox.h"
+
+#include <QStringList>
+
+/// One of the four panes: the selectors of one calendar and its month grid. A
+/// list holds only the entry of the chosen day until it is used. What a choice
+/// changes is measured against the chosen day, never against an earlier text.
+class Pane : public QObject {
+    Q_OBJECT
+
+public:
+    Pane(int pane, ChosenCells& chosen, QWidget* parent);
+
+    /// Places the pane's controls; returns the y of its lower edge, in pixels.
+    int Place(int top);
+
+    /// Fills the chooser with the calendars' names and empties the month list.
+    void Reset();
+
+    /// Refills the selectors. Sets Updating, which the grid's Fill clears.
+    void SetCal();
+
+    MonthGrid& Grid() { return m_grid; }
+
+    void SetTexts();
+
+    /// In pixels.
+    static constexpr int width = 148;
+
+Q_SIGNALS:
+    /// The user wants calendar c in this pane.
+    void CalendarChosen(int pane, int c);
+
+private:
+    void Combo1_Click();
+    void Combo2_Click();
+    void Combo3_Click();
+    void Combo4_Click();
+    void Combo5_Click();
+
+    int calendar() const;
+    void selectCalendar();
+    void showOnlyChosenDay();
+    void setAvailable();
+    void setTip(QWidget* control, int text);
+
+    int m_pane;
+    ComboBox* m_combo1; ///< calendar
+    ComboBox* m_combo2; ///< year
+    ComboBox* m_combo3; ///< month
+    MonthGrid m_grid;
+    ComboBox* m_combo4; ///< day of the year
+    ComboBox* m_combo5; ///< week of the year
+};

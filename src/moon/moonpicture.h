@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "moon/shadow.h"
+
+#include <QImage>
+#include <QPixmap>
+#include <QWidget>
+#include <optional>
+
+/// The moon's picture with its shadow (Picture1 with Shape1 and Shape2). It only
+/// paints: the full moon scaled to the control, or a plain disc where there is
+/// no picture, and the shadow over it.
+class MoonPicture : public QWidget {
+    Q_OBJECT
+
+public:
+    MoonPicture(const QString& name, QWidget* parent);
+
+    /// The picture of the full moon; a null image asks for the substitute disc.
+    void SetPicture(const QImage& picture);
+
+    /// A shadow that leaves the fill as it was keeps the former shadow's.
+    void SetShadow(const Shadow& shadow);
+
+    /// In twips.
+    int Width() const;
+    int Height() const;
+
+Q_SIGNALS:
+    void DblClick();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+
+private:
+    void paintMoon(QPainter& painter);
+    void paintSubstitute(QPainter& painter) const;
+    void paintShadow(QPainter& painter) const;
+
+    QImage m_picture;
+    QPixmap m_scaled;
+    std::optional<Shadow> m_shadow;
+};
+
+/// A bitmap file as a picture; a null image when it is missing, cut off, no
+/// bitmap or larger than any moon needs to be.
+QImage LoadMoonPicture(const QString& path);

@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: MIT
+#include "moon/shadow.h"
+
+#include "changecals/changecals.h"
+#include "platform/numbers.h"
+
+namespace {
+
+constexpr double quarter = ChangeCals::lunation / 4;
+constexpr double nearPhase = 0.5; // days around a principal phase that are drawn as the phase
+
+/// The area that the shadow is computed for, a little larger than the picture.
+struct Area {
+    double width;
+    double height;
+    double topShift;
+};
+
+/// A circle through the area's top and bottom centre points, moved out by
+/// `beyond`, whose edge stands `bulge` from the vertical centre line.
+Shadow circle(const Area& area, double bulge, double beyond, bool solid, int border) {
+    const double half = area.height / 2;
+    const double radius = beyond + (half * half + bulge * bulge) * 0.5 / bulge;
+    const double top = (area.height - 2 * radius) / 2 - area.topShift;
+    return {Shadow::Shape::Circle, solid, border, 0, top, 2 * radius, 2 * radius};
+}
+
+Shadow crescent(const Area& area, double bulge) {
+    return circle(area, bulge, 0, true, 1);
+}
+
+Shadow gibbous(const Area& area, double bulge) {
+    return circle(area, bulge, area.width / 4, false, CInt(area.width / 32).value_or(1));
+}
+
+Shadow rectangle(double left, double width, double height) {
+    return {Shadow::Shape::Rectangle, true, 1, left, 0, width, height};
+}
+
+Shadow newMoon(const Area& area) {
+    return rectangle(0, area.width, area.height);
+}
+
+Shadow waxingCrescent(const Area& area, double age) {
+    const double half = area.width / 2;
+    const double bulge = half - half * age / quarter;
+    Shadow shadow = crescent(area, bulge);
+    shadow.left = half - shadow.width + bulge;
+    return shadow;
+}
+
+Shadow waxingGibbous(const Area& area, double age) {
+    const double bulge = area.width / 2 * (age - quarter) / quarter;
+    Shadow shadow = gibbous(area, bulge);
+    shadow.left = area.width / 4 - bulge;
+    return shadow;
+}
+
+Shadow fullMoon() {
+    return {Shadow::Shape::Rectangle, std::nullopt, 1, 0, 0, 1, 1};
+}
+
+Shadow waningGibbous(const Area& area, double age) {
+    const double half = area.width / 2;
+    const double bulge = half - half * (age - 2 * quarter) / quarter;
+    Shadow shadow = gibbous(area, bulge);
+    shadow.left = area.width - shadow.width - area.width / 4 + bulge;
+    return shadow;
+}
+
+Shadow waningCrescent(const Area& area, double age) {
+    const double bulge = area.width / 2 * (age - 3 * quarter) / quarter;
+    Shadow shadow = crescent(area, bulge);
+    shadow.left = area.width / 2 - bulge;
+    return shadow;
+}
+
+} // namespace
+
+Shadow ShadowOf(float age, double pictureWidth, double pictureHeight) {
+    const Area area{pictureWidth + 60, (pictureHeight + 60) * 1.02, pictureHeight / 60};
+    const double half = area.width / 2;
+    if (age <= nearPhase)
+        return newMoon(area);
+    if (age <= quarter - nearPhase)
+        return waxingCrescent(area, age);
+    if (age <= quarter + nearPhase)
+        return rectangle(0, half, area.height);
+    if (age <= 2 * quarter - nearPhase)
+        return waxingGibbous(area, age);
+    if (age <= 2 * quarter + nearPhase)
+        return fullMoon();
+    if (age <= 3 * quarter - nearPhase)
+        return waningGibbous(area, age);
+    if (age <= 3 * quarter + nearPhase)
+        return rectangle(half, half, area.height);
+    if (age <= 4 * quarter - nearPhase)
+        return waningCrescent(area, age);
+    return newMoon(area);
+}

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/commandbutton.h"
+
+#include <QStringList>
+#include <vector>
+
+/// Buttons that lie one over another; only the one in front is seen and reached
+/// by Tab. They are counted from 0 and named name_0, name_1, ...
+class ButtonStack : public QObject {
+    Q_OBJECT
+
+public:
+    ButtonStack(const QString& name, const QStringList& pictures, QWidget* parent);
+
+    void Move(int x, int y);
+    void SetTips(const QString& tip, const QString& accessibleName);
+
+    /// The focus, where a button of the stack has it, goes along.
+    void BringToFront(int index);
+
+    CommandButton* Front() const { return m_buttons[m_front]; }
+    const std::vector<CommandButton*>& Buttons() const { return m_buttons; }
+
+Q_SIGNALS:
+    void Click();
+
+private:
+    std::vector<CommandButton*> m_buttons;
+    std::size_t m_front = 0;
+};

@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+#include <QLocale>
+#include <QString>
+
+bool IsUtf8(const QByteArray& bytes);
+
+/// The 8-bit Windows code page of a language by its script, as a number: 1251
+/// Cyrillic, 1255 Hebrew, 1256 Arabic and Persian, 1254 Turkish, 1250 Central
+/// European, 1253 Greek, 1252 otherwise.
+int CodePageOf(const QLocale& locale);
+int UserCodePage();
+
+/// Bytes of a Windows code page as text; what has no meaning there becomes the
+/// replacement character.
+QString FromCodePage(const QByteArray& bytes, int codePage);

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QPushButton>
+
+/// A button with a picture. It takes the focus when it is clicked, as every
+/// control does here, so that a field that is left hears of it.
+class CommandButton : public QPushButton {
+    Q_OBJECT
+
+public:
+    CommandButton(const QString& name, const QString& picture, QWidget* parent);
+
+    /// Edge length of the button and of its picture, in pixels.
+    static constexpr int side = 30;
+    static constexpr int pictureSide = 24;
+
+    void SetPicture(const QString& picture);
+    void SetTabStop(bool on);
+
+Q_SIGNALS:
+    /// Any mouse button, at the press.
+    void MouseDown(Qt::MouseButton button);
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+};

@@ -1,0 +1,260 @@
+// SPDX-License-Identifier: MIT
+#include "platform/flexgrid.h"
+
+#include "platform/color.h"
+#include "platform/gridpainter.h"
+#include "platform/twips.h"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+// Up to this number changed cells are repainted one by one, more as the one
+// rectangle that holds them all.
+constexpr std::size_t fewCells = 8;
+
+constexpr QColor frameColor(120, 128, 152);
+
+bool movesCurrentCell(int key) {
+    return (key >= Qt::Key_Home && key <= Qt::Key_PageDown);
+}
+
+bool pressesCurrentCell(int key) {
+    return key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space;
+}
+
+void setFixedSections(QHeaderView* header) {
+    header->hide();
+    header->setMinimumSectionSize(1);
+    header->setSectionResizeMode(QHeaderView::Fixed);
+}
+
+} // namespace
+
+MSFlexGrid::MSFlexGrid(const QString& name, int rows, int columns, QWidget* parent)
+    : QTableView(parent),
+      m_model(new GridModel(rows, columns, this)),
+      m_painter(new GridPainter(m_model, this)) {
+    setObjectName(name);
+    setFocusPolicy(Qt::StrongFocus);
+    setFrameStyle(QFrame::Box | QFrame::Plain);
+    setLineWidth(1);
+    setShowGrid(false);
+    setEditTriggers(NoEditTriggers);
+    setSelectionMode(NoSelection);
+    setTabKeyNavigation(false);
+    setAutoScroll(false);
+    setTextElideMode(Qt::ElideNone);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setCornerButtonEnabled(false);
+    setFixedSections(horizontalHeader());
+    setFixedSections(verticalHeader());
+    setItemDelegate(m_painter);
+    setModel(m_model);
+    m_painter->SetFonts(font());
+}
+
+void MSFlexGrid::SetTextMatrix(int row, int column, const QString& text) {
+    GridCell cell = m_model->Cell(row, column);
+    cell.text = text;
+    changeCell(row, column, cell);
+}
+
+void MSFlexGrid::SetCellBackColor(int color) {
+    GridCell cell = currentCell();
+    cell.back = color;
+    changeCell(m_row, m_column, cell);
+}
+
+void MSFlexGrid::SetCellForeColor(int color) {
+    GridCell cell = currentCell();
+    cell.fore = color;
+    changeCell(m_row, m_column, cell);
+}
+
+void MSFlexGrid::SetCellFontBold(bool bold) {
+    GridCell cell = currentCell();
+    cell.bold = bold;
+    changeCell(m_row, m_column, cell);
+}
+
+void MSFlexGrid::SetBackColor(int color) {
+    QPalette colors = palette();
+    colors.setColor(QPalette::Base, ToColor(color));
+    colors.setColor(QPalette::WindowText, frameColor); // the same on every theme
+    setPalette(colors);
+}
+
+void MSFlexGrid::SetAllCellColors(int back, int fore) {
+    for (int row = 0; row < Rows(); ++row) {
+        for (int column = 0; column < Cols(); ++column) {
+            GridCell cell = m_model->Cell(row, column);
+            cell.back = back;
+            cell.fore = fore;
+            cell.bold = false;
+            changeCell(row, column, cell);
+        }
+    }
+}
+
+int MSFlexGrid::ColWidth(int column) const {
+    return ToTwips(horizontalHeader()->sectionSize(column));
+}
+
+int MSFlexGrid::RowHeight(int row) const {
+    return ToTwips(verticalHeader()->sectionSize(row));
+}
+
+void MSFlexGrid::SetColWidth(int column, int twips) {
+    horizontalHeader()->resizeSection(column, ToPixels(twips));
+}
+
+void MSFlexGrid::SetRowHeight(int row, int twips) {
+    verticalHeader()->resizeSection(row, ToPixels(twips));
+}
+
+void MSFlexGrid::SetSize(int width, int height) {
+    setFixedSize(ToPixels(width), ToPixels(height));
+}
+
+void MSFlexGrid::SetMergeRow(int row) {
+    m_mergeRows.push_back(row);
+}
+
+void MSFlexGrid::SetRedraw(bool on) {
+    m_redraw = on;
+    if (on)
+        announceChanges();
+}
+
+void MSFlexGrid::Refresh() {
+    if (m_redraw)
+        announceChanges();
+}
+
+void MSFlexGrid::SetFontPixelSize(int pixels) {
+    QFont sized = font();
+    sized.setPixelSize(pixels);
+    setFont(sized);
+    m_painter->SetFonts(sized);
+}
+
+void MSFlexGrid::SetAccessibleText(std::function<QString(int, int)> text) {
+    m_model->accessibleText = std::move(text);
+}
+
+int MSFlexGrid::PaintedCells() const {
+    return m_painter->PaintedCells();
+}
+
+void MSFlexGrid::mousePressEvent(QMouseEvent* event) {
+    const QModelIndex pressed = indexAt(event->pos());
+    event->accept();
+    if (!pressed.isValid())
+        return;
+    moveCurrent(pressed);
+    Q_EMIT MouseDown(event->button());
+}
+
+// The view's own handling would select by dragging.
+void MSFlexGrid::mouseMoveEvent(QMouseEvent* event) {
+    event->accept();
+}
+
+void MSFlexGrid::mouseReleaseEvent(QMouseEvent* event) {
+    event->accept();
+}
+
+// The first press of a double click has already been told as a press.
+void MSFlexGrid::mouseDoubleClickEvent(QMouseEvent* event) {
+    event->accept();
+    if (event->button() == Qt::LeftButton)
+        Q_EMIT DblClick();
+}
+
+void MSFlexGrid::keyPressEvent(QKeyEvent* event) {
+    if (movesCurrentCell(event->key())) {
+        QTableView::keyPressEvent(event);
+    } else if (pressesCurrentCell(event->key())) {
+        Q_EMIT MouseDown(Qt::LeftButton);
+    } else {
+        event->ignore();
+    }
+}
+
+void MSFlexGrid::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+    QTableView::currentChanged(current, previous);
+    if (current.isValid()) {
+        m_row = current.row();
+        m_column = current.column();
+    }
+}
+
+// All cells are always in view.
+void MSFlexGrid::scrollTo(const QModelIndex&, ScrollHint) {}
+
+void MSFlexGrid::changeCell(int row, int column, const GridCell& cell) {
+    if (!m_model->Contains(row, column) || m_model->Cell(row, column) == cell)
+        return;
+    m_model->SetCell(row, column, cell);
+    m_changedCells.emplace_back(column, row);
+    if (m_redraw)
+        announceChanges();
+}
+
+void MSFlexGrid::announceChanges() {
+    std::vector<QPoint> changed = std::exchange(m_changedCells, {});
+    changed.erase(
+        std::remove_if(changed.begin(), changed.end(),
+                       [this](QPoint cell) { return !m_model->Publish(cell.y(), cell.x()); }),
+        changed.end());
+    for (const int row : m_mergeRows) {
+        if (std::any_of(changed.begin(), changed.end(),
+                        [row](QPoint cell) { return cell.y() == row; }))
+            mergeEqualTexts(row);
+    }
+    for (const QPoint cell : changed)
+        showSelected(cell.y(), cell.x());
+    repaintCells(changed);
+    moveCurrent(m_model->index(m_row, m_column));
+}
+
+void MSFlexGrid::repaintCells(const std::vector<QPoint>& cells) {
+    if (cells.size() <= fewCells) {
+        for (const QPoint cell : cells)
+            m_model->Announce(cell.y(), cell.x(), cell.y(), cell.x());
+        return;
+    }
+    QRect all;
+    for (const QPoint cell : cells)
+        all |= QRect(cell, cell);
+    m_model->Announce(all.top(), all.left(), all.bottom(), all.right());
+}
+
+void MSFlexGrid::showSelected(int row, int column) {
+    const QModelIndex index = m_model->index(row, column);
+    const bool selected = m_model->Cell(row, column).back == m_selectedColor;
+    if (selected != selectionModel()->isSelected(index))
+        selectionModel()->select(index, selected ? QItemSelectionModel::Select
+                                                 : QItemSelectionModel::Deselect);
+}
+
+void MSFlexGrid::mergeEqualTexts(int row) {
+    for (int from = 0, to = 0; from < Cols(); from = to) {
+        for (to = from + 1; to < Cols() && TextMatrix(row, to) == TextMatrix(row, from); ++to) {
+        }
+        const bool merge = to - from > 1 && !TextMatrix(row, from).isEmpty();
+        const int span = merge ? to - from : 1;
+        if (columnSpan(row, from) != span)
+            setSpan(row, from, 1, span);
+    }
+}
+
+void MSFlexGrid::moveCurrent(const QModelIndex& index) {
+    if (index.isValid() && index != currentIndex())
+        selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
+}

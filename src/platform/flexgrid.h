@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/gridmodel.h"
+
+#include <QRect>
+#include <QTableView>
+
+class GridPainter;
+
+/// A grid of cells with their own text, colours and weight, in the classic
+/// terms. Rows and columns are counted from 0, sizes are in twips, colours are
+/// 0x00BBGGRR numbers. Row and Col name the current cell, on which the Cell...
+/// properties act; outside the grid they do nothing.
+///
+/// A cell that is set to what it already holds raises no repaint. While Redraw
+/// is off nothing is painted; turning it on paints what has changed, once.
+///
+/// A press of a mouse button on a cell makes it current and then raises
+/// MouseDown; a press beside the cells raises nothing. The arrow keys move the
+/// current cell, Return and Space on it do what a left press does.
+class MSFlexGrid : public QTableView {
+    Q_OBJECT
+
+public:
+    MSFlexGrid(const QString& name, int rows, int columns, QWidget* parent);
+
+    int Rows() const { return m_model->rowCount(); }
+    int Cols() const { return m_model->columnCount(); }
+    int Row() const { return m_row; }
+    int Col() const { return m_column; }
+    void SetRow(int row) { m_row = row; }
+    void SetCol(int column) { m_column = column; }
+
+    QString TextMatrix(int row, int column) const { return m_model->Cell(row, column).text; }
+    void SetTextMatrix(int row, int column, const QString& text);
+
+    int CellBackColor() const { return currentCell().back; }
+    int CellForeColor() const { return currentCell().fore; }
+    bool CellFontBold() const { return currentCell().bold; }
+    void SetCellBackColor(int color);
+    void SetCellForeColor(int color);
+    void SetCellFontBold(bool bold);
+
+    /// The ground on which cells without a colour of their own stand.
+    void SetBackColor(int color);
+
+    /// Gives every cell this background and text colour, not bold.
+    void SetAllCellColors(int back, int fore);
+
+    int ColWidth(int column) const;
+    int RowHeight(int row) const;
+    void SetColWidth(int column, int twips);
+    void SetRowHeight(int row, int twips);
+    void SetSize(int width, int height);
+    void SetColHidden(int column, bool hidden) { setColumnHidden(column, hidden); }
+
+    /// Equal texts that stand side by side in this row are shown as one cell.
+    void SetMergeRow(int row);
+
+    void SetRedraw(bool on);
+    void Refresh();
+
+    /// A cell with this background is told to assistive tools as selected.
+    void SetSelectedColor(int color) { m_selectedColor = color; }
+
+    /// Height of the digits' font in pixels.
+    void SetFontPixelSize(int pixels);
+
+    void SetAccessibleText(std::function<QString(int row, int column)> text);
+
+    /// Cells painted since the grid was made.
+    int PaintedCells() const;
+
+Q_SIGNALS:
+    void MouseDown(Qt::MouseButton button);
+    void DblClick();
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+    void scrollTo(const QModelIndex& index, ScrollHint hint) override;
+
+private:
+    const GridCell& currentCell() const { return m_model->Cell(m_row, m_column); }
+    void changeCell(int row, int column, const GridCell& cell);
+    void announceChanges();
+    void repaintCells(const std::vector<QPoint>& cells);
+    void showSelected(int row, int column);
+    void mergeEqualTexts(int row);
+    void moveCurrent(const QModelIndex& index);
+
+    GridModel* m_model;
+    GridPainter* m_painter;
+    int m_row = 0;
+    int m_column = 0;
+    int m_selectedColor = -1;
+    bool m_redraw = true;
+    std::vector<QPoint> m_changedCells; // x column, y row
+    std::vector<int> m_mergeRows;
+};

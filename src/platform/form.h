@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QWidget>
+
+/// A window in the classic terms: loaded (constructed), shown, hidden, unloaded.
+/// Closing it through its frame unloads it: it is hidden at once, told by
+/// Form_Unload and destroyed when its events are done. Positions are those of
+/// the frame, sizes those of the contents, both in twips.
+class Form : public QWidget {
+    Q_OBJECT
+
+public:
+    enum State { Normal = 0, Minimised = 1, Maximised = 2 };
+
+    explicit Form(const QString& name);
+
+    int Top() const;
+    int Left() const;
+    void Move(int left, int top);
+    void SetSize(int width, int height);
+
+    /// Minimised windows are visible.
+    bool Visible() const { return isVisible(); }
+    State WindowState() const;
+    void SetNormal();
+
+    /// Shows the window modeless and brings it to the front, out of the
+    /// minimised state where it is in it.
+    void Show();
+    void Hide() { hide(); }
+
+    void Unload();
+    bool IsUnloaded() const { return m_unloaded; }
+
+    /// Plain text.
+    void SetCaption(const QString& caption) { setWindowTitle(caption); }
+
+protected:
+    /// The window has gone from the screen and will be destroyed.
+    virtual void Form_Unload() {}
+
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    bool m_unloaded = false;
+};

@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: MIT
+#include "platform/gridpainter.h"
+
+#include "platform/color.h"
+#include "platform/text.h"
+
+#include <QPainter>
+#include <QStyleOptionViewItem>
+#include <cmath>
+
+namespace {
+
+// Enough for the numbers and titles of a grid; a change of language starts anew.
+constexpr int mostTexts = 500;
+
+bool isSingleDigit(const QString& text) {
+    return text.size() == 1 && text.front().isDigit();
+}
+
+} // namespace
+
+GridPainter::GridPainter(const GridModel* model, QObject* parent)
+    : QAbstractItemDelegate(parent),
+      m_model(model) {}
+
+void GridPainter::SetFonts(const QFont& plain) {
+    m_fonts[0] = m_fonts[1] = plain;
+    m_fonts[1].setBold(true);
+    m_texts.clear();
+}
+
+void GridPainter::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                        const QModelIndex& index) const {
+    ++m_paintedCells;
+    const GridCell& cell = m_model->Cell(index.row(), index.column());
+    painter->fillRect(option.rect, ToColor(cell.back));
+    if (!cell.text.isEmpty())
+        paintText(painter, cell, option.rect);
+    const bool current = option.state.testFlag(QStyle::State_HasFocus);
+    if (current && cell.back != m_markColor) {
+        painter->setPen(QPen(ToColor(cell.fore), 1, Qt::DotLine));
+        painter->drawRect(option.rect.adjusted(0, 0, -1, -1));
+    }
+}
+
+QSize GridPainter::sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const {
+    return {};
+}
+
+const GridPainter::LaidOutText& GridPainter::laidOut(const QString& text, bool bold,
+                                                     int width) const {
+    const QString key = QString::number(bold ? -width : width) + u' ' + text;
+    const auto known = m_texts.constFind(key);
+    if (known != m_texts.constEnd())
+        return *known;
+    if (m_texts.size() >= mostTexts)
+        m_texts.clear();
+    LaidOutText entry{QStaticText(text), FittedFont(m_fonts[bold ? 1 : 0], text, width)};
+    entry.text.setTextFormat(Qt::PlainText);
+    entry.text.setPerformanceHint(QStaticText::AggressiveCaching);
+    entry.text.prepare({}, entry.font);
+    return *m_texts.insert(key, entry);
+}
+
+void GridPainter::paintText(QPainter* painter, const GridCell& cell, const QRect& rect) const {
+    const LaidOutText& entry = laidOut(cell.text, cell.bold, rect.width());
+    const QSizeF size = entry.text.size();
+    // A single digit stands below the second digit of larger numbers.
+    const double digitShift = isSingleDigit(cell.text) ? size.width() / 2 : 0;
+    const double indent = (rect.width() - size.width()) / 2 + digitShift;
+    const QPointF at(rect.x() + std::floor(indent),
+                     rect.y() + std::round((rect.height() - size.height()) / 2));
+    painter->setPen(ToColor(cell.fore));
+    painter->setFont(entry.font);
+    painter->drawStaticText(at, entry.text);
+}

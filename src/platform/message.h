@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+/// A message box with the exclamation icon and the product's title; returns when
+/// the user has closed it. The text is shown as it stands.
+void MsgBox(const QString& text);
+
+/// Two texts with an empty line between them.
+QString WithEmptyLine(const QString& first, const QString& second);
+
+/// The line break of the program's messages.
+inline QString LineBreak() {
+    return QStringLiteral("\r\n");
+}

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+/// A text file in initialisation-file form, sections of key=value lines, read as
+/// bytes. Section and key names are matched without regard to the case of Latin
+/// letters; blanks around them and around values are ignored. Of sections of one
+/// name only the first is searched, of equal keys the first is taken. Lines that
+/// begin with ";", lines without "=", header lines without "]" and what stands
+/// before the first section are skipped. A NUL ends a value.
+class ProfileFile {
+public:
+    /// Files beyond this size in bytes are not read.
+    static constexpr qint64 largestSize = 1 << 20;
+
+    enum class Status { Read, Unreadable, TooLarge };
+
+    /// Reads a file whole.
+    explicit ProfileFile(const QString& path);
+
+    Status ReadStatus() const { return m_status; }
+
+    /// The bytes of an entry, at most size - 1 of them and never a part of a
+    /// UTF-8 character; one pair of quotes around a value is taken off. Empty
+    /// when there is no such entry or nothing after its "=". A value of blanks
+    /// only is returned as a blank.
+    QByteArray GetPrivateProfileString(const QByteArray& section, const QByteArray& key,
+                                       int size) const;
+
+    /// Bytes of this file as text: UTF-8 where the whole file is valid UTF-8,
+    /// otherwise the 8-bit Windows code page of the user's language.
+    QString Decode(const QByteArray& bytes) const;
+
+    /// For files that are in memory already.
+    static ProfileFile FromBytes(const QByteArray& bytes);
+
+private:
+    ProfileFile() = default;
+    void take(const QByteArray& bytes);
+
+    Status m_status = Status::Unreadable;
+    bool m_isUtf8 = false;
+    QByteArray m_bytes;
+};

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#include "platform/program.h"
+
+#include <QDir>
+#include <QGuiApplication>
+
+namespace {
+
+QString replacedFolder;
+std::function<void(int)> replacedEnd;
+
+} // namespace
+
+QString ProgramTitle() {
+    return QStringLiteral("Orvalen Years Calendar");
+}
+
+QString ProgramFolder() {
+    return replacedFolder.isEmpty() ? QCoreApplication::applicationDirPath() : replacedFolder;
+}
+
+QString ProgramFile(const QString& name) {
+    return QDir::toNativeSeparators(ProgramFolder() + u'/' + name);
+}
+
+void SetProgramFolder(const QString& folder) {
+    replacedFolder = folder;
+}
+
+void EndProgram(int status) {
+    if (replacedEnd)
+        replacedEnd(status);
+    else
+        QCoreApplication::exit(status); // quit() would first ask every window to close
+}
+
+void SetEndProgram(std::function<void(int)> end) {
+    replacedEnd = std::move(end);
+}
+
+bool HasWindowPositions() {
+    return !QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
+}

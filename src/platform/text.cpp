@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#include "platform/text.h"
+
+#include <QFontInfo>
+#include <QFontMetrics>
+#include <QTextDocument>
+
+namespace {
+
+constexpr int smallestPixelSize = 7;
+
+} // namespace
+
+QString Caption(const std::string& text) {
+    return Text(text).replace(u'&', QStringLiteral("&&"));
+}
+
+QString PlainTip(const QString& text) {
+    return Qt::mightBeRichText(text) ? text.toHtmlEscaped() : text;
+}
+
+QFont FittedFont(const QFont& font, const QString& text, int width) {
+    QFont fitted = font;
+    int pixels = QFontInfo(font).pixelSize();
+    while (pixels > smallestPixelSize && QFontMetrics(fitted).horizontalAdvance(text) > width)
+        fitted.setPixelSize(--pixels);
+    return fitted;
+}
