@@ -1,0 +1,143 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "changecals/changecals.h"
+#include "monthly/frmmonthlycal.h"
+#include "platform/combobox.h"
+#include "platform/commandbutton.h"
+#include "platform/flexgrid.h"
+#include "shared/look.h"
+#include "support/recording_windows.h"
+#include "support/widget_test.h"
+
+/// The monthly window shown on 20 November 2026, the other windows recording.
+class MonthlyTest : public WidgetTest {
+protected:
+    MonthlyTest() {
+        startToday();
+        useRecordingWindows();
+        auto factories = recordingFactories();
+        factories.monthly = [] { return new frmMonthlyCal; };
+        ChangeCals::SetFactories(factories);
+        ChangeCals::ShowMonthlyWindow();
+        ChangeCals::Monthly().activateWindow();
+        EXPECT_TRUE(waitUntil([] { return ChangeCals::Monthly().isActiveWindow(); }));
+        calls.clear();
+    }
+
+    static MonthlyWindow& window() { return ChangeCals::Monthly(); }
+
+    static ComboBox& combo(int kind, int pane) {
+        return *child<ComboBox>(
+            window(), qPrintable(QStringLiteral("Combo%1_%2").arg(kind).arg(pane)));
+    }
+    static ComboBox& combo(int kind) {
+        return *child<ComboBox>(window(), qPrintable(QStringLiteral("Combo%1").arg(kind)));
+    }
+    static MSFlexGrid& grid(int pane) {
+        return *child<MSFlexGrid>(window(), qPrintable(QStringLiteral("MSFlexGrid1_%1").arg(pane)));
+    }
+    static CommandButton& command(int index) {
+        return *child<CommandButton>(window(),
+                                     qPrintable(QStringLiteral("Command1_%1").arg(index)));
+    }
+    static CommandButton& moonButton(int phase) {
+        return *child<CommandButton>(window(),
+                                     qPrintable(QStringLiteral("Command2_%1").arg(phase)));
+    }
+
+    static QPoint cellCentre(MSFlexGrid& grid, int row, int column) {
+        return grid.visualRect(grid.model()->index(row, column)).center();
+    }
+
+    static void pressCell(MSFlexGrid& grid, int row, int column,
+                          Qt::MouseButton button = Qt::LeftButton) {
+        QTest::mouseClick(grid.viewport(), button, {}, cellCentre(grid, row, column));
+    }
+
+    /// The cell that shows a day.
+    static QPoint cellOfDay(MSFlexGrid& grid, int day) {
+        for (int row = 0; row < 7; ++row) {
+            for (int column = 1; column < 7; ++column) {
+                if (grid.TextMatrix(row, column) == QString::number(day))
+                    return {column, row};
+            }
+        }
+        return {-1, -1};
+    }
+
+    static void pressDay(int pane, int day, Qt::MouseButton button = Qt::LeftButton) {
+        const QPoint cell = cellOfDay(grid(pane), day);
+        pressCell(grid(pane), cell.y(), cell.x(), button);
+    }
+
+    /// The texts of the cells marked as the chosen day.
+    static QStringList marked(MSFlexGrid& grid) {
+        QStringList days;
+        const int row = grid.Row();
+        const int column = grid.Col();
+        for (int r = 0; r < 7; ++r) {
+            for (int c = 0; c < 7; ++c) {
+                grid.SetRow(r);
+                grid.SetCol(c);
+                if (grid.CellBackColor() == CalendarColors(ChosenDayBackground))
+                    days.append(grid.TextMatrix(r, c));
+            }
+        }
+        grid.SetRow(row);
+        grid.SetCol(column);
+        return days;
+    }
+
+    static void goTo(int julianDay) {
+        CurJD = julianDay;
+        ChangeCals::ChangeJD();
+        calls.clear();
+    }
+
+    static QString text(int number, int of) {
+        return QStringLiteral("%1/%2").arg(number).arg(of);
+    }
+
+    /// Every pane shows the state.
+    static void expectPanesShowTheState() {
+        for (int pane = 1; pane <= 4; ++pane)
+            expectPaneShowsTheState(pane);
+        EXPECT_EQ(combo(6).ListIndex(), WeekDayNo - 1);
+        EXPECT_EQ(combo(8).Text(), QString::number(CurJD));
+        EXPECT_FALSE(Updating);
+        EXPECT_EQ(SourcePane, 0);
+    }
+
+    static void expectPaneShowsTheState(int pane) {
+        const int c = CalendarOrder(pane);
+        const bool shown = !Calc::IsBeforeRange(c);
+        const bool enabled = shown && !Calc::IsAfterRange(c);
+        EXPECT_EQ(combo(1, pane).ListIndex(), c - 1);
+        for (const int kind : {2, 3, 4, 5}) {
+            EXPECT_EQ(combo(kind, pane).isVisible(), shown) << kind;
+            EXPECT_EQ(combo(kind, pane).isEnabled(), enabled) << kind;
+        }
+        EXPECT_EQ(grid(pane).isVisible(), shown);
+        EXPECT_EQ(grid(pane).isEnabled(), enabled);
+        EXPECT_EQ(marked(grid(pane)), QStringList{QString::number(CurDate(c, Day))}) << pane;
+        EXPECT_EQ(combo(2, pane).Text(), QString::number(CurDate(c, Year)));
+        EXPECT_TRUE(combo(3, pane).Text().startsWith(
+            text(CurDate(c, Month), Calc::MonthsInYear(c)) + QStringLiteral("  ")));
+        EXPECT_EQ(combo(4, pane).Text(), text(CurDate(c, DayNumber), YearDays(c, DaysInYear)));
+        EXPECT_EQ(combo(5, pane).Text(), text(CurDate(c, WeekNumber), YearDays(c, WeeksInYear)));
+    }
+
+    /// Chooses an entry by mouse in the list's popup.
+    static void chooseByMouse(ComboBox& list, int position) {
+        QTest::mouseClick(&list, Qt::LeftButton);
+        ASSERT_TRUE(waitUntil([&list] { return list.view()->isVisible(); }));
+        list.view()->scrollTo(list.model()->index(position, 0));
+        const QRect entry = list.view()->visualRect(list.model()->index(position, 0));
+        // The list takes no release that follows the opening too closely.
+        QTest::qWait(QApplication::doubleClickInterval() + 20);
+        QTest::mouseMove(list.view()->viewport(), entry.center());
+        QTest::mouseClick(list.view()->viewport(), Qt::LeftButton, {}, entry.center());
+        ASSERT_TRUE(waitUntil([&list] { return !list.view()->isVisible(); }));
+    }
+};

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#include <QApplication>
+#include <QLocale>
+#include <cstdio>
+#include <gtest/gtest.h>
+
+namespace {
+
+// The virtual screen of the tests has no stack of windows and says so each time.
+void printMessage(QtMsgType, const QMessageLogContext&, const QString& text) {
+    if (!text.startsWith(QLatin1String("This plugin does not support")))
+        std::fprintf(stderr, "%s\n", qPrintable(text));
+}
+
+} // namespace
+
+int main(int argc, char* argv[]) {
+    testing::InitGoogleTest(&argc, argv);
+    qInstallMessageHandler(printMessage);
+    QApplication app(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    QLocale::setDefault(QLocale::c());
+    return RUN_ALL_TESTS();
+}
