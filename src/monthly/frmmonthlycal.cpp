@@ -36,7 +36,7 @@ frmMonthlyCal::frmMonthlyCal() : MonthlyWindow(QStringLiteral("frmMonthlyCal")) 
         m_image1(c) = new Image(QStringLiteral("Image1_%1").arg(c),
                                 QStringLiteral("emblems/") + emblems(c), this);
     for (int pane = 1; pane <= 4; ++pane) {
-        m_panes(pane) = new Pane(pane, m_chosen, this);
+        m_panes(pane) = new Pane(pane, this);
         connect(m_panes(pane), &Pane::CalendarChosen, this, &frmMonthlyCal::exchangeCalendars);
         connect(&m_panes(pane)->Grid(), &MonthGrid::DayPicked, this, [this] { m_dayPicked = true; });
     }
@@ -207,7 +207,6 @@ void frmMonthlyCal::saveCalendarOrder() {
 }
 
 void frmMonthlyCal::refill(int pane) {
-    m_panes(pane)->Grid().Recolor();
     m_panes(pane)->SetTexts();
     SetCal(pane);
     SetGrid(pane);

@@ -3,10 +3,10 @@
 
 #include "changecals/windows.h"
 #include "monthly/commoninfo.h"
-#include "monthly/monthgrid.h"
 #include "monthly/pane.h"
 #include "platform/commandbutton.h"
 #include "platform/image.h"
+#include "shared/calendars.h"
 #include "shared/table.h"
 
 class QFrame;
@@ -45,7 +45,6 @@ private:
     void saveCalendarOrder();
     void refill(int pane);
 
-    ChosenCells m_chosen;
     bool m_dayPicked = false;
     Table<Image*, calendarCount> m_image1; ///< emblems by calendar
     Table<Pane*, 4> m_panes;

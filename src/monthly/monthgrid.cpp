@@ -20,6 +20,7 @@ constexpr int columnWidth = 255;    // twips
 constexpr int firstRowHeight = 345; // twips
 constexpr int rowHeight = 300;      // twips
 constexpr int digitPixels = 11;
+constexpr int noCalendarColor = 0xFFFFFF;
 
 void step(int& row, int& column) {
     if (++row == rows) {
@@ -34,9 +35,8 @@ int weekdayOfRow(int c, int row) {
 
 } // namespace
 
-MonthGrid::MonthGrid(int pane, ChosenCells& chosen, QWidget* parent)
+MonthGrid::MonthGrid(int pane, QWidget* parent)
     : m_pane(pane),
-      m_chosen(chosen),
       m_grid(new MSFlexGrid(QStringLiteral("MSFlexGrid1_%1").arg(pane), rows, columns, parent)) {
     m_grid->SetFontPixelSize(digitPixels);
     m_grid->SetSelectedColor(CalendarColors(ChosenDayBackground));
@@ -47,30 +47,23 @@ MonthGrid::MonthGrid(int pane, ChosenCells& chosen, QWidget* parent)
         m_grid->SetRowHeight(row, rowHeight);
     m_grid->SetSize(m_grid->ColWidth(0) * 7 + 30,
                     m_grid->RowHeight(0) + 6 * (m_grid->RowHeight(1) + 5));
-    Recolor();
+    recolor();
     m_grid->SetAccessibleText([this](int row, int column) { return accessibleText(row, column); });
     connect(m_grid, &MSFlexGrid::MouseDown, this, &MonthGrid::MSFlexGrid1_MouseDown);
     connect(m_grid, &MSFlexGrid::DblClick, this, &MonthGrid::MSFlexGrid1_DblClick);
 }
 
-void MonthGrid::Recolor() {
-    const int back = isCalendar(calendar()) ? CalendarColors(calendar()) : 0xFFFFFF;
-    m_grid->SetRedraw(false);
-    m_grid->SetBackColor(back);
-    m_grid->SetAllCellColors(back, TextColors(OrdinaryText));
-    m_grid->SetRedraw(true);
-}
-
 void MonthGrid::Fill() {
     Updating = true;
+    m_grid->SetRedraw(false);
+    if (m_shownCalendar != calendar())
+        recolor();
     if (isCalendar(calendar())) {
-        m_grid->SetRedraw(false);
-        unmarkRemembered();
         fillWeekdays();
         fillDays();
-        m_grid->SetRedraw(true);
-        m_grid->Refresh();
     }
+    m_grid->SetRedraw(true);
+    m_grid->Refresh();
     Updating = false;
 }
 
@@ -87,12 +80,10 @@ void MonthGrid::MSFlexGrid1_MouseDown() {
     Q_EMIT DayPicked();
     SourcePane = m_pane;
     m_grid->SetRedraw(false);
-    mark(row, column);
-    unmarkRemembered();
+    moveMark(row, column);
     m_grid->SetRedraw(true);
     m_grid->Refresh();
     CurDate(c, Day) = CLng(Val(text)).value_or(1);
-    remember(row, column);
     ChangeCals::ChangeCal(c);
     SourcePane = 0;
 }
@@ -105,25 +96,28 @@ int MonthGrid::calendar() const {
     return CalendarOrder(m_pane);
 }
 
-void MonthGrid::mark(int row, int column) {
+void MonthGrid::recolor() {
+    m_shownCalendar = calendar();
+    const int back = isCalendar(calendar()) ? CalendarColors(calendar()) : noCalendarColor;
+    m_grid->SetBackColor(back);
+    m_grid->SetAllCellColors(back, TextColors(OrdinaryText));
+}
+
+void MonthGrid::moveMark(int row, int column) {
+    setCellLook(m_markedRow, m_markedCol, CalendarColors(calendar()), TextColors(OrdinaryText),
+                false);
+    setCellLook(row, column, CalendarColors(ChosenDayBackground), TextColors(ChosenDayText), true);
+    m_markedRow = row;
+    m_markedCol = column;
+}
+
+// Leaves the cell current.
+void MonthGrid::setCellLook(int row, int column, int back, int fore, bool bold) {
     m_grid->SetRow(row);
     m_grid->SetCol(column);
-    m_grid->SetCellBackColor(CalendarColors(ChosenDayBackground));
-    m_grid->SetCellForeColor(TextColors(ChosenDayText));
-    m_grid->SetCellFontBold(true);
-}
-
-void MonthGrid::unmarkRemembered() {
-    m_grid->SetRow(m_chosen.Row(calendar()));
-    m_grid->SetCol(m_chosen.Col(calendar()));
-    m_grid->SetCellBackColor(CalendarColors(calendar()));
-    m_grid->SetCellForeColor(TextColors(OrdinaryText));
-    m_grid->SetCellFontBold(false);
-}
-
-void MonthGrid::remember(int row, int column) {
-    m_chosen.Row(calendar()) = row;
-    m_chosen.Col(calendar()) = column;
+    m_grid->SetCellBackColor(back);
+    m_grid->SetCellForeColor(fore);
+    m_grid->SetCellFontBold(bold);
 }
 
 void MonthGrid::fillWeekdays() {
@@ -140,10 +134,8 @@ void MonthGrid::fillDays() {
         m_grid->SetTextMatrix(before, column, QString());
     for (int day = 1; day <= MonthDays(c, month); ++day) {
         m_grid->SetTextMatrix(row, column, QString::number(day));
-        if (day == CurDate(c, Day)) {
-            mark(row, column);
-            remember(row, column);
-        }
+        if (day == CurDate(c, Day))
+            moveMark(row, column);
         step(row, column);
     }
     blankFrom(row, column);

@@ -72,13 +72,13 @@ void fillWhenUsed(ComboBox* list, QObject* context, const Fill& fill) {
 
 } // namespace
 
-Pane::Pane(int pane, ChosenCells& chosen, QWidget* parent)
+Pane::Pane(int pane, QWidget* parent)
     : QObject(parent),
       m_pane(pane),
       m_combo1(newCombo(1, pane, parent)),
       m_combo2(newCombo(2, pane, parent)),
       m_combo3(newCombo(3, pane, parent)),
-      m_grid(pane, chosen, parent),
+      m_grid(pane, parent),
       m_combo4(newCombo(4, pane, parent)),
       m_combo5(newCombo(5, pane, parent)) {
     fillWhenUsed(m_combo2, this, [this] {

@@ -13,7 +13,7 @@ class Pane : public QObject {
     Q_OBJECT
 
 public:
-    Pane(int pane, ChosenCells& chosen, QWidget* parent);
+    Pane(int pane, QWidget* parent);
 
     /// Places the pane's controls; returns the y of its lower edge, in pixels.
     int Place(int top);

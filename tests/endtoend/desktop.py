@@ -8,6 +8,7 @@ import pathlib
 import re
 import select
 import subprocess
+import time
 
 import picture
 from waiting import wait_until
@@ -59,11 +60,10 @@ class Desktop:
         stack = _window_numbers(_line(text, "_NET_CLIENT_LIST_STACKING"))
         return stack[-1] if stack and active == stack[-1:] else 0
 
-    def has_popup_list(self, pid):
+    def has_popup(self, pid):
         """Whether a process has the list of a drop-down control open."""
         found = self.run("xdotool", "search", "--onlyvisible", "--pid", str(pid), check=False)
-        return any("_TYPE_COMBO" in self._xprop("-id", number, "_NET_WM_WINDOW_TYPE")
-                   for number in found.split())
+        return any(self._is_popup(number) for number in found.split())
 
     def contents_rectangle(self, number):
         """Left, top, width and height of a window's contents on the screen."""
@@ -81,7 +81,7 @@ class Desktop:
     def picture_of(self, number):
         """The screen where a window stands, with what covers it."""
         path = self._folder / "window.ppm"
-        self.run("import", "-silent", "-window", str(number), str(path))
+        self.run("import", "-silent", "-window", str(number), "-depth", "8", str(path))
         return picture.read_ppm(path)
 
     def save_screenshot(self, path):
@@ -104,12 +104,8 @@ class Desktop:
         self._launch(["Xvfb", "-displayfd", str(writing), "-screen", "0", screen, "-dpi", "96",
                       "-nolisten", "tcp", "-noreset"], pass_fds=[writing])
         os.close(writing)
-        ready, _, _ = select.select([reading], [], [], START_SECONDS)
-        number = os.read(reading, 16).decode().strip() if ready else ""
-        os.close(reading)
-        if not number:
-            raise RuntimeError("the X server does not start")
-        self._display = f":{number}"
+        with open(reading, "rb", buffering=0) as pipe:
+            self._display = f":{_read_line(pipe, START_SECONDS)}"
 
     def _start_window_manager(self):
         settings = pathlib.Path(__file__).with_name("openbox.xml")
@@ -136,9 +132,27 @@ class Desktop:
         kind = _line(text, "_NET_WM_WINDOW_TYPE").split(",")[0].rpartition("_")[2]
         return ManagedWindow(number, title, kind, state.group(1))
 
+    # On the screen without the window manager, and no tool tip.
+    def _is_popup(self, number):
+        text = self._xprop("-id", number, "_NET_WM_WINDOW_TYPE", "WM_STATE")
+        return "WM_STATE:  not found" in text and "_TYPE_TOOLTIP" not in text
+
     # Empty for a window that has gone meanwhile.
     def _xprop(self, *arguments):
         return self.run("xprop", *arguments, check=False)
+
+
+# The server writes the line in parts, and gives up when it cannot end it.
+def _read_line(pipe, seconds):
+    deadline = time.monotonic() + seconds
+    line = b""
+    while not line.endswith(b"\n"):
+        ready, _, _ = select.select([pipe], [], [], max(0, deadline - time.monotonic()))
+        part = pipe.read(16) if ready else b""
+        if not part:
+            raise RuntimeError("the X server does not start")
+        line += part
+    return line.decode().strip()
 
 
 def _line(text, name):

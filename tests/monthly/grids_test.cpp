@@ -159,6 +159,7 @@ TEST_F(MonthGrids, ADoubleClickChoosesTheDayOnceAndOpensTheYearWindow) {
     countChanges();
     const QPoint cell = cellOfDay(grid(3), 17);
     const QPoint at = cellCentre(grid(3), cell.y(), cell.x());
+    QTest::mouseClick(grid(3).viewport(), Qt::LeftButton, {}, at);
     QTest::mouseDClick(grid(3).viewport(), Qt::LeftButton, {}, at);
     EXPECT_EQ(CurDate(Jewish, Day), 17);
     EXPECT_TRUE(ChangeCals::Year(Jewish).Visible());

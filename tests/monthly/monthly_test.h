@@ -2,6 +2,7 @@
 #pragma once
 
 #include "changecals/changecals.h"
+#include "changecals/opening.h"
 #include "monthly/frmmonthlycal.h"
 #include "platform/combobox.h"
 #include "platform/commandbutton.h"
@@ -9,6 +10,10 @@
 #include "shared/look.h"
 #include "support/recording_windows.h"
 #include "support/widget_test.h"
+
+#include <QAbstractItemView>
+#include <QDir>
+#include <algorithm>
 
 /// The monthly window shown on 20 November 2026, the other windows recording.
 class MonthlyTest : public WidgetTest {
@@ -132,10 +137,13 @@ protected:
     static void chooseByMouse(ComboBox& list, int position) {
         QTest::mouseClick(&list, Qt::LeftButton);
         ASSERT_TRUE(waitUntil([&list] { return list.view()->isVisible(); }));
-        list.view()->scrollTo(list.model()->index(position, 0));
-        const QRect entry = list.view()->visualRect(list.model()->index(position, 0));
-        // The list takes no release that follows the opening too closely.
+        // The list takes no release that follows its opening too closely.
         QTest::qWait(QApplication::doubleClickInterval() + 20);
+        const QModelIndex index = list.model()->index(position, 0);
+        list.view()->scrollTo(index, QAbstractItemView::PositionAtCenter);
+        processEvents();
+        const QRect entry = list.view()->visualRect(index);
+        ASSERT_TRUE(list.view()->viewport()->rect().contains(entry.center()));
         QTest::mouseMove(list.view()->viewport(), entry.center());
         QTest::mouseClick(list.view()->viewport(), Qt::LeftButton, {}, entry.center());
         ASSERT_TRUE(waitUntil([&list] { return !list.view()->isVisible(); }));

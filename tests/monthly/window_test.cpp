@@ -225,8 +225,7 @@ TEST_F(MonthlyWindowTest, APaneWithoutACalendarStandsEmptyAndIsRepairedByChoosin
 TEST_F(MonthlyWindowTest, APaneWithoutACalendarCanTakeOneThatAnotherPaneShows) {
     CalendarOrder = {9, Gregorian, Jewish, Moslem};
     window().ReSetForm();
-    combo(1, 1).setFocus();
-    QTest::keyClicks(&combo(1, 1), QStringLiteral("Jewish"));
+    chooseByMouse(combo(1, 1), Jewish - 1);
     EXPECT_EQ(CalendarOrder(1), Jewish);
     EXPECT_EQ(CalendarOrder(3), 9);
     EXPECT_FALSE(grid(3).isVisible());

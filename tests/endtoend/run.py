@@ -1,0 +1,78 @@
+# SPDX-License-Identifier: MIT
+"""Runs the end-to-end tests: python3 run.py <folder of the built program>."""
+
+import pathlib
+import sys
+import tempfile
+import unittest
+
+sys.dont_write_bytecode = True  # before the first of the modules beside this file
+
+import desktop
+import program
+import testcase
+
+
+class Result(unittest.TextTestResult):
+    """Counts the tests that fail and keeps pictures of the screen at that moment."""
+
+    def __init__(self, *arguments, **options):
+        super().__init__(*arguments, **options)
+        self.failed = set()
+        self._screenshots = None
+
+    def addFailure(self, test, error):
+        super().addFailure(test, error)
+        self._note(test)
+
+    def addError(self, test, error):
+        super().addError(test, error)
+        self._note(test)
+
+    def addSubTest(self, test, subtest, error):
+        super().addSubTest(test, subtest, error)
+        if error is not None:
+            self._note(test)
+
+    def _note(self, test):
+        self.failed.add(test.id())
+        if self._screenshots is None:
+            self._screenshots = pathlib.Path(tempfile.mkdtemp(prefix="orvalen-screenshots-"))
+        path = self._screenshots / f"{test.id()}.png"
+        try:
+            testcase.EndToEndTest.desktop.save_screenshot(path)
+            self.stream.writeln(f"screenshot: {path}")
+        except (AssertionError, OSError) as problem:
+            self.stream.writeln(f"no screenshot: {problem}")
+
+
+def load_tests():
+    folder = str(pathlib.Path(__file__).resolve().parent)
+    return unittest.defaultTestLoader.discover(folder, "test_*.py", folder)
+
+
+def run_tests():
+    runner = unittest.TextTestRunner(stream=sys.stdout, verbosity=2, resultclass=Result)
+    with tempfile.TemporaryDirectory(prefix="orvalen-desktop-") as folder:
+        testcase.EndToEndTest.desktop = desktop.Desktop(folder)
+        try:
+            testcase.EndToEndTest.desktop.start()
+            return runner.run(load_tests())
+        finally:
+            testcase.EndToEndTest.desktop.stop()
+
+
+def main(arguments):
+    built = pathlib.Path(arguments[0]) if len(arguments) == 1 else None
+    if built is None or not (built / program.EXECUTABLE).is_file():
+        print(__doc__, file=sys.stderr)
+        return 2
+    testcase.EndToEndTest.built = built.resolve()
+    result = run_tests()
+    failed = len(result.failed)
+    print(f"{result.testsRun - failed} passed, {failed} failed", flush=True)
+    return 1 if failed or result.testsRun == 0 else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main(sys.argv[1:]))

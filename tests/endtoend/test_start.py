@@ -1,0 +1,108 @@
+# SPDX-License-Identifier: MIT
+"""The start: what appears, and when."""
+
+import time
+
+from settings import position_names
+from testcase import EndToEndTest
+from windows import MONTHLY_TITLE, YEAR_TITLES
+
+SHORTEST_SPLASH = 1.03  # seconds
+QUIET_SECONDS = 1
+
+
+class FirstStart(EndToEndTest):
+    def test_monthly_window_appears_alone(self):
+        self.start_monthly()
+        self.assert_titles([MONTHLY_TITLE])
+
+    def test_starting_writes_no_settings(self):
+        self.start_monthly()
+        self.assertEqual(list(self.program.config.iterdir()), [])
+
+    def test_close_button_ends_the_program(self):
+        self.start_monthly().press("close")
+        self.assert_ends_well()
+
+    def test_close_button_stores_the_twelve_positions_and_nothing_else(self):
+        self.start_monthly().press("close")
+        self.assert_ends_well()
+        self.assertEqual(set(self.settings.read()), position_names())
+
+
+class Splash(EndToEndTest):
+    def test_splash_is_shown_long_enough_before_the_monthly_window(self):
+        self.program.start()
+        shown_after = self._last_moment_without(self.program.has_splash)
+        self._last_moment_without(self._has_monthly)
+        seconds = time.monotonic() - shown_after
+        self.assertGreaterEqual(seconds, SHORTEST_SPLASH)
+
+    # The beginning of the last look at which it was not there.
+    def _last_moment_without(self, condition):
+        deadline = time.monotonic() + 10
+        last = time.monotonic()
+        while not condition():
+            self.assertLess(last, deadline, self.program.describe_windows())
+            last = time.monotonic()
+        return last
+
+    def _has_monthly(self):
+        return MONTHLY_TITLE in self.program.titles()
+
+
+class StartupWindow(EndToEndTest):
+    def test_window_1_shows_the_julian_year_alone(self):
+        self._check_year_alone("Julian")
+
+    def test_window_2_shows_the_gregorian_year_alone(self):
+        self._check_year_alone("Gregorian")
+
+    def test_window_3_shows_the_jewish_year_alone(self):
+        self._check_year_alone("Jewish")
+
+    def test_window_4_shows_the_moslem_year_alone(self):
+        self._check_year_alone("Moslem")
+
+    def test_window_9_shows_no_window_and_the_program_runs_on(self):
+        self.settings.write({"Startup/Window": 9})
+        self.program.start()
+        self.program.wait_until_started()
+        self._check_nothing_appears()
+        self.program.terminate()
+
+    def _check_year_alone(self, calendar):
+        window = self.start_year(calendar)
+        self.assert_titles([YEAR_TITLES[calendar]])
+        window.press("close")
+        self.assert_ends_well()
+
+    def _check_nothing_appears(self):
+        end = time.monotonic() + QUIET_SECONDS
+        while time.monotonic() < end:
+            self.assertEqual(self.program.titles(), [])
+            self.assertTrue(self.program.is_running(), self.program.describe_windows())
+
+
+class MissingMoonPicture(EndToEndTest):
+    def setUp(self):
+        super().setUp()
+        (self.program.folder / "Moon.bmp").unlink()
+
+    def test_one_message_comes_before_the_monthly_window(self):
+        self.program.start()
+        box = self.program.message_box()
+        self.assertNotIn(MONTHLY_TITLE, self.program.titles())
+        box.accept()
+        self.program.monthly_window()
+        self.assertEqual(self.program.message_boxes_seen(), 1)
+
+    def test_program_works_after_the_message(self):
+        self.program.start()
+        self.program.message_box().accept()
+        monthly = self.program.monthly_window()
+        monthly.press_moon()
+        self.program.moon_window()
+        monthly.press("close")
+        self.assert_ends_well()
+        self.assertEqual(self.program.message_boxes_seen(), 1)

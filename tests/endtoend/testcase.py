@@ -1,0 +1,49 @@
+# SPDX-License-Identifier: MIT
+"""What every end-to-end test starts from."""
+
+import pathlib
+import shutil
+import tempfile
+import unittest
+
+from program import Program
+
+
+class EndToEndTest(unittest.TestCase):
+    """A test with a program of its own that is not started yet."""
+
+    longMessage = True
+
+    # Set before the tests run.
+    desktop = None
+    built = None
+
+    def setUp(self):
+        folder = pathlib.Path(tempfile.mkdtemp(prefix="orvalen-test-"))
+        self.addCleanup(shutil.rmtree, folder, ignore_errors=True)
+        self.folder = folder
+        self.program = Program(self.desktop, self.built, folder)
+        self.addCleanup(self.program.kill)
+        self.settings = self.program.settings
+        self.desktop.xdotool("mousemove", 0, 0)
+
+    def start_monthly(self, **title):
+        """Starts the program and returns its monthly window."""
+        self.program.start()
+        self.program.wait_until_started()
+        return self.program.monthly_window(**title)
+
+    def start_year(self, calendar, settings=None):
+        """Starts the program with the year window of a calendar."""
+        number = ("Julian", "Gregorian", "Jewish", "Moslem").index(calendar) + 1
+        self.settings.write({"Startup/Window": number} | (settings or {}))
+        self.program.start()
+        self.program.wait_until_started()
+        return self.program.year_window(calendar)
+
+    def assert_ends_well(self):
+        self.assertEqual(self.program.wait_for_exit(), 0, "exit status")
+
+    def assert_titles(self, titles, message=None):
+        """Exactly these windows are open."""
+        self.assertEqual(self.program.titles(), sorted(titles), message)

@@ -1,0 +1,125 @@
+// SPDX-License-Identifier: MIT
+// Initialisation files of random bytes, of the kind that upsets a reader.
+#include "platform/profile.h"
+
+#include <gtest/gtest.h>
+#include <random>
+#include <utility>
+#include <vector>
+
+namespace {
+
+constexpr int inputs = 5000;
+constexpr int largestInput = 2048;
+constexpr int manyInputs = 1000000;
+constexpr int smallInput = 200;
+constexpr int bufferSize = 255;
+
+const std::vector<std::pair<QByteArray, int>> sections{
+    {"CALENDARS", 5}, {"JGMONTHS", 12},    {"JMONTHS", 12}, {"MMONTHS", 12},
+    {"WEEKDAYS", 7},  {"WEEKDAYSABBR", 7}, {"LABELS", 12},  {"STRINGS", 25}};
+
+const std::vector<QByteArray> pieces{"[",
+                                     "]",
+                                     "=",
+                                     ";",
+                                     "\"",
+                                     "'",
+                                     " ",
+                                     "\t",
+                                     "\r",
+                                     "\n",
+                                     "\n",
+                                     "\r\n",
+                                     "\n1=",
+                                     "\n 2 = ",
+                                     "\xEF\xBB\xBF",
+                                     "\xD0\xAF",
+                                     "\xE2\x80\x94",
+                                     "\xF0\x9F\x8C\x99",
+                                     "\xD0",
+                                     "\x80",
+                                     "\xFF",
+                                     "\xED\xA0\x80",
+                                     "abc",
+                                     "\n[STRINGS]\n",
+                                     QByteArray(1, '\0'),
+                                     QByteArray(260, 'x')};
+
+/// Makes files of pieces that mean something to the reader, and of any bytes.
+class Generator {
+public:
+    explicit Generator(unsigned seed) : m_random(seed) {}
+
+    QByteArray make(int largest) {
+        const int size = below(largest + 1);
+        const bool bytesToo = below(2) == 0;
+        QByteArray bytes;
+        while (bytes.size() < size)
+            bytes += next(bytesToo);
+        return bytes.left(size);
+    }
+
+private:
+    int below(int limit) { return static_cast<int>(m_random() % static_cast<unsigned>(limit)); }
+
+    QByteArray next(bool bytesToo) {
+        const int kind = below(10);
+        if (kind < 2)
+            return '[' + sections[static_cast<std::size_t>(below(8))].first + "]\n";
+        if (kind < 4)
+            return QByteArray::number(below(26)) + '=';
+        if (kind < 5 && bytesToo)
+            return QByteArray(1, static_cast<char>(below(256)));
+        return pieces[static_cast<std::size_t>(below(static_cast<int>(pieces.size())))];
+    }
+
+    std::mt19937 m_random;
+};
+
+// Independent of the reader's own judgement.
+bool isValidUtf8(const QByteArray& bytes) {
+    const QByteArray marked = 'x' + bytes; // a mark at the start would be dropped
+    return QString::fromUtf8(marked).toUtf8() == marked;
+}
+
+// What is wrong with an answer, nullptr when nothing is.
+const char* faultOf(const ProfileFile& file, bool utf8, const QByteArray& value) {
+    if (value.size() >= bufferSize)
+        return "too long";
+    if (value.contains('\0') || value.contains('\n'))
+        return "goes on behind its end";
+    if (utf8 && !isValidUtf8(value))
+        return "a character is cut";
+    return file.Decode(value).size() <= value.size() ? nullptr : "more characters than bytes";
+}
+
+void readEverything(const QByteArray& bytes) {
+    const ProfileFile file = ProfileFile::FromBytes(bytes);
+    const bool utf8 = isValidUtf8(bytes);
+    for (const auto& [section, keys] : sections) {
+        for (int key = 1; key <= keys; ++key) {
+            const QByteArray value =
+                file.GetPrivateProfileString(section, ' ' + QByteArray::number(key), bufferSize);
+            const char* fault = value.isEmpty() ? nullptr : faultOf(file, utf8, value);
+            ASSERT_EQ(fault, nullptr) << fault << ": [" << section.data() << "] " << key << " of "
+                                      << bytes.toHex().data();
+        }
+    }
+}
+
+void readInputs(unsigned seed, int count, int largest) {
+    Generator generator(seed);
+    for (int i = 0; i < count && !testing::Test::HasFatalFailure(); ++i)
+        readEverything(generator.make(largest));
+}
+
+TEST(ProfileFuzz, NoFileUpsetsTheReader) {
+    readInputs(20261120, inputs, largestInput);
+}
+
+TEST(ProfileFuzz, DISABLED_AMillionInputs) {
+    readInputs(19980101, manyInputs, smallInput);
+}
+
+} // namespace

@@ -1,0 +1,230 @@
+// SPDX-License-Identifier: MIT
+#include "platform/profile.h"
+
+#include "support/widget_test.h"
+
+#include <QDir>
+#include <QFile>
+
+namespace {
+
+constexpr int bufferSize = 255;
+
+class Profile : public WidgetTest {};
+
+QByteArray read(const QByteArray& bytes, const QByteArray& section = "S",
+                const QByteArray& key = " 1") {
+    return ProfileFile::FromBytes(bytes).GetPrivateProfileString(section, key, bufferSize);
+}
+
+struct ValueRow {
+    const char* line;
+    const char* value;
+};
+
+void expectValues(std::initializer_list<ValueRow> rows) {
+    for (const ValueRow& row : rows)
+        EXPECT_EQ(read(QByteArray("[S]\n") + row.line + "\n"), QByteArray(row.value)) << row.line;
+}
+
+TEST_F(Profile, NamesAreMatchedWithoutRegardToCase) {
+    for (const char* header : {"[LABELS]", "[labels]", "[Labels]"}) {
+        for (const char* key : {"KEY", "key", "Key"})
+            EXPECT_EQ(read(QByteArray(header) + "\n" + key + "=x\n", "LaBeLs", "kEy"), "x")
+                << header << key;
+    }
+}
+
+TEST_F(Profile, BlanksAndTabsAroundEverythingAreIgnored) {
+    EXPECT_EQ(read(" \t[ \tS\t ] \t\n\t 1 \t=\t x y \t\n"), "x y");
+    EXPECT_EQ(read("[S]\n1=x\n", " S ", " 1"), "x");
+    EXPECT_EQ(read("[S]\n 1=x\n", "S", "1"), "x");
+}
+
+TEST_F(Profile, AMatchingPairOfQuotesIsTakenOff) {
+    expectValues({{"1=\"x\"", "x"},
+                  {"1='x'", "x"},
+                  {"1=  \"x\"  ", "x"},
+                  {"1=\"  x  \"", "  x  "},
+                  {"1='\"x\"'", "\"x\""},
+                  {"1=\"\"x\"\"", "\"x\""},
+                  {"1=\"it's\"", "it's"}});
+}
+
+TEST_F(Profile, OtherQuotesAreKept) {
+    expectValues({{"1=\"x", "\"x"},
+                  {"1=x\"", "x\""},
+                  {"1=\"x'", "\"x'"},
+                  {"1=a \"b\" c", "a \"b\" c"},
+                  {"1=\"", "\""},
+                  {"1='", "'"},
+                  {"1=it's", "it's"}});
+}
+
+TEST_F(Profile, AValueOfBlanksIsABlank) {
+    expectValues({{"1=   ", " "}, {"1= ", " "}, {"1=\t", " "}, {"1=\" \"", " "}});
+    EXPECT_EQ(read("[S]\r\n1=  \r\n"), " ");
+}
+
+TEST_F(Profile, NothingAfterTheEqualsSignIsNothing) {
+    expectValues({{"1=", ""}, {"1=\"\"", ""}, {"1=''", ""}, {"1", ""}, {"2=x", ""}});
+    EXPECT_EQ(read("[S]\r\n1=\r\n"), "");
+    EXPECT_EQ(read("[S]\n1="), "");
+}
+
+TEST_F(Profile, SemicolonsOpenACommentAtTheLinesStartOnly) {
+    expectValues({{";1=x", ""}, {"  ;1=x", ""}, {"1=x ; y", "x ; y"}, {"1=;", ";"}});
+    EXPECT_EQ(read(";[S]\n1=x\n"), "");
+    EXPECT_EQ(read("[S]\n;1=a\n1=b\n"), "b");
+}
+
+TEST_F(Profile, EqualsSignsStandInsideValues) {
+    expectValues({{"1=a=b", "a=b"}, {"1==", "="}, {"1= = ", "="}});
+}
+
+TEST_F(Profile, EveryLineEndIsTaken) {
+    for (const char* end : {"\n", "\r\n"}) {
+        const QByteArray lines = QByteArray("[S]") + end + "1=x" + end + "2=y";
+        EXPECT_EQ(read(lines, "S", "1"), "x");
+        EXPECT_EQ(read(lines, "S", "2"), "y") << "the last line has no end";
+    }
+}
+
+TEST_F(Profile, OnlyTheFirstOfSectionsOfOneNameIsSearched) {
+    const QByteArray lines("[S]\n2=a\n[T]\n1=t\n[s]\n1=b\n2=c\n");
+    EXPECT_EQ(read(lines, "S", "1"), "");
+    EXPECT_EQ(read(lines, "S", "2"), "a");
+    EXPECT_EQ(read(lines, "T", "1"), "t");
+}
+
+TEST_F(Profile, TheFirstOfEqualKeysIsTaken) {
+    EXPECT_EQ(read("[S]\n1=a\n1=b\n"), "a");
+    EXPECT_EQ(read("[S]\n1=\n1=b\n"), "");
+}
+
+TEST_F(Profile, EntriesBeforeAnySectionAreIgnored) {
+    EXPECT_EQ(read("1=x\n[S]\n2=y\n"), "");
+    EXPECT_EQ(read("1=x\n", ""), "");
+}
+
+TEST_F(Profile, SectionsEndAtTheNextHeader) {
+    EXPECT_EQ(read("[S]\n2=y\n[T]\n1=x\n"), "");
+    EXPECT_EQ(read("[T]\n1=x\n"), "");
+}
+
+TEST_F(Profile, AHeaderWithoutItsBracketIsNone) {
+    EXPECT_EQ(read("[S\n1=x\n"), "");
+    EXPECT_EQ(read("[S]\n[T\n1=x\n"), "x");
+    EXPECT_EQ(read("S]\n1=x\n"), "");
+}
+
+TEST_F(Profile, AHeaderEndsAtItsFirstBracket) {
+    EXPECT_EQ(read("[S] tail\n1=x\n"), "x");
+    EXPECT_EQ(read("[S]]\n1=x\n"), "x");
+}
+
+TEST_F(Profile, AByteOrderMarkIsSkipped) {
+    EXPECT_EQ(read("\xEF\xBB\xBF[S]\n1=x\n"), "x");
+    const ProfileFile file = ProfileFile::FromBytes("\xEF\xBB\xBF[S]\n1=\xC3\xA4\n");
+    EXPECT_EQ(file.Decode("\xC3\xA4"), QString::fromUtf8("ä"));
+}
+
+TEST_F(Profile, ANulEndsAValue) {
+    using namespace std::string_literals;
+    EXPECT_EQ(read(QByteArray::fromStdString("[S]\n1=ab\0cd\n"s)), "ab");
+    EXPECT_EQ(read(QByteArray::fromStdString("[S]\n1=\0cd\n"s)), "");
+    EXPECT_EQ(read(QByteArray::fromStdString("[S]\n1=ab  \0cd\n2=y\n"s)), "ab");
+    EXPECT_EQ(read(QByteArray::fromStdString("[S]\n1=\"a\0b\"\n"s)), "\"a");
+    EXPECT_EQ(read(QByteArray::fromStdString("[S]\n1=a\0b\n2=y\n"s), "S", "2"), "y");
+}
+
+TEST_F(Profile, ValuesAreCutAt254Bytes) {
+    for (const int size : {253, 254})
+        EXPECT_EQ(read("[S]\n1=" + QByteArray(size, 'x') + "\n").size(), size);
+    for (const int size : {255, 10000})
+        EXPECT_EQ(read("[S]\n1=" + QByteArray(size, 'x') + "\n"), QByteArray(254, 'x'));
+}
+
+TEST_F(Profile, NoCharacterIsCut) {
+    const struct {
+        const char* character;
+        int before;
+        int kept;
+    } rows[] = {{"\xD0\xAF", 253, 253},         {"\xD0\xAF", 252, 254},
+                {"\xE2\x80\x94", 252, 252},     {"\xE2\x80\x94", 253, 253},
+                {"\xE2\x80\x94", 251, 254},     {"\xF0\x9F\x8C\x99", 251, 251},
+                {"\xF0\x9F\x8C\x99", 253, 253}, {"\xF0\x9F\x8C\x99", 250, 254}};
+    for (const auto& row : rows) {
+        const QByteArray value = QByteArray(row.before, 'x') + row.character + "tail";
+        EXPECT_EQ(read("[S]\n1=" + value + "\n"), value.left(row.kept)) << row.before;
+    }
+}
+
+TEST_F(Profile, AFileThatIsNoUtf8IsCutAtExactly254Bytes) {
+    const QByteArray value = QByteArray(253, 'x') + "\xD0\xAF";
+    EXPECT_EQ(read("[S]\n1=" + value + "\n2=\xC0\n"), value.left(254));
+    EXPECT_EQ(read("[S]\n1=" + QByteArray(300, '\xBF') + "\n"), QByteArray(254, '\xBF'));
+}
+
+TEST_F(Profile, ValuesAreCutAfterQuotesAndBlanksAreGone) {
+    const QByteArray value(254, 'x');
+    EXPECT_EQ(read("[S]\n1=\"" + value + "\"\n"), value);
+    EXPECT_EQ(read("[S]\n1=" + QByteArray(300, ' ') + value + "   \n"), value);
+    EXPECT_EQ(read("[S]\n1=   '" + value + "y'\n"), value);
+}
+
+TEST_F(Profile, TheSizeAskedForHoldsAFinalNul) {
+    const ProfileFile file = ProfileFile::FromBytes("[S]\n1=abcdef\n");
+    EXPECT_EQ(file.GetPrivateProfileString("S", "1", 4), "abc");
+    EXPECT_EQ(file.GetPrivateProfileString("S", "1", 1), "");
+}
+
+TEST_F(Profile, TextsAreUtf8OrTheUsersCodePage) {
+    QLocale::setDefault(QLocale(QLocale::Russian));
+    const ProfileFile utf8 = ProfileFile::FromBytes("[S]\n1=\xD0\xAF\n");
+    EXPECT_EQ(utf8.Decode("\xD0\xAF"), QString::fromUtf8("Я"));
+    const ProfileFile windows = ProfileFile::FromBytes("[S]\n1=\xDF\n");
+    EXPECT_EQ(windows.Decode("\xDF"), QString::fromUtf8("Я"));
+    QLocale::setDefault(QLocale::c());
+    EXPECT_EQ(windows.Decode("\xDF"), QString::fromUtf8("ß"));
+}
+
+TEST_F(Profile, EmptyAndBinaryFilesHoldNothing) {
+    for (const QByteArray& bytes : {QByteArray(), QByteArray("\xEF\xBB\xBF"), QByteArray("\n\n\r"),
+                                    QByteArray(1000, '\0'), QByteArray("[]"), QByteArray("=")})
+        EXPECT_EQ(read(bytes), "");
+}
+
+TEST_F(Profile, FilesAreReadUpToTheLargestSize) {
+    const QString path = programPath(QStringLiteral("x.lng"));
+    const QByteArray start("[S]\n1=x\n");
+    writeFile(path, start.leftJustified(ProfileFile::largestSize, '\n'));
+    const ProfileFile largest(path);
+    EXPECT_EQ(largest.ReadStatus(), ProfileFile::Status::Read);
+    EXPECT_EQ(largest.GetPrivateProfileString("S", "1", bufferSize), "x");
+    writeFile(path, start.leftJustified(ProfileFile::largestSize + 1, '\n'));
+    const ProfileFile tooLarge(path);
+    EXPECT_EQ(tooLarge.ReadStatus(), ProfileFile::Status::TooLarge);
+    EXPECT_EQ(tooLarge.GetPrivateProfileString("S", "1", bufferSize), "");
+}
+
+TEST_F(Profile, WhatIsNoFileCannotBeRead) {
+    const QString folder = programPath(QStringLiteral("folder.lng"));
+    const QString link = programPath(QStringLiteral("link.lng"));
+    ASSERT_TRUE(QDir().mkpath(folder));
+    ASSERT_TRUE(QFile::link(programPath(QStringLiteral("nowhere")), link));
+    for (const QString& path : {folder, link, programPath(QStringLiteral("missing.lng"))}) {
+        const ProfileFile file(path);
+        EXPECT_EQ(file.ReadStatus(), ProfileFile::Status::Unreadable);
+        EXPECT_EQ(file.GetPrivateProfileString("S", "1", bufferSize), "");
+    }
+}
+
+TEST_F(Profile, LinksToFilesAreRead) {
+    writeFile(programPath(QStringLiteral("x.lng")), "[S]\n1=x\n");
+    const QString link = programPath(QStringLiteral("link.lng"));
+    ASSERT_TRUE(QFile::link(programPath(QStringLiteral("x.lng")), link));
+    EXPECT_EQ(ProfileFile(link).GetPrivateProfileString("S", "1", bufferSize), "x");
+}
+
+} // namespace
