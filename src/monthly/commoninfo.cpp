@@ -115,9 +115,7 @@ void CommonInfo::fillMoonAges() {
     for (float age = firstAge; age < ChangeCals::lunation; age += 1)
         ages.append(moonAgeText(age));
     Updating = true;
-    m_combo7->Clear();
-    m_combo7->AddItems(ages);
-    m_combo7->SetListIndex(daysPassed);
+    m_combo7->SetItems(ages, daysPassed);
     Updating = false;
 }
 

@@ -47,6 +47,7 @@ frmMonthlyCal::frmMonthlyCal() : MonthlyWindow(QStringLiteral("frmMonthlyCal")) 
     createCommands();
     m_common->JulianDay()->SetLeavingControl(m_command1(Close));
     place();
+    m_panes(1)->Grid().Control()->setFocus();
     SetTexts();
     ChangeCals::PlaceForm(*this, MonthlyWindowNumber);
 }

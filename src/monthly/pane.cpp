@@ -54,9 +54,7 @@ void fillOnUse(ComboBox* list, int c, Entry entry, int first, int last, int chos
     for (int number = first; number <= last; ++number)
         entries.append(entry(c, number));
     Updating = true;
-    list->Clear();
-    list->AddItems(entries);
-    list->SetListIndex(chosen - first);
+    list->SetItems(entries, chosen - first);
     Updating = false;
 }
 

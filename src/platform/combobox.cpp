@@ -5,13 +5,17 @@
 
 #include <QAbstractItemView>
 #include <QFocusEvent>
+#include <QStringListModel>
 #include <QStyle>
 #include <QStyleOptionComboBox>
 #include <QStylePainter>
 #include <QWheelEvent>
 
-ComboBox::ComboBox(const QString& name, QWidget* parent) : QComboBox(parent) {
+ComboBox::ComboBox(const QString& name, QWidget* parent)
+    : QComboBox(parent),
+      m_items(new QStringListModel(this)) {
     setObjectName(name);
+    setModel(m_items);
     setFocusPolicy(Qt::StrongFocus);
     setMaxVisibleItems(15);
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
@@ -19,10 +23,9 @@ ComboBox::ComboBox(const QString& name, QWidget* parent) : QComboBox(parent) {
     connect(this, &QComboBox::activated, this, &ComboBox::Click);
 }
 
-void ComboBox::SetOnlyItem(const QString& text) {
-    clear();
-    addItem(text);
-    setCurrentIndex(0);
+void ComboBox::SetItems(const QStringList& texts, int position) {
+    m_items->setStringList(texts);
+    setCurrentIndex(position);
 }
 
 void ComboBox::showPopup() {

@@ -3,6 +3,8 @@
 
 #include <QComboBox>
 
+class QStringListModel;
+
 /// A drop-down list in the classic terms. Click is raised for the user's choices
 /// only, also when the same entry is chosen again. A list may be filled on first
 /// use: GotFocus comes when the list gets the focus, BeforeUse whenever it is
@@ -16,8 +18,10 @@ public:
     ComboBox(const QString& name, QWidget* parent);
 
     void AddItem(const QString& text) { addItem(text); }
-    void AddItems(const QStringList& texts) { addItems(texts); }
     void Clear() { clear(); }
+
+    /// Replaces the list by these entries and selects one by its position.
+    void SetItems(const QStringList& texts, int position);
     int ListCount() const { return count(); }
     int ListIndex() const { return currentIndex(); }
 
@@ -25,8 +29,8 @@ public:
     void SetListIndex(int position) { setCurrentIndex(position); }
     QString Text() const { return currentText(); }
 
-    /// Clears the list and makes `text` its only entry.
-    void SetOnlyItem(const QString& text);
+    /// Clears the list and makes `text` its only entry, selected.
+    void SetOnlyItem(const QString& text) { SetItems({text}, 0); }
 
     void showPopup() override;
 
@@ -40,4 +44,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+
+private:
+    QStringListModel* m_items; ///< takes thousands of entries at once
 };

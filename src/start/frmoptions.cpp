@@ -143,7 +143,6 @@ QGroupBox* frmOptions::weekdaysFrame() {
             label->setText(Text(CalendarNames(c)));
             for (int weekday = Monday; weekday <= Sunday; ++weekday)
                 list->AddItem(Text(WeekDayAbbrs(weekday)));
-            list->setItemData(0, c);
             list->SetListIndex(Calc::WeekStart(c) - 1);
         }
         list->setEnabled(isCalendar(c));
@@ -161,7 +160,7 @@ QGroupBox* frmOptions::languageFrame() {
     m_combo2 = new ComboBox(QStringLiteral("Combo2"), frame);
     m_combo2->setMinimumContentsLength(18);
     m_combo2->setAccessibleName(Text(LabelTexts(LanguageLabel)));
-    m_combo2->AddItems(LanguageList());
+    m_combo2->SetItems(LanguageList(), -1);
     selectLanguage();
     rows->addWidget(m_combo2);
     return frame;

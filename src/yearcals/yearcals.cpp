@@ -271,9 +271,7 @@ void YearCals::FillYearList(frmYearCal& form, int c) {
     for (int year = MinYear(c); year <= MaxYear(c); ++year)
         years.append(QString::number(year));
     Updating = true;
-    form.Combo1().Clear();
-    form.Combo1().AddItems(years);
-    form.Combo1().SetListIndex(CurDate(c, Year) - MinYear(c));
+    form.Combo1().SetItems(years, CurDate(c, Year) - MinYear(c));
     Updating = false;
 }
 

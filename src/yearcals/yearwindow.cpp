@@ -81,6 +81,7 @@ frmYearCal::frmYearCal(int c)
     connectControls();
     YearCals::InitYearGrid(*this, c);
     placeControls();
+    m_grid->setFocus(); // the days, not a list that would be filled at once
     SetTexts();
     ChangeCals::PlaceForm(*this, c);
 }

@@ -97,8 +97,8 @@ class Program:
         return Window(self, self._wait_for(ABOUT_TITLE))
 
     def message_box(self):
-        box = self._wait_while_running(self.message_boxes, "a message box appears")[0]
-        return MessageBox(self, box.number)
+        boxes = self._wait_while_running(self.message_boxes, "a message box appears")
+        return MessageBox(self, boxes[0])
 
     def wait_until_started(self):
         """Until the splash has come and gone."""
@@ -107,7 +107,7 @@ class Program:
 
     def _wait_for(self, title):
         def shown():
-            return [window.number for window in self.managed_windows()
+            return [window for window in self.managed_windows()
                     if window.title == title and window.state == "Normal"]
         return self._wait_while_running(shown, f"the window “{title}” is shown")[0]
 

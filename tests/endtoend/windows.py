@@ -21,10 +21,11 @@ KEY_INTERVAL = 12    # milliseconds
 
 
 class Window:
-    def __init__(self, program, number):
+    def __init__(self, program, managed):
         self.program = program
         self.desktop = program.desktop
-        self.number = number
+        self.number = managed.number
+        self._title = managed.title
 
     def is_open(self):
         """On the screen or minimised."""
@@ -88,7 +89,8 @@ class Window:
 
     def wait_until_frame_is_at(self, left, top):
         wait_until(lambda: self.frame_position() == (left, top),
-                   f"the frame is at {(left, top)}", found=self.frame_position)
+                   f"the frame of “{self._title}” is at {(left, top)}",
+                   found=self.frame_position)
 
     def frame_position(self):
         return self.desktop.frame_position(self.number)
@@ -107,7 +109,7 @@ class Window:
         return None
 
     def _wait(self, condition, state):
-        wait_until(condition, f"window {self.number:#x} {state}",
+        wait_until(condition, f"“{self._title}” {state}",
                    found=self.program.describe_windows)
 
 
@@ -216,8 +218,8 @@ class YearWindow(Window):
     COLUMNS = 19
     ROWS_OF_BAND = 8
 
-    def __init__(self, program, number, calendar):
-        super().__init__(program, number)
+    def __init__(self, program, managed, calendar):
+        super().__init__(program, managed)
         self.calendar = calendar
 
     def press(self, control):

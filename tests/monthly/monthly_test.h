@@ -27,29 +27,17 @@ protected:
         ChangeCals::ShowMonthlyWindow();
         ChangeCals::Monthly().activateWindow();
         EXPECT_TRUE(waitUntil([] { return ChangeCals::Monthly().isActiveWindow(); }));
+        findControls();
         calls.clear();
     }
 
     static MonthlyWindow& window() { return ChangeCals::Monthly(); }
 
-    static ComboBox& combo(int kind, int pane) {
-        return *child<ComboBox>(
-            window(), qPrintable(QStringLiteral("Combo%1_%2").arg(kind).arg(pane)));
-    }
-    static ComboBox& combo(int kind) {
-        return *child<ComboBox>(window(), qPrintable(QStringLiteral("Combo%1").arg(kind)));
-    }
-    static MSFlexGrid& grid(int pane) {
-        return *child<MSFlexGrid>(window(), qPrintable(QStringLiteral("MSFlexGrid1_%1").arg(pane)));
-    }
-    static CommandButton& command(int index) {
-        return *child<CommandButton>(window(),
-                                     qPrintable(QStringLiteral("Command1_%1").arg(index)));
-    }
-    static CommandButton& moonButton(int phase) {
-        return *child<CommandButton>(window(),
-                                     qPrintable(QStringLiteral("Command2_%1").arg(phase)));
-    }
+    static ComboBox& combo(int kind, int pane) { return *m_paneCombos(kind, pane); }
+    static ComboBox& combo(int kind) { return *m_combos(kind - 5); }
+    static MSFlexGrid& grid(int pane) { return *m_grids(pane); }
+    static CommandButton& command(int index) { return *m_commands(index); }
+    static CommandButton& moonButton(int phase) { return *m_moonButtons(phase + 1); }
 
     static QPoint cellCentre(MSFlexGrid& grid, int row, int column) {
         return grid.visualRect(grid.model()->index(row, column)).center();
@@ -148,4 +136,33 @@ protected:
         QTest::mouseClick(list.view()->viewport(), Qt::LeftButton, {}, entry.center());
         ASSERT_TRUE(waitUntil([&list] { return !list.view()->isVisible(); }));
     }
+
+private:
+    template <typename Widget>
+    static Widget* control(const QString& name, int index) {
+        return child<Widget>(window(), qPrintable(name.arg(index)));
+    }
+
+    // Once: the long walk looks at every control after every action.
+    static void findControls() {
+        for (int pane = 1; pane <= 4; ++pane) {
+            m_grids(pane) = control<MSFlexGrid>(QStringLiteral("MSFlexGrid1_%1"), pane);
+            for (int kind = 1; kind <= 5; ++kind)
+                m_paneCombos(kind, pane) =
+                    control<ComboBox>(QStringLiteral("Combo%1_").arg(kind) + QStringLiteral("%1"),
+                                      pane);
+        }
+        for (int kind = 6; kind <= 8; ++kind)
+            m_combos(kind - 5) = control<ComboBox>(QStringLiteral("Combo%1"), kind);
+        for (int index = 1; index <= 5; ++index)
+            m_commands(index) = control<CommandButton>(QStringLiteral("Command1_%1"), index);
+        for (int phase = 0; phase <= 8; ++phase)
+            m_moonButtons(phase + 1) = control<CommandButton>(QStringLiteral("Command2_%1"), phase);
+    }
+
+    static inline Table<ComboBox*, 5, 4> m_paneCombos;
+    static inline Table<ComboBox*, 3> m_combos;
+    static inline Table<MSFlexGrid*, 4> m_grids;
+    static inline Table<CommandButton*, 5> m_commands;
+    static inline Table<CommandButton*, 9> m_moonButtons;
 };

@@ -14,7 +14,7 @@ protected:
     Combo() : other(new QLineEdit(&window)), list(new ComboBox(QStringLiteral("Combo1"), &window)) {
         window.resize(300, 200);
         list->setGeometry(10, 50, 80, 24);
-        list->AddItems({QStringLiteral("one"), QStringLiteral("two"), QStringLiteral("three")});
+        list->SetItems({QStringLiteral("one"), QStringLiteral("two"), QStringLiteral("three")}, 0);
         QObject::connect(list, &ComboBox::Click, list, [this] { ++clicks; });
         QObject::connect(list, &ComboBox::GotFocus, list, [this] { ++arrivals; });
         QObject::connect(list, &ComboBox::BeforeUse, list, [this] { ++uses; });
@@ -81,6 +81,27 @@ TEST_F(Combo, HoldsItsTexts) {
     EXPECT_EQ(list->ListIndex(), -1);
 }
 
+TEST_F(Combo, ReplacedItemsAreSelectedByPosition) {
+    list->SetListIndex(2);
+    list->SetItems({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")}, 1);
+    EXPECT_EQ(list->ListCount(), 3);
+    EXPECT_EQ(list->Text(), QStringLiteral("b"));
+    list->SetItems({QStringLiteral("a")}, 5);
+    EXPECT_EQ(list->ListIndex(), -1);
+    list->SetItems({}, 0);
+    EXPECT_EQ(list->ListCount(), 0);
+    EXPECT_EQ(list->ListIndex(), -1);
+}
+
+TEST_F(Combo, ThousandsOfItemsAreTakenAtOnce) {
+    QStringList years;
+    for (int year = 1; year <= 3000; ++year)
+        years.append(QString::number(year));
+    list->SetItems(years, 2025);
+    EXPECT_EQ(list->ListCount(), 3000);
+    EXPECT_EQ(list->Text(), QStringLiteral("2026"));
+}
+
 TEST_F(Combo, APositionOutsideTheListSelectsNothing) {
     for (const int position : {-1, 3, 9}) {
         list->SetListIndex(0);
@@ -96,8 +117,8 @@ TEST_F(Combo, TheProgramsChoicesAreNoClicks) {
     list->AddItem(QStringLiteral("four"));
     list->SetOnlyItem(QStringLiteral("five"));
     list->Clear();
-    list->AddItems({QStringLiteral("six"), QStringLiteral("seven")});
-    list->SetListIndex(1);
+    list->SetItems({QStringLiteral("six"), QStringLiteral("seven")}, 1);
+    list->SetListIndex(0);
     EXPECT_EQ(clicks, 0);
     EXPECT_EQ(uses, 0);
 }

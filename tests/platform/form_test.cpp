@@ -147,9 +147,9 @@ TEST_F(Forms, HidingDoesNotUnload) {
 TEST_F(Forms, PicturesFillTheirControl) {
     Image image(QStringLiteral("Image1"), QStringLiteral("icon"), nullptr);
     image.resize(64, 64);
-    Image missing(QStringLiteral("Image2"), QStringLiteral("no such picture"), nullptr);
-    missing.resize(64, 64);
-    EXPECT_NE(image.grab().toImage(), missing.grab().toImage());
+    QWidget blank;
+    blank.resize(64, 64);
+    EXPECT_NE(image.grab().toImage(), blank.grab().toImage());
 }
 
 /// Keeps what the message boxes look like as they are shown.

@@ -1,0 +1,180 @@
+// SPDX-License-Identifier: MIT
+#include "start/frmabout.h"
+
+#include "platform/color.h"
+#include "platform/numbers.h"
+#include "platform/twips.h"
+#include "shared/look.h"
+#include "support/widget_test.h"
+
+#include <QFrame>
+#include <QLabel>
+#include <QPointer>
+#include <QPushButton>
+#include <QScreen>
+
+namespace {
+
+class About : public WidgetTest {
+protected:
+    About() { startToday(); }
+    ~About() override { delete box; }
+
+    void load() {
+        delete box;
+        box = new frmAbout;
+    }
+
+    void show() {
+        box->Show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(box));
+    }
+
+    QString label(int index) const {
+        return child<QLabel>(*box, QByteArray("Label1_" + QByteArray::number(index)).constData())
+            ->text();
+    }
+
+    QPushButton* ok() const { return child<QPushButton>(*box, "cmdOK"); }
+    QFrame* line() const { return child<QFrame>(*box, "Line1"); }
+
+    void expectEnglish() const {
+        EXPECT_EQ(box->windowTitle(), QStringLiteral("About Orvalen Years Calendar"));
+        EXPECT_EQ(label(1), QStringLiteral("Orvalen Years Calendar"));
+        EXPECT_EQ(label(2), QStringLiteral("Version 1.0.0"));
+        EXPECT_EQ(label(3).split(QStringLiteral("\r\n")).value(2),
+                  QString::fromUtf8("The Orvalen Years Calendar developers © 1998—2001"));
+    }
+
+    QPointer<frmAbout> box;
+};
+
+TEST_F(About, IsInEnglish) {
+    load();
+    expectEnglish();
+    const QStringList lines = label(3).split(QStringLiteral("\r\n"));
+    ASSERT_EQ(lines.size(), 6);
+    EXPECT_EQ(lines[0], QStringLiteral("This program grew out of the wish to have one day before "
+                                       "one's eyes in four calendars at once."));
+    EXPECT_EQ(lines[1], QString());
+    EXPECT_EQ(lines[3], QString());
+    EXPECT_EQ(lines[4], QStringLiteral("E-mail: calendar@example.org"));
+    EXPECT_EQ(lines[5], QStringLiteral("Home Page: https://example.org/calendar"));
+    EXPECT_EQ(ok()->text(), QStringLiteral("OK"));
+}
+
+TEST_F(About, IsInRussianInThatLanguage) {
+    LanguageName = "Russian";
+    load();
+    EXPECT_EQ(box->windowTitle(), QString::fromUtf8("О Календаре на Orvalen лет"));
+    EXPECT_EQ(label(1), QString::fromUtf8("Календарь на Orvalen лет"));
+    EXPECT_EQ(label(2), QString::fromUtf8("Версия 1.0.0"));
+    const QStringList lines = label(3).split(QStringLiteral("\r\n"));
+    ASSERT_EQ(lines.size(), 6);
+    EXPECT_EQ(lines[2],
+              QString::fromUtf8("Разработчики Календаря на Orvalen лет © 1998—2001"));
+    EXPECT_EQ(lines[4], QStringLiteral("E-mail: calendar@example.org"));
+}
+
+TEST_F(About, IsInEnglishInEveryOtherLanguage) {
+    for (const char* language : {"russian", "RUSSIAN", "German", ""}) {
+        LanguageName = language;
+        load();
+        expectEnglish();
+    }
+}
+
+TEST_F(About, TheVersionIsAppendedOnceHoweverOftenItIsLoaded) {
+    load();
+    load();
+    expectEnglish();
+}
+
+TEST_F(About, TextsAreShownAsTheyStand) {
+    load();
+    for (int index = 1; index <= 3; ++index) {
+        const QByteArray name = "Label1_" + QByteArray::number(index);
+        EXPECT_EQ(child<QLabel>(*box, name.constData())->textFormat(), Qt::PlainText);
+    }
+}
+
+TEST_F(About, EverythingLiesInsideTheBox) {
+    for (const char* language : {"English (Default)", "Russian"}) {
+        LanguageName = language;
+        load();
+        show();
+        for (const QWidget* control : box->findChildren<QWidget*>())
+            EXPECT_TRUE(box->rect().contains(control->geometry()))
+                << language << ' ' << control->objectName().toStdString();
+        EXPECT_LT(line()->geometry().bottom(), ok()->y());
+    }
+}
+
+TEST_F(About, OkUnloads) {
+    load();
+    show();
+    click(ok());
+    EXPECT_FALSE(box->Visible());
+    EXPECT_TRUE(box->IsUnloaded());
+    processEvents();
+    EXPECT_TRUE(box.isNull());
+}
+
+TEST_F(About, ReturnIsOk) {
+    load();
+    show();
+    QTest::keyClick(ok(), Qt::Key_Return);
+    processEvents();
+    EXPECT_TRUE(box.isNull());
+}
+
+TEST_F(About, TheTipIsShownWithTipsOnly) {
+    load();
+    EXPECT_EQ(ok()->toolTip(), QStringLiteral("Close"));
+    ShowTips = 0;
+    load();
+    EXPECT_EQ(ok()->toolTip(), QString());
+    ShowTips = 5;
+    load();
+    EXPECT_EQ(ok()->toolTip(), QStringLiteral("Close"));
+}
+
+TEST_F(About, StandsAtAThirdOfTheFreeHeightAndHalfTheFreeWidth) {
+    load();
+    const QSize free = QGuiApplication::primaryScreen()->size() - box->size();
+    const int left = CLng(ToTwips(free.width()) / 2.0).value_or(0);
+    const int top = CLng(ToTwips(free.height()) / 3.0).value_or(0);
+    EXPECT_EQ(box->pos(), QPoint(ToPixels(left), ToPixels(top)));
+    show();
+    EXPECT_NEAR(box->Left(), left, twipsPerPixel);
+    EXPECT_NEAR(box->Top(), top, twipsPerPixel);
+}
+
+TEST_F(About, TheSplashIsCutBelowTheLine) {
+    load();
+    const QPoint place = box->pos();
+    const int lineY = line()->y();
+    const int height = box->height();
+    const int width = box->width();
+    box->BecomeSplash(CalendarColors(Gregorian));
+    EXPECT_EQ(box->windowTitle(), QString());
+    EXPECT_EQ(box->height(), lineY + (height - lineY) / 4);
+    EXPECT_EQ(box->width(), width);
+    EXPECT_EQ(box->pos(), place);
+    show();
+    EXPECT_FALSE(line()->isVisible());
+    EXPECT_FALSE(ok()->isVisible());
+    EXPECT_TRUE(child<QLabel>(*box, "Label1_1")->isVisible());
+}
+
+TEST_F(About, TheSplashHasItsBackgroundAndOrdinaryText) {
+    load();
+    box->BecomeSplash(0xC0FFC0);
+    show();
+    const QImage image = box->grab().toImage();
+    EXPECT_EQ(image.pixelColor(2, 2), ToColor(0xC0FFC0));
+    EXPECT_EQ(image.pixelColor(image.width() - 3, image.height() - 3), ToColor(0xC0FFC0));
+    EXPECT_EQ(box->palette().color(QPalette::WindowText), ToColor(TextColors(OrdinaryText)));
+}
+
+} // namespace

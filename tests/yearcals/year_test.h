@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "changecals/changecals.h"
+#include "changecals/opening.h"
+#include "platform/text.h"
+#include "shared/look.h"
+#include "support/recording_windows.h"
+#include "support/widget_test.h"
+#include "yearcals/yearcals.h"
+#include "yearcals/yearlayout.h"
+#include "yearcals/yearwindow.h"
+
+/// The four year windows, the others recording; 20 November 2026 is chosen.
+class YearTest : public WidgetTest {
+protected:
+    YearTest() {
+        startToday();
+        auto factories = recordingFactories();
+        factories.year = [](int c) { return new frmYearCal(c); };
+        ChangeCals::SetFactories(factories);
+        YearCals::ForgetShownYears();
+        calls.clear();
+    }
+
+    static frmYearCal& year(int c) { return static_cast<frmYearCal&>(ChangeCals::Year(c)); }
+
+    static void open(int c) {
+        ChangeCals::OpenYearWindow(c);
+        year(c).activateWindow();
+        ASSERT_TRUE(waitUntil([c] { return year(c).isActiveWindow(); }));
+    }
+
+    static void goTo(int julianDay) {
+        CurJD = julianDay;
+        ChangeCals::ChangeJD();
+        calls.clear();
+    }
+
+    static QPoint centreOf(MSFlexGrid& grid, YearLayout::Cell cell) {
+        return grid.visualRect(grid.model()->index(cell.row, cell.column)).center();
+    }
+
+    static void press(int c, YearLayout::Cell cell, Qt::MouseButton button = Qt::LeftButton) {
+        MSFlexGrid& grid = year(c).Grid();
+        QTest::mouseClick(grid.viewport(), button, {}, centreOf(grid, cell));
+    }
+
+    static const GridCell& cellAt(int c, int row, int column) {
+        return static_cast<GridModel*>(year(c).Grid().model())->Cell(row, column);
+    }
+
+    /// Checks each cell of a filled grid against the state.
+    static void expectEveryCellRight(int c) {
+        const int columns = c == Jewish && JewishLeap ? 25 : 19;
+        int marked = 0;
+        for (int row = 0; row < YearLayout::rows; ++row) {
+            for (int column = 0; column < columns; ++column)
+                marked += checkCell(c, {row, column}) ? 1 : 0;
+        }
+        ASSERT_EQ(marked, 1) << "marked cells in year " << CurDate(c, Year);
+    }
+
+private:
+    // Whether the cell is the marked one.
+    static bool checkCell(int c, YearLayout::Cell at) {
+        const GridCell& cell = cellAt(c, at.row, at.column);
+        EXPECT_EQ(cell.text, expectedText(c, at)) << at.row << " " << at.column;
+        const bool chosen = cell.back == CalendarColors(ChosenDayBackground);
+        if (chosen) {
+            EXPECT_EQ(cell.text, QString::number(CurDate(c, Day)));
+            EXPECT_EQ(YearLayout::MonthOf(c, at), CurDate(c, Month));
+            EXPECT_EQ(cell.fore, TextColors(ChosenDayText));
+        } else {
+            EXPECT_EQ(cell.back, CalendarColors(c));
+        }
+        return chosen;
+    }
+
+    // Worked out from the band, not by the layout's own rules.
+    static QString expectedText(int c, YearLayout::Cell at) {
+        const int band = at.row / 8;
+        if (at.column == 0)
+            return at.row % 8 == 0
+                       ? QString()
+                       : Text(WeekDayAbbrs((Calc::WeekStart(c) - 1 + at.row % 8 - 1) % 7 + 1));
+        const bool leap = c == Jewish && JewishLeap;
+        const int block = (at.column - 1) / 6;
+        if (block == 3 && band != 1)
+            return {};
+        const int month = band * 3 + block + 1 + (leap && band >= 2 ? 1 : 0);
+        if (at.row % 8 == 0)
+            return QStringLiteral("(%1)  %2").arg(month).arg(Text(MonthNames(c, month)));
+        const int lead = (MonthDays(c, 13 + month) - Calc::WeekStart(c) + 7) % 7;
+        const int day = (at.column - 1) % 6 * 7 + at.row % 8 - 1 - lead + 1;
+        return day >= 1 && day <= MonthDays(c, month) ? QString::number(day) : QString();
+    }
+};
