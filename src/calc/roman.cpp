@@ -51,8 +51,7 @@ void setGregorianYear() {
     CurDate(Gregorian, DayNumber) =
         Calc::DayOfYear(Gregorian, CurDate(Gregorian, Month), CurDate(Gregorian, Day));
     YearJD(Gregorian, FirstDay) = CurJD - CurDate(Gregorian, DayNumber) + 1;
-    YearJD(Gregorian, LastDay) =
-        YearJD(Gregorian, FirstDay) + YearDays(Gregorian, DaysInYear) - 1;
+    YearJD(Gregorian, LastDay) = YearJD(Gregorian, FirstDay) + YearDays(Gregorian, DaysInYear) - 1;
     Calc::SetMonthStarts(Gregorian);
 }
 

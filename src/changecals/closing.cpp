@@ -39,9 +39,9 @@ struct Positions {
 // False when a position does not fit in 16 bits.
 bool readPosition(int number, Positions& positions) {
     const MainWindow* window = ChangeCals::LoadedWindow(number);
-    const ChangeCals::Position place =
-        window != nullptr ? ChangeCals::Position{window->Left(), window->Top()}
-                          : ChangeCals::PlaceOf(number);
+    const ChangeCals::Position place = window != nullptr
+                                           ? ChangeCals::Position{window->Left(), window->Top()}
+                                           : ChangeCals::PlaceOf(number);
     if (window != nullptr && window->WindowState() == Form::Minimised)
         return true;
     const std::optional<int> left = CInt(place.left);

@@ -112,8 +112,9 @@ void CommonInfo::fillMoonAges() {
     const int daysPassed = static_cast<int>(MoonAge);
     const float firstAge = MoonAge - static_cast<float>(daysPassed);
     QStringList ages;
-    for (float age = firstAge; age < ChangeCals::lunation; age += 1)
-        ages.append(moonAgeText(age));
+    const int wholeDays = static_cast<int>(ChangeCals::lunation - firstAge);
+    for (int day = 0; day <= wholeDays; ++day)
+        ages.append(moonAgeText(firstAge + static_cast<float>(day)));
     Updating = true;
     m_combo7->SetItems(ages, daysPassed);
     Updating = false;

@@ -38,7 +38,8 @@ frmMonthlyCal::frmMonthlyCal() : MonthlyWindow(QStringLiteral("frmMonthlyCal")) 
     for (int pane = 1; pane <= 4; ++pane) {
         m_panes(pane) = new Pane(pane, this);
         connect(m_panes(pane), &Pane::CalendarChosen, this, &frmMonthlyCal::exchangeCalendars);
-        connect(&m_panes(pane)->Grid(), &MonthGrid::DayPicked, this, [this] { m_dayPicked = true; });
+        connect(&m_panes(pane)->Grid(), &MonthGrid::DayPicked, this,
+                [this] { m_dayPicked = true; });
     }
     m_line1 = new QFrame(this);
     m_line1->setObjectName(QStringLiteral("Line1"));

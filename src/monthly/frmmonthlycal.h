@@ -13,7 +13,7 @@ class QFrame;
 
 /// The main window: the chosen day in four panes side by side, what the
 /// calendars have in common, and the command buttons.
-class frmMonthlyCal : public MonthlyWindow {
+class frmMonthlyCal final : public MonthlyWindow {
     Q_OBJECT
 
 public:

@@ -90,6 +90,5 @@ void frmMoon::placeControls() {
     const int side = ToPixels(pictureSide);
     m_picture1->setGeometry((width() - side) / 2, (height() - side) / 2, side, side);
     const int margin = ToPixels(backdropMargin);
-    m_label2->setGeometry(
-        m_picture1->geometry().adjusted(-margin, -margin, margin, margin));
+    m_label2->setGeometry(m_picture1->geometry().adjusted(-margin, -margin, margin, margin));
 }

@@ -9,7 +9,7 @@ class QLabel;
 /// The moon as it looks on the chosen day, with its age in days. When its
 /// picture file cannot be read, the window says so once as it is loaded and
 /// shows a plain disc.
-class frmMoon : public MoonWindow {
+class frmMoon final : public MoonWindow {
     Q_OBJECT
 
 public:

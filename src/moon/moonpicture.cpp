@@ -14,11 +14,11 @@
 
 namespace {
 
-constexpr int discMargin = 30;               // twips
-constexpr int largestSide = 4096;            // pixels
-constexpr qint64 largestFile = 64 << 20;     // bytes
-constexpr qint64 fileSizeField = 2;          // offset in a bitmap's header
-constexpr int sky = 0x000000;                // also the colour of the unlit part
+constexpr int discMargin = 30;           // twips
+constexpr int largestSide = 4096;        // pixels
+constexpr qint64 largestFile = 64 << 20; // bytes
+constexpr qint64 fileSizeField = 2;      // offset in a bitmap's header
+constexpr int sky = 0x000000;            // also the colour of the unlit part
 
 double pixels(double twips) {
     return twips / twipsPerPixel;

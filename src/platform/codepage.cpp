@@ -27,8 +27,8 @@ public:
         char* out = reinterpret_cast<char*>(&unit); // iconv writes bytes
         std::size_t outLeft = sizeof unit;
         iconv(m_handle, nullptr, nullptr, nullptr, nullptr);
-        const bool converted =
-            isOpen() && iconv(m_handle, &in, &inLeft, &out, &outLeft) != static_cast<std::size_t>(-1);
+        const bool converted = isOpen() && iconv(m_handle, &in, &inLeft, &out, &outLeft) !=
+                                               static_cast<std::size_t>(-1);
         // Code pages with combining marks keep the last character back.
         if (converted && outLeft != 0)
             iconv(m_handle, nullptr, nullptr, &out, &outLeft);
@@ -36,6 +36,8 @@ public:
     }
 
 private:
+    // The library's own mark of failure.
+    // NOLINTNEXTLINE(performance-no-int-to-ptr)
     bool isOpen() const { return m_handle != reinterpret_cast<iconv_t>(-1); }
 
     iconv_t m_handle;

@@ -12,8 +12,7 @@
 #include <QWheelEvent>
 
 ComboBox::ComboBox(const QString& name, QWidget* parent)
-    : QComboBox(parent),
-      m_items(new QStringListModel(this)) {
+    : QComboBox(parent), m_items(new QStringListModel(this)) {
     setObjectName(name);
     setModel(m_items);
     setFocusPolicy(Qt::StrongFocus);
@@ -61,7 +60,8 @@ void ComboBox::paintEvent(QPaintEvent* event) {
     QStyleOptionComboBox option;
     initStyleOption(&option);
     const int width =
-        style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this)
+        style()
+            ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this)
             .width();
     if (isEditable() || fontMetrics().horizontalAdvance(option.currentText) <= width) {
         QComboBox::paintEvent(event);

@@ -56,5 +56,6 @@ void GridModel::Announce(int top, int left, int bottom, int right) {
 }
 
 std::size_t GridModel::offset(int row, int column) const {
-    return static_cast<std::size_t>(row * m_columns + column);
+    return static_cast<std::size_t>(row) * static_cast<std::size_t>(m_columns) +
+           static_cast<std::size_t>(column);
 }

@@ -20,8 +20,7 @@ bool isSingleDigit(const QString& text) {
 } // namespace
 
 GridPainter::GridPainter(const GridModel* model, QObject* parent)
-    : QAbstractItemDelegate(parent),
-      m_model(model) {}
+    : QAbstractItemDelegate(parent), m_model(model) {}
 
 void GridPainter::SetFonts(const QFont& plain) {
     m_fonts[0] = m_fonts[1] = plain;

@@ -6,8 +6,7 @@
 #include <QPainter>
 
 Image::Image(const QString& name, const QString& picture, QWidget* parent)
-    : QWidget(parent),
-      m_picture(Picture(picture)) {
+    : QWidget(parent), m_picture(Picture(picture)) {
     setObjectName(name);
 }
 

@@ -181,8 +181,7 @@ QGroupBox* frmOptions::startupFrame() {
 }
 
 CommandButton* frmOptions::newCommand(int index, const QString& picture, int tip) {
-    auto* button =
-        new CommandButton(QStringLiteral("Command1_%1").arg(index), picture, this);
+    auto* button = new CommandButton(QStringLiteral("Command1_%1").arg(index), picture, this);
     const QString text = Text(StringTexts(tip));
     button->setToolTip(ShowTips != 0 ? PlainTip(text) : QString());
     button->setAccessibleName(text);

@@ -48,9 +48,9 @@ private:
     Table<bool, calendarCount> applyFirstWeekDays() const;
     bool setShowTips() const;
 
-    int m_moslemType;                            ///< pending
-    Table<int, calendarCount> m_firstWeekDay;    ///< pending, by calendar
-    std::string m_language;                      ///< pending
+    int m_moslemType;                         ///< pending
+    Table<int, calendarCount> m_firstWeekDay; ///< pending, by calendar
+    std::string m_language;                   ///< pending
 
     Table<ComboBox*, 4> m_combo1; ///< first weekdays, by pane
     Table<int, 4> m_paneCalendar; ///< the calendar of each of them, as loaded

@@ -28,7 +28,7 @@ QStringList languageFiles() {
 // The file of a language: the one of exactly this name, else one that differs in
 // case only. Empty when there is none.
 QString languageFile(const QString& name) {
-    const QString wanted = name + suffix();
+    QString wanted = name + suffix();
     const QStringList files = languageFiles();
     if (files.contains(wanted))
         return wanted;

@@ -20,8 +20,8 @@ void RebuildVisibleWindows() {
 }
 
 void RebuildVisibleWindowsOf(const Table<bool, calendarCount>& calendars) {
-    const bool any = calendars(Julian) || calendars(Gregorian) || calendars(Jewish) ||
-                     calendars(Moslem);
+    const bool any =
+        calendars(Julian) || calendars(Gregorian) || calendars(Jewish) || calendars(Moslem);
     if (any && isVisible(MonthlyWindowNumber))
         ChangeCals::Monthly().ReSetForm();
     for (int c = 1; c <= calendarCount; ++c) {

@@ -107,7 +107,8 @@ bool Start::Main() {
     if (!ReadSettings())
         return false;
     showSplash(static_cast<frmAbout&>(ChangeCals::About()));
-    const auto release = Clock::now() + std::chrono::duration_cast<Clock::duration>(Days(splashDays));
+    const auto release =
+        Clock::now() + std::chrono::duration_cast<Clock::duration>(Days(splashDays));
     Calc::FillConstantRows();
     LoadLanguage(LanguageName);
     Calc::SetMoslemType();

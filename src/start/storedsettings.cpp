@@ -42,8 +42,7 @@ std::vector<NumberSetting> numberSettings() {
     }
     addPosition(rows, MonthlyWindowNumber);
     addPosition(rows, MoonWindowNumber);
-    rows.push_back(
-        {ChangeCals::SettingsSection(Moslem), QStringLiteral("Type"), 1, &MoslemType});
+    rows.push_back({ChangeCals::SettingsSection(Moslem), QStringLiteral("Type"), 1, &MoslemType});
     rows.push_back({startup(), QStringLiteral("Window"), 0, &StartupWindow});
     rows.push_back({startup(), QStringLiteral("ShowTips"), 1, &ShowTips});
     return rows;

@@ -99,8 +99,7 @@ void setAvailable(frmYearCal& form, int c) {
 
 void setTitle(MSFlexGrid& grid, int c, int month) {
     const YearLayout::Cell block = YearLayout::BlockOf(c, month);
-    const QString title =
-        QStringLiteral("(%1)  ").arg(month) + Text(MonthNames(c, month));
+    const QString title = QStringLiteral("(%1)  ").arg(month) + Text(MonthNames(c, month));
     for (int column = block.column; column < block.column + monthColumns; ++column) {
         grid.SetTextMatrix(block.row - 1, column, title);
         grid.SetRow(block.row - 1);
@@ -163,13 +162,12 @@ void fitWindow(frmYearCal& form, int columns) {
 }
 
 QString accessibleText(MSFlexGrid& grid, int c, YearLayout::Cell cell) {
-    const QString text = grid.TextMatrix(cell.row, cell.column);
+    QString text = grid.TextMatrix(cell.row, cell.column);
     if (text.isEmpty() || !YearLayout::IsDayCell(cell))
         return text;
     const int weekday = (Calc::WeekStart(c) + cell.row % bandRows - 2) % daysInWeek + 1;
     return QStringLiteral("%1, %2 %3 %4, %5")
-        .arg(Text(WeekDayNames(weekday)), text,
-             Text(MonthNames(c, YearLayout::MonthOf(c, cell))),
+        .arg(Text(WeekDayNames(weekday)), text, Text(MonthNames(c, YearLayout::MonthOf(c, cell))),
              QString::number(CurDate(c, Year)), Text(CalendarNames(c)));
 }
 

@@ -26,8 +26,7 @@ YearLayout::Cell YearLayout::CellOf(int c, int month, int day) {
 }
 
 int YearLayout::MonthOf(int c, Cell cell) {
-    const int month =
-        (cell.column - 1) / monthColumns + cell.row / bandRows * monthsInBand + 1;
+    const int month = (cell.column - 1) / monthColumns + cell.row / bandRows * monthsInBand + 1;
     return hasAdarTwo(c) && cell.row >= 2 * bandRows + 1 ? month + 1 : month;
 }
 

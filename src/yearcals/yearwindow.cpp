@@ -21,8 +21,8 @@ namespace {
 struct Difference {
     const char* name;
     const char* emblem;
-    int firstYear;                 ///< of the selector's list
-    Table<int, 3> otherCalendars;  ///< opened by Command1(7..9)
+    int firstYear;                ///< of the selector's list
+    Table<int, 3> otherCalendars; ///< opened by Command1(7..9)
     int gridColumns;
 };
 
@@ -46,10 +46,10 @@ constexpr int frame = 1;
 
 // The controls from left to right after the selector; 0 stands for the moon.
 constexpr int moonPlace = 0;
-constexpr std::array commandOrder{int{PreviousYear},   int{NextYear},     int{TodayCommand},
-                                  moonPlace,           FirstOtherCalendar + 0,
-                                  FirstOtherCalendar + 1, FirstOtherCalendar + 2,
-                                  int{OptionsCommand}, int{AboutCommand}, int{CloseCommand}};
+constexpr std::array commandOrder{
+    int{PreviousYear},      int{NextYear},          int{TodayCommand},      moonPlace,
+    FirstOtherCalendar + 0, FirstOtherCalendar + 1, FirstOtherCalendar + 2, int{OptionsCommand},
+    int{AboutCommand},      int{CloseCommand}};
 
 QStringList phasePictures() {
     QStringList pictures;

@@ -22,7 +22,7 @@ inline constexpr int yearCommands = 9;
 
 /// The window of a whole year of one calendar: frmJulian, frmGregorian, frmJewish
 /// and frmMoslem are four of them.
-class frmYearCal : public YearWindow {
+class frmYearCal final : public YearWindow {
     Q_OBJECT
 
 public:

@@ -24,7 +24,8 @@ using Calendar = std::unique_ptr<icu::Calendar>;
 Calendar icuCalendar(const char* name) {
     UErrorCode status = U_ZERO_ERROR;
     const icu::Locale locale(name);
-    Calendar calendar(icu::Calendar::createInstance(icu::TimeZone::createTimeZone("GMT"), locale, status));
+    Calendar calendar(
+        icu::Calendar::createInstance(icu::TimeZone::createTimeZone("GMT"), locale, status));
     EXPECT_TRUE(U_SUCCESS(status));
     return calendar;
 }

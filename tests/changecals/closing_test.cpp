@@ -52,9 +52,7 @@ protected:
         return QSettings(settingsPath(), QSettings::IniFormat).allKeys();
     }
     QString saved(const char* key) const {
-        return QSettings(settingsPath(), QSettings::IniFormat)
-            .value(QLatin1String(key))
-            .toString();
+        return QSettings(settingsPath(), QSettings::IniFormat).value(QLatin1String(key)).toString();
     }
 };
 
@@ -240,9 +238,9 @@ TEST_F(Closing, PlacesByTheStoredPositionWhereItIsOnTheScreen) {
     const struct {
         int left, top;
         bool used;
-    } rows[] = {{600, 300, true},           {-600, -300, true},          {width - 1, 0, true},
-                {width, 0, false},          {0, height, false},          {0, height - 1, true},
-                {noPosition, 300, false},   {600, noPosition, false}};
+    } rows[] = {{600, 300, true},         {-600, -300, true},      {width - 1, 0, true},
+                {width, 0, false},        {0, height, false},      {0, height - 1, true},
+                {noPosition, 300, false}, {600, noPosition, false}};
     for (const auto& row : rows) {
         FormLeft(Julian) = row.left;
         FormTop(Julian) = row.top;

@@ -25,7 +25,9 @@ TEST_F(DayInformation, AgesAndPhases) {
         int julianDay;
         float age;
         int phase;
-    } rows[] = {{2451545, 24.310345F, 7}, {2451580, 0.24916840F, 0}, {2451787, 0.53505135F, 0},
+    } rows[] = {{2451545, 24.310345F, 7},
+                {2451580, 0.24916840F, 0},
+                {2451787, 0.53505135F, 0},
                 {1979740, 29.517218F, 8}};
     for (const auto& row : rows) {
         goToJD(row.julianDay);

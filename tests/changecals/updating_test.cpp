@@ -39,9 +39,9 @@ TEST_F(Updates, TheMonthlyWindowComesFirstThenTheYearWindowsThenTheMoon) {
     ChangeCals::Year(Julian).Show();
     ChangeCals::Moon().Show();
     ChangeCals::ChangeJD();
-    EXPECT_EQ(takeCalls(), join({monthlyRedraw,
-                                 {"year1.ShowYear", "year4.ShowYear",
-                                  "moon.ReSetForm, CurrentWindow 0"}}));
+    EXPECT_EQ(takeCalls(),
+              join({monthlyRedraw,
+                    {"year1.ShowYear", "year4.ShowYear", "moon.ReSetForm, CurrentWindow 0"}}));
 }
 
 TEST_F(Updates, TheAskingYearWindowComesFirstAndOnceEvenIfHidden) {
@@ -133,9 +133,9 @@ TEST_F(Updates, TheMonthlyWindowIsRebuiltAndTheDayCarriedOnceWhenItWasNotVisible
 }
 
 TEST_F(Updates, MinimisedWindowsComeBackWhenTheyAreAskedFor) {
-    for (Form* window : {static_cast<Form*>(&ChangeCals::Monthly()),
-                         static_cast<Form*>(&ChangeCals::Year(Julian)),
-                         static_cast<Form*>(&ChangeCals::Moon())})
+    for (Form* window :
+         {static_cast<Form*>(&ChangeCals::Monthly()), static_cast<Form*>(&ChangeCals::Year(Julian)),
+          static_cast<Form*>(&ChangeCals::Moon())})
         window->showMinimized();
     ChangeCals::ShowMonthlyWindow();
     ChangeCals::OpenYearWindow(Julian);

@@ -237,8 +237,7 @@ TEST_F(MonthGrids, ColoursAreTheCalendarsOwnOnAnyTheme) {
         EXPECT_EQ(picture.pixel(blank), colors[pane - 1]) << pane;
         const QString day = marked(grid(pane)).value(0);
         const QPoint cell = cellOfDay(grid(pane), day.toInt());
-        const QRect rect =
-            grid(pane).visualRect(grid(pane).model()->index(cell.y(), cell.x()));
+        const QRect rect = grid(pane).visualRect(grid(pane).model()->index(cell.y(), cell.x()));
         const QPoint corner = grid(pane).viewport()->mapToParent(rect.topLeft());
         EXPECT_EQ(picture.pixel(corner), qRgb(255, 0, 0)) << pane;
     }

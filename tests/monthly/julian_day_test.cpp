@@ -31,9 +31,8 @@ protected:
         }));
         processEvents();
         m_seen += m_messages.take();
-        EXPECT_EQ(m_seen,
-                  QStringList{QStringLiteral(
-                      "Julian Days admissible range:\r\n1721319 \u2014 2817404")});
+        EXPECT_EQ(m_seen, QStringList{QStringLiteral(
+                              "Julian Days admissible range:\r\n1721319 \u2014 2817404")});
         m_seen.clear();
         EXPECT_EQ(window().focusWidget(), &combo(8));
         window().activateWindow();

@@ -88,9 +88,7 @@ protected:
         calls.clear();
     }
 
-    static QString text(int number, int of) {
-        return QStringLiteral("%1/%2").arg(number).arg(of);
-    }
+    static QString text(int number, int of) { return QStringLiteral("%1/%2").arg(number).arg(of); }
 
     /// Every pane shows the state.
     static void expectPanesShowTheState() {
@@ -148,9 +146,8 @@ private:
         for (int pane = 1; pane <= 4; ++pane) {
             m_grids(pane) = control<MSFlexGrid>(QStringLiteral("MSFlexGrid1_%1"), pane);
             for (int kind = 1; kind <= 5; ++kind)
-                m_paneCombos(kind, pane) =
-                    control<ComboBox>(QStringLiteral("Combo%1_").arg(kind) + QStringLiteral("%1"),
-                                      pane);
+                m_paneCombos(kind, pane) = control<ComboBox>(
+                    QStringLiteral("Combo%1_").arg(kind) + QStringLiteral("%1"), pane);
         }
         for (int kind = 6; kind <= 8; ++kind)
             m_combos(kind - 5) = control<ComboBox>(QStringLiteral("Combo%1"), kind);

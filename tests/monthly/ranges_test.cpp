@@ -160,9 +160,9 @@ private:
     }
 
     std::string pressKeyInList() {
-        static constexpr Qt::Key keys[] = {Qt::Key_Up,   Qt::Key_Down, Qt::Key_PageUp,
-                                           Qt::Key_PageDown, Qt::Key_Home, Qt::Key_End,
-                                           Qt::Key_1,    Qt::Key_2,    Qt::Key_9, Qt::Key_M};
+        static constexpr Qt::Key keys[] = {
+            Qt::Key_Up,  Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Home,
+            Qt::Key_End, Qt::Key_1,    Qt::Key_2,      Qt::Key_9,        Qt::Key_M};
         ComboBox& list = anyList();
         const Qt::Key key = keys[below(10)];
         if (list.isVisible() && list.isEnabled()) {

@@ -19,8 +19,8 @@ protected:
     static QString storedCalendars() {
         QStringList stored;
         for (int pane = 1; pane <= 4; ++pane)
-            stored.append(GetSetting(QStringLiteral("Startup"),
-                                     QStringLiteral("Calendar%1").arg(pane), {}));
+            stored.append(
+                GetSetting(QStringLiteral("Startup"), QStringLiteral("Calendar%1").arg(pane), {}));
         return stored.join(u' ');
     }
 };
@@ -308,8 +308,8 @@ TEST_F(Selectors, MoonAgesWorkInLocalesWithACommaAndWithOtherDigits) {
     for (const auto language : {QLocale::German, QLocale::Arabic, QLocale::Persian}) {
         QLocale::setDefault(QLocale(language));
         goTo(2461365);
-        EXPECT_EQ(combo(7).Text(), language == QLocale::German ? QStringLiteral("10,6")
-                                                               : QStringLiteral("10.6"));
+        EXPECT_EQ(combo(7).Text(),
+                  language == QLocale::German ? QStringLiteral("10,6") : QStringLiteral("10.6"));
         QTest::keyClick(&combo(7), Qt::Key_Down);
         EXPECT_EQ(CurJD, 2461366);
         expectPanesShowTheState();

@@ -156,8 +156,8 @@ TEST_F(MonthlyWindowTest, TipsAndNames) {
 TEST_F(MonthlyWindowTest, TabGoesThroughTheWindowInReadingOrder) {
     QStringList expected;
     for (int pane = 1; pane <= 4; ++pane) {
-        for (const char* control : {"Combo1_", "Combo2_", "Combo3_", "MSFlexGrid1_", "Combo4_",
-                                    "Combo5_"})
+        for (const char* control :
+             {"Combo1_", "Combo2_", "Combo3_", "MSFlexGrid1_", "Combo4_", "Combo5_"})
             expected.append(QLatin1String(control) + QString::number(pane));
     }
     expected += {QStringLiteral("Combo6"), QStringLiteral("Combo7"),
@@ -175,7 +175,8 @@ TEST_F(MonthlyWindowTest, TabGoesThroughTheWindowInReadingOrder) {
 }
 
 TEST_F(MonthlyWindowTest, ControlsNeitherOverlapNorStickOut) {
-    QList<QWidget*> controls = window().findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    QList<QWidget*> controls =
+        window().findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
     for (QWidget* a : controls) {
         if (a->isHidden())
             continue;

@@ -119,8 +119,8 @@ TEST(MoonShadow, RectanglesCoverAllHalfOrNothing) {
 // Where the shadow's edge crosses the horizontal middle line.
 double terminator(const Shadow& shadow) {
     const double ring = shadow.solid.value_or(true) ? 0 : width / 4;
-    const bool fromRight = caseOf(shadow) == Case::WaxingCrescent ||
-                           caseOf(shadow) == Case::WaningGibbous;
+    const bool fromRight =
+        caseOf(shadow) == Case::WaxingCrescent || caseOf(shadow) == Case::WaningGibbous;
     return fromRight ? shadow.left + shadow.width - ring : shadow.left + ring;
 }
 

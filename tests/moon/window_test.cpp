@@ -51,9 +51,8 @@ protected:
 
     void expectMissing() {
         EXPECT_EQ(moon().windowTitle(), QStringLiteral("Moon"));
-        EXPECT_EQ(m_messages.take(),
-                  QStringList{QDir::toNativeSeparators(bitmapPath()) +
-                              QStringLiteral("\r\n\r\nFile not found")});
+        EXPECT_EQ(m_messages.take(), QStringList{QDir::toNativeSeparators(bitmapPath()) +
+                                                 QStringLiteral("\r\n\r\nFile not found")});
         const QImage disc = drawn(14.8F);
         EXPECT_EQ(disc.pixelColor(disc.width() / 2, disc.height() / 2), QColor(255, 255, 192));
         EXPECT_FALSE(isLit(drawn(7.4F), 0.25, 0.5));

@@ -4,6 +4,8 @@
 #include "start/texttables.h"
 #include "support/state.h"
 
+#include <algorithm>
+
 namespace {
 
 class English : public StateTest {
@@ -62,13 +64,13 @@ TEST_F(English, FirstAndLastEntriesOfEveryTable) {
 }
 
 TEST_F(English, LettersBeyondAsciiAreExact) {
-    EXPECT_EQ(MonthNames(Moslem, 8), "Sha\xE2\x80\x98" "ban");                             // U+2018
-    EXPECT_EQ(MonthNames(Moslem, 11), "Dhu\xD2\x91l-Qa\xE2\x80\x98" "dah");                // U+0491
-    EXPECT_EQ(MonthNames(Moslem, 12), "Dhu\xD2\x91l-Hijjah");
-    EXPECT_EQ(StringTexts(16), "Left mouse button \xE2\x80\x94 Close window. "             // U+2014
-                               "Right mouse button \xE2\x80\x94 Exit");
-    EXPECT_EQ(LabelTexts(4), "Hegira \xE2\x80\x94 July 15, 622 A.D.");
-    EXPECT_EQ(LabelTexts(6), "Hegira \xE2\x80\x94 July 16, 622 A.D.");
+    EXPECT_EQ(MonthNames(Moslem, 8), "Sha\u2018ban");
+    EXPECT_EQ(MonthNames(Moslem, 11), "Dhu\u0491l-Qa\u2018dah");
+    EXPECT_EQ(MonthNames(Moslem, 12), "Dhu\u0491l-Hijjah");
+    EXPECT_EQ(StringTexts(16), "Left mouse button \u2014 Close window. "
+                               "Right mouse button \u2014 Exit");
+    EXPECT_EQ(LabelTexts(4), "Hegira \u2014 July 15, 622 A.D.");
+    EXPECT_EQ(LabelTexts(6), "Hegira \u2014 July 16, 622 A.D.");
 }
 
 bool isAscii(const std::string& text) {

@@ -71,8 +71,7 @@ TEST_F(About, IsInRussianInThatLanguage) {
     EXPECT_EQ(label(2), QString::fromUtf8("Версия 1.0.0"));
     const QStringList lines = label(3).split(QStringLiteral("\r\n"));
     ASSERT_EQ(lines.size(), 6);
-    EXPECT_EQ(lines[2],
-              QString::fromUtf8("Разработчики Календаря на Orvalen лет © 1998—2001"));
+    EXPECT_EQ(lines[2], QString::fromUtf8("Разработчики Календаря на Orvalen лет © 1998—2001"));
     EXPECT_EQ(lines[4], QStringLiteral("E-mail: calendar@example.org"));
 }
 

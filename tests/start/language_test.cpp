@@ -33,8 +33,7 @@ protected:
     /// The message that tells of a language's file.
     QStringList told(const char* name, const char* what) const {
         const QString path = programPath(QString::fromUtf8(name) + QStringLiteral(".lng"));
-        return {QDir::toNativeSeparators(path) + QStringLiteral("\r\n\r\n") +
-                QLatin1String(what)};
+        return {QDir::toNativeSeparators(path) + QStringLiteral("\r\n\r\n") + QLatin1String(what)};
     }
 
     void expectEnglishAfter(const char* name, const char* what) {
@@ -88,7 +87,8 @@ TEST_F(Language, EverySectionFillsItsTable) {
 }
 
 TEST_F(Language, WhatAFileHasTooMuchIsIgnored) {
-    writeLanguage("X.lng", "[CALENDARS]\n0=a\n6=b\n[JMONTHS]\n13=c\n[OTHER]\n1=d\n[STRINGS]\n26=e\n");
+    writeLanguage("X.lng",
+                  "[CALENDARS]\n0=a\n6=b\n[JMONTHS]\n13=c\n[OTHER]\n1=d\n[STRINGS]\n26=e\n");
     MonthNames(Jewish, 13) = "kept";
     load("X");
     TextTables expected = english;
@@ -174,9 +174,9 @@ TEST_F(Language, OfFilesThatDifferInCaseTheExactOneIsTaken) {
 TEST_F(Language, TheListIsEnglishAndThenTheFilesByName) {
     for (const char* file : {"beta.lng", "Alpha.LNG", "gAMMA.Lng", "other.txt", "lng", "x.lng.bak"})
         writeLanguage(file, "");
-    EXPECT_EQ(LanguageList(), (QStringList{QStringLiteral("English (Default)"),
-                                           QStringLiteral("Alpha"), QStringLiteral("Beta"),
-                                           QStringLiteral("Gamma")}));
+    EXPECT_EQ(LanguageList(),
+              (QStringList{QStringLiteral("English (Default)"), QStringLiteral("Alpha"),
+                           QStringLiteral("Beta"), QStringLiteral("Gamma")}));
 }
 
 TEST_F(Language, ListedNamesBeginWithALargeLetterInEveryScript) {
@@ -253,8 +253,8 @@ TEST_F(Language, BlanksAtATextsEndAreCut) {
 }
 
 TEST_F(Language, LongTextsAreCutAt254Bytes) {
-    writeLanguage("A.lng", "[LABELS]\n1=" + QByteArray("\xD0\xAF").repeated(200) + "\n2=" +
-                               QByteArray(300, 'x') + "\n");
+    writeLanguage("A.lng", "[LABELS]\n1=" + QByteArray("\xD0\xAF").repeated(200) +
+                               "\n2=" + QByteArray(300, 'x') + "\n");
     load("A");
     EXPECT_EQ(LabelTexts(1).size(), 254U);
     EXPECT_EQ(LabelTexts(2), std::string(254, 'x'));

@@ -69,8 +69,8 @@ inline bool invariantsHold(int c) {
     const int month = CurDate(c, Month);
     return days == YearDays(c, DaysInYear) &&
            YearJD(c, LastDay) - YearJD(c, FirstDay) + 1 == YearDays(c, DaysInYear) &&
-           CurJD - YearJD(c, FirstDay) + 1 == CurDate(c, DayNumber) &&
-           CurDate(c, Day) >= 1 && CurDate(c, Day) <= MonthDays(c, month) &&
+           CurJD - YearJD(c, FirstDay) + 1 == CurDate(c, DayNumber) && CurDate(c, Day) >= 1 &&
+           CurDate(c, Day) <= MonthDays(c, month) &&
            Calc::DayOfYear(c, month, CurDate(c, Day)) == CurDate(c, DayNumber) &&
            (MonthDays(c, weekdayRow + month) + CurDate(c, Day) - 2) % 7 + 1 == CurJD % 7 + 1 &&
            CurDate(c, WeekNumber) >= 1 && CurDate(c, WeekNumber) <= YearDays(c, WeeksInYear) &&

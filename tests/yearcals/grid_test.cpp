@@ -47,9 +47,9 @@ TEST_F(YearGrid, EveryCellIsRightWhateverOpensTheWeek) {
 TEST_F(YearGrid, PlacesOfTheMark) {
     const struct {
         int calendar, day, month, year, row, column;
-    } rows[] = {{Jewish, 14, 7, 5763, 11, 21},   {Jewish, 1, 8, 5763, 21, 1},
-                {Jewish, 29, 13, 5763, 30, 17},  {Jewish, 30, 6, 5763, 11, 17},
-                {Gregorian, 1, 1, 2000, 7, 1},   {Gregorian, 29, 2, 2024, 5, 11},
+    } rows[] = {{Jewish, 14, 7, 5763, 11, 21},    {Jewish, 1, 8, 5763, 21, 1},
+                {Jewish, 29, 13, 5763, 30, 17},   {Jewish, 30, 6, 5763, 11, 17},
+                {Gregorian, 1, 1, 2000, 7, 1},    {Gregorian, 29, 2, 2024, 5, 11},
                 {Gregorian, 31, 12, 2000, 25, 18}};
     for (const auto& row : rows) {
         setDate(row.calendar, row.day, row.month, row.year);
@@ -187,8 +187,7 @@ TEST_F(YearGrid, TheThirteenthMonthLeavesNothingBehind) {
 
 TEST_F(YearGrid, CellsSayTheirDateAndTheChosenOneIsSelected) {
     open(Gregorian);
-    QAccessibleInterface* table =
-        QAccessible::queryAccessibleInterface(&year(Gregorian).Grid());
+    QAccessibleInterface* table = QAccessible::queryAccessibleInterface(&year(Gregorian).Grid());
     const YearLayout::Cell cell = YearLayout::CellOf(Gregorian, 11, 20);
     QAccessibleInterface* chosen = table->tableInterface()->cellAt(cell.row, cell.column);
     EXPECT_EQ(chosen->text(QAccessible::Name),

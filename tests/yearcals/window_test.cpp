@@ -103,8 +103,8 @@ TEST_F(YearWindows, TheJewishSelectorShowsItsYearOnEveryDayBeyondTheTop) {
     open(Jewish);
     for (int julianDay = 2817404; julianDay < 2817410; ++julianDay) {
         goTo(julianDay);
-        EXPECT_EQ(year(Jewish).Combo1().Text(), julianDay == 2817404 ? QStringLiteral("6761")
-                                                                     : QStringLiteral("6762"));
+        EXPECT_EQ(year(Jewish).Combo1().Text(),
+                  julianDay == 2817404 ? QStringLiteral("6761") : QStringLiteral("6762"));
     }
     goTo(2461365);
     EXPECT_EQ(year(Jewish).Combo1().Text(), QStringLiteral("5787"));
@@ -214,8 +214,8 @@ TEST_F(YearWindows, LeadToTheOtherThree) {
 
 TEST_F(YearWindows, LeadToTheMoonTheOptionsAndTheAboutBox) {
     open(Julian);
-    auto* front = child<CommandButton>(
-        year(Julian), qPrintable(QStringLiteral("Command2_%1").arg(MoonPhase)));
+    auto* front = child<CommandButton>(year(Julian),
+                                       qPrintable(QStringLiteral("Command2_%1").arg(MoonPhase)));
     EXPECT_EQ(year(Julian).childAt(front->geometry().center()), front);
     click(front);
     EXPECT_TRUE(ChangeCals::Moon().Visible());

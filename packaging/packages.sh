@@ -1,0 +1,38 @@
+# SPDX-License-Identifier: MIT
+# What the project needs from Debian 12, and how it is installed. Sourced by the
+# commands at the top of the tree.
+
+build_packages=(cmake ninja-build g++ qt6-base-dev libqt6svg6-dev)
+run_packages=(qt6-qpa-plugins libqt6svg6 fonts-dejavu-core)
+screen_packages=(xvfb openbox xdotool x11-utils imagemagick)
+test_packages=(libgtest-dev libbenchmark-dev libicu-dev clang-format clang-tidy clang-tools
+    python3 git)
+
+is_installed() {
+    [ "$(dpkg-query -W -f='${db:Status-Status}' "$1" 2>/dev/null)" = installed ]
+}
+
+as_root() {
+    if [ "$(id -u)" = 0 ]; then "$@"; else sudo "$@"; fi
+}
+
+# Installs those of the packages named that are missing.
+need_packages() {
+    local missing=() package
+    for package in "$@"; do
+        is_installed "$package" || missing+=("$package")
+    done
+    [ ${#missing[@]} -eq 0 ] && return
+    echo "Installing: ${missing[*]}"
+    as_root apt-get update -qq
+    as_root env DEBIAN_FRONTEND=noninteractive \
+        apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+}
+
+# Configures a preset once and builds it.
+build_preset() {
+    local preset=$1
+    shift
+    [ -f "build/$preset/build.ninja" ] || cmake --preset "$preset" >/dev/null
+    cmake --build --preset "$preset" "$@"
+}

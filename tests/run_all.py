@@ -1,0 +1,125 @@
+# SPDX-License-Identifier: MIT
+"""Runs every test and check of a built tree, the quick ones beside the long, and
+ends with one line that says how many passed and failed."""
+
+import concurrent.futures
+import json
+import os
+import pathlib
+import re
+import subprocess
+import sys
+import tempfile
+import time
+
+ROOT = pathlib.Path(__file__).resolve().parent.parent
+ASAN = ROOT / "build" / "asan"
+PROGRAM = ROOT / "build" / "bench" / "bin"
+ROOMS = ["monthly", "changecals", "yearcals", "start", "platform", "calc", "moon"]
+
+
+class Result:
+    def __init__(self, name, passed, failed, output, seconds):
+        self.name, self.passed, self.failed = name, passed, failed
+        self.output, self.seconds = output, seconds
+
+
+def run(command, environment=None):
+    started = time.monotonic()
+    done = subprocess.run(
+        command, cwd=ROOT, env={**os.environ, **(environment or {})}, text=True,
+        errors="replace", stdout=subprocess.PIPE, stderr=subprocess.STDOUT, check=False)
+    return done.returncode, done.stdout, time.monotonic() - started
+
+
+def check(name, command):
+    """A command that passes or fails as a whole."""
+    status, output, seconds = run(command)
+    return Result(name, int(status == 0), int(status != 0), output, seconds)
+
+
+def room_tests(room, options):
+    """The tests of a room; a run that breaks off counts as one failure more."""
+    with tempfile.TemporaryDirectory() as folder:
+        report = pathlib.Path(folder) / "report.json"
+        environment = {
+            "QT_QPA_PLATFORM": "offscreen",
+            "XDG_RUNTIME_DIR": folder,
+            "LSAN_OPTIONS": f"suppressions={ROOT}/tests/support/lsan.supp:print_suppressions=0",
+            "GTEST_OUTPUT": f"json:{report}",
+        }
+        status, output, seconds = run([ASAN / "bin" / f"{room}_tests", *options], environment)
+        counts = json.loads(report.read_text()) if report.exists() else {"tests": 0, "failures": 0}
+    failed = counts["failures"]
+    if status != 0 and failed == 0:
+        failed = 1
+    ran = counts["tests"] - counts.get("disabled", 0)
+    return Result(f"tests of {room}", ran - counts["failures"], failed, output, seconds)
+
+
+def end_to_end():
+    status, output, seconds = run([sys.executable, "tests/endtoend/run.py", PROGRAM])
+    counts = re.search(r"(\d+) passed, (\d+) failed\s*$", output)
+    if not counts:
+        return Result("end to end", 0, 1, output, seconds)
+    failed = max(int(counts[2]), int(status != 0))
+    return Result("end to end", int(counts[1]), failed, output, seconds)
+
+
+def our_files(*patterns):
+    listed = run(["git", "ls-files", "--cached", "--others", "--exclude-standard", *patterns])[1]
+    return [name for name in listed.splitlines() if (ROOT / name).exists()]
+
+
+def formatting():
+    files = our_files("*.cpp", "*.h", "*.hpp")
+    return check("clang-format", ["clang-format", "--dry-run", "-Werror", *files])
+
+
+def linting():
+    sources = r"/(src|assets)/.*\.cpp$"
+    command = ["run-clang-tidy", "-quiet", "-j1", "-p", ASAN, sources]
+    return check("clang-tidy", command)
+
+
+def floors():
+    return check("floors", [sys.executable, "tests/checks/floors.py", "src",
+                            ASAN / "bin" / "calc_tests"])
+
+
+def licences():
+    return check("licences", [sys.executable, "tests/checks/licences.py"])
+
+
+def report(result):
+    verdict = "ok" if result.failed == 0 else "FAILED"
+    print(f"{result.name}: {result.passed} passed, {result.failed} failed, "
+          f"{result.seconds:.0f} s, {verdict}", flush=True)
+    if result.failed:
+        print(result.output[-20000:], flush=True)
+
+
+def main():
+    options = []
+    if "--long" in sys.argv[1:]:
+        options = ["--gtest_also_run_disabled_tests"]
+    results = []
+    # Two at a time, as there are two cores; the end-to-end tests alone, since
+    # they share a screen with a window manager and should meet it at its usual
+    # speed.
+    jobs = [lambda room=room: room_tests(room, options) for room in ROOMS]
+    jobs.insert(1, linting)
+    with concurrent.futures.ThreadPoolExecutor(max_workers=2) as pool:
+        for result in pool.map(lambda job: job(), [*jobs, formatting, floors, licences]):
+            results.append(result)
+            report(result)
+    results.append(end_to_end())
+    report(results[-1])
+    passed = sum(result.passed for result in results)
+    failed = sum(result.failed for result in results)
+    print(f"{passed} passed, {failed} failed")
+    sys.exit(1 if failed or not passed else 0)
+
+
+if __name__ == "__main__":
+    main()

@@ -1,0 +1,214 @@
+// SPDX-License-Identifier: MIT
+#include "start/start.h"
+
+#include "changecals/opening.h"
+#include "changecals/windows.h"
+#include "platform/clock.h"
+#include "platform/combobox.h"
+#include "platform/commandbutton.h"
+#include "platform/flexgrid.h"
+#include "shared/look.h"
+#include "start/texttables.h"
+#include "support/widget_test.h"
+#include "yearcals/yearcals.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QImage>
+#include <QScrollBar>
+
+namespace {
+
+/// Measures how long the splash is on the screen and keeps its background.
+class SplashWatch : public QObject {
+public:
+    SplashWatch() { qApp->installEventFilter(this); }
+
+    bool eventFilter(QObject* object, QEvent* event) override {
+        if (!object->isWidgetType() || object->objectName() != QStringLiteral("frmAbout"))
+            return false;
+        if (event->type() == QEvent::Show) {
+            m_shown.start();
+            background = static_cast<QWidget*>(object)->palette().color(QPalette::Window);
+        } else if (event->type() == QEvent::Hide) {
+            seconds = static_cast<double>(m_shown.nsecsElapsed()) / 1e9;
+        }
+        return false;
+    }
+
+    QColor background;
+    double seconds = 0;
+
+private:
+    QElapsedTimer m_shown;
+};
+
+class Starting : public WidgetTest {
+protected:
+    Starting() {
+        clearTexts();
+        SetClock([] { return SystemDate{20, 11, 2026}; });
+        YearCals::ForgetShownYears();
+        QImage moon(16, 16, QImage::Format_RGB32);
+        moon.fill(Qt::yellow);
+        EXPECT_TRUE(moon.save(moonPath(), "BMP"));
+    }
+
+    QString moonPath() const { return programPath(QStringLiteral("Moon.bmp")); }
+
+    void store(const QByteArray& lines) const { writeFile(settingsPath(), lines); }
+
+    template <typename Widget>
+    Widget* inWindow(int number, const char* name) {
+        return child<Widget>(*ChangeCals::LoadedWindow(number), name);
+    }
+
+    QString closeTip(int number) {
+        const char* name = number == MonthlyWindowNumber ? "Command1_5" : "Command1_6";
+        return inWindow<CommandButton>(number, name)->toolTip();
+    }
+
+    /// The names of the windows on the screen.
+    static QStringList visibleWindows() {
+        QStringList names;
+        for (const QWidget* window : QApplication::topLevelWidgets()) {
+            if (window->isVisible())
+                names.append(window->objectName());
+        }
+        return names;
+    }
+
+    SplashWatch splash;
+};
+
+class StartupWindows : public Starting, public testing::WithParamInterface<int> {
+protected:
+    QStringList expectedWindows() const {
+        const char* const names[] = {"frmMonthlyCal", "frmJulian", "frmGregorian", "frmJewish",
+                                     "frmMoslem"};
+        const int window = GetParam();
+        if (window < 0 || window > calendarCount)
+            return {};
+        return {QLatin1String(names[window])};
+    }
+};
+
+TEST_P(StartupWindows, OnlyTheOneStoredIsShown) {
+    store("[Startup]\nWindow=" + QByteArray::number(GetParam()) + "\n");
+    ASSERT_TRUE(Start::Main());
+    processEvents();
+    for (int number = 1; number <= mainWindowCount; ++number)
+        EXPECT_NE(ChangeCals::LoadedWindow(number), nullptr) << number;
+    EXPECT_EQ(visibleWindows(), expectedWindows());
+    EXPECT_EQ(CurrentWindow, GetParam());
+    EXPECT_EQ(StartupWindow, GetParam());
+    for (int number = 1; number <= MonthlyWindowNumber; ++number)
+        EXPECT_EQ(closeTip(number), QStringLiteral("Exit")) << number;
+}
+
+INSTANTIATE_TEST_SUITE_P(Stored, StartupWindows, testing::Values(0, 1, 2, 3, 4, 9, -1),
+                         [](const testing::TestParamInfo<int>& number) {
+                             return number.param < 0 ? std::string("Negative")
+                                                     : "Number" + std::to_string(number.param);
+                         });
+
+TEST_F(Starting, ChoosesTodayInAllCalendars) {
+    ASSERT_TRUE(Start::Main());
+    EXPECT_EQ(dateIn(Gregorian), (Date{20, 11, 2026}));
+    EXPECT_EQ(dateIn(Julian), (Date{7, 11, 2026}));
+    EXPECT_EQ(dateIn(Jewish), (Date{10, 3, 5787}));
+    EXPECT_EQ(CurJD, 2461365);
+    EXPECT_EQ(WeekDayNo, 5);
+    for (int c = 1; c <= calendarCount; ++c)
+        EXPECT_TRUE(invariantsHold(c)) << c;
+}
+
+TEST_F(Starting, ShowsASplashForItsTime) {
+    store("[Startup]\nWindow=3\n");
+    ASSERT_TRUE(Start::Main());
+    EXPECT_GE(splash.seconds, Days(0.000012).count());
+    EXPECT_EQ(splash.background, QColor(0xFF, 0xFF, 0xC0)) << "the start-up calendar's colour";
+}
+
+TEST_F(Starting, AMissingMoonPictureIsToldOnce) {
+    ASSERT_TRUE(QFile::remove(moonPath()));
+    ASSERT_TRUE(Start::Main());
+    processEvents();
+    EXPECT_EQ(m_messages.take(), QStringList{QDir::toNativeSeparators(moonPath()) +
+                                             QStringLiteral("\r\n\r\nFile not found")});
+    EXPECT_EQ(visibleWindows(), QStringList{QStringLiteral("frmMonthlyCal")});
+}
+
+TEST_F(Starting, ABadSettingEndsItBeforeAnyWindow) {
+    store("[Startup]\nWindow=abc\n");
+    EXPECT_FALSE(Start::Main());
+    EXPECT_EQ(m_messages.take().size(), 1);
+    for (int number = 1; number <= mainWindowCount; ++number)
+        EXPECT_EQ(ChangeCals::LoadedWindow(number), nullptr) << number;
+    EXPECT_EQ(visibleWindows(), QStringList());
+    EXPECT_EQ(splash.seconds, 0);
+}
+
+TEST_F(Starting, WithoutTipsThereAreNone) {
+    store("[Startup]\nShowTips=0\n");
+    ASSERT_TRUE(Start::Main());
+    for (int number = 1; number <= mainWindowCount; ++number) {
+        for (const QWidget* control : ChangeCals::LoadedWindow(number)->findChildren<QWidget*>())
+            EXPECT_EQ(control->toolTip(), QString())
+                << number << ' ' << control->objectName().toStdString();
+    }
+}
+
+TEST_F(Starting, AFirstPaneWithoutACalendarStandsEmpty) {
+    store("[Startup]\nCalendar1=9\n");
+    ASSERT_TRUE(Start::Main());
+    EXPECT_EQ(CalendarOrder(1), 9);
+    EXPECT_EQ(visibleWindows(), QStringList{QStringLiteral("frmMonthlyCal")});
+    EXPECT_FALSE(Updating);
+}
+
+TEST_F(Starting, SpeaksTheStoredLanguage) {
+    EXPECT_TRUE(QFile::copy(QStringLiteral(LANGUAGES_DIR "/German.lng"),
+                            programPath(QStringLiteral("German.lng"))));
+    store("[Startup]\nLanguage=German\n");
+    ASSERT_TRUE(Start::Main());
+    EXPECT_EQ(ChangeCals::LoadedWindow(MonthlyWindowNumber)->windowTitle(),
+              QStringLiteral("Monatskalender"));
+    EXPECT_EQ(ChangeCals::LoadedWindow(MoonWindowNumber)->windowTitle(), QStringLiteral("Mond"));
+    EXPECT_EQ(closeTip(MonthlyWindowNumber), QStringLiteral("Beenden"));
+}
+
+TEST_F(Starting, AMissingLanguageFileIsToldAndTheStartGoesOn) {
+    store("[Startup]\nLanguage=German\n");
+    ASSERT_TRUE(Start::Main());
+    EXPECT_EQ(m_messages.take(),
+              QStringList{QDir::toNativeSeparators(programPath(QStringLiteral("German.lng"))) +
+                          QStringLiteral("\r\n\r\nFile not found")});
+    EXPECT_EQ(LanguageName, englishLanguage);
+    EXPECT_EQ(readFile(settingsPath()), "[Startup]\nLanguage=German\n") << "the choice is kept";
+}
+
+TEST_F(Starting, WindowsStandWhereTheSettingsPutThem) {
+    store("[Monthly]\nTop=600\nLeft=750\n[Moon]\nTop=32737\nLeft=300\n");
+    ASSERT_TRUE(Start::Main());
+    MainWindow* monthly = ChangeCals::LoadedWindow(MonthlyWindowNumber);
+    EXPECT_EQ(monthly->Top(), 600);
+    EXPECT_EQ(monthly->Left(), 750);
+    EXPECT_NE(ChangeCals::LoadedWindow(MoonWindowNumber)->Left(), 300) << "half a place is none";
+}
+
+TEST_F(Starting, GridsShowAllTheirCells) {
+    ASSERT_TRUE(Start::Main());
+    ChangeCals::OpenYearWindowsOfPanes();
+    processEvents();
+    for (int number = 1; number <= MonthlyWindowNumber; ++number) {
+        for (const MSFlexGrid* grid :
+             ChangeCals::LoadedWindow(number)->findChildren<MSFlexGrid*>()) {
+            EXPECT_EQ(grid->horizontalScrollBar()->maximum(), 0) << number;
+            EXPECT_EQ(grid->verticalScrollBar()->maximum(), 0) << number;
+        }
+    }
+}
+
+} // namespace
