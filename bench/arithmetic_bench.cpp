@@ -18,24 +18,33 @@ namespace {
 constexpr int unixEpoch = 2440588;
 constexpr double millisecondsPerDay = 86400000.0;
 
-// Days all over the range, in an order that no cache foresees.
-int dayNumber(int i) {
-    constexpr int first = 1948440;
-    constexpr int days = 2817152 - first;
-    return first + static_cast<int>(static_cast<long long>(i) * 7919 % days);
+constexpr int firstDay = 1948440;
+constexpr int days = 2817152 - firstDay;
+
+// One day after another, as a user steps through them.
+int nextDay(int i) {
+    return firstDay + i % days;
 }
 
-void ourFourCalendars(benchmark::State& state) {
+// Days all over the range, in an order that nothing foresees.
+int someDay(int i) {
+    return firstDay + static_cast<int>(static_cast<long long>(i) * 7919 % days);
+}
+
+using DayOf = int (*)(int i);
+
+void ourFourCalendars(benchmark::State& state, DayOf dayOf) {
     Calc::FillConstantRows();
     Calc::SetMoslemType();
     int i = 0;
     for (auto _ : state) {
-        CurJD = dayNumber(i++);
+        CurJD = dayOf(i++);
         ChangeCals::ChangeJD();
         benchmark::DoNotOptimize(CurDate(Moslem, Day));
     }
 }
-BENCHMARK(ourFourCalendars);
+BENCHMARK_CAPTURE(ourFourCalendars, next, nextDay);
+BENCHMARK_CAPTURE(ourFourCalendars, scattered, someDay);
 
 using Calendar = std::unique_ptr<icu::Calendar>;
 
@@ -57,12 +66,12 @@ std::vector<Calendar> icuCalendars() {
     return calendars;
 }
 
-void icuFourCalendars(benchmark::State& state) {
+void icuFourCalendars(benchmark::State& state, DayOf dayOf) {
     const std::vector<Calendar> calendars = icuCalendars();
     UErrorCode status = U_ZERO_ERROR;
     int i = 0;
     for (auto _ : state) {
-        const double time = (dayNumber(i++) - unixEpoch) * millisecondsPerDay;
+        const double time = (dayOf(i++) - unixEpoch) * millisecondsPerDay;
         for (const Calendar& calendar : calendars) {
             calendar->setTime(time, status);
             for (const auto field :
@@ -71,31 +80,34 @@ void icuFourCalendars(benchmark::State& state) {
         }
     }
 }
-BENCHMARK(icuFourCalendars);
+BENCHMARK_CAPTURE(icuFourCalendars, next, nextDay);
+BENCHMARK_CAPTURE(icuFourCalendars, scattered, someDay);
 
 // Qt has no Jewish calendar: three of the four.
-void qtThreeCalendars(benchmark::State& state) {
+void qtThreeCalendars(benchmark::State& state, DayOf dayOf) {
     const QCalendar calendars[] = {QCalendar(QCalendar::System::Julian),
                                    QCalendar(QCalendar::System::Gregorian),
                                    QCalendar(QCalendar::System::IslamicCivil)};
     int i = 0;
     for (auto _ : state) {
-        const QDate day = QDate::fromJulianDay(dayNumber(i++));
+        const QDate day = QDate::fromJulianDay(dayOf(i++));
         for (const QCalendar& calendar : calendars) {
             benchmark::DoNotOptimize(calendar.partsFromDate(day));
             benchmark::DoNotOptimize(day.dayOfYear(calendar));
         }
     }
 }
-BENCHMARK(qtThreeCalendars);
+BENCHMARK_CAPTURE(qtThreeCalendars, next, nextDay);
+BENCHMARK_CAPTURE(qtThreeCalendars, scattered, someDay);
 
-void chronoGregorian(benchmark::State& state) {
+void chronoGregorian(benchmark::State& state, DayOf dayOf) {
     int i = 0;
     for (auto _ : state) {
-        const std::chrono::sys_days day{std::chrono::days{dayNumber(i++) - unixEpoch}};
+        const std::chrono::sys_days day{std::chrono::days{dayOf(i++) - unixEpoch}};
         benchmark::DoNotOptimize(std::chrono::year_month_day{day});
     }
 }
-BENCHMARK(chronoGregorian);
+BENCHMARK_CAPTURE(chronoGregorian, next, nextDay);
+BENCHMARK_CAPTURE(chronoGregorian, scattered, someDay);
 
 } // namespace

@@ -13,8 +13,9 @@ namespace Calc {
 void FillConstantRows();
 
 /// Julian Day of a date of the Julian calendar, by the classic formula with
-/// products of 30.6 and 365.25. Exact from year 1 on; one day high for January
-/// and February of year 0, which no calendar here shows.
+/// products of 30.6 and 365.25, each truncated toward zero; in whole numbers they
+/// are the same. Exact from year 1 on; one day high for January and February of
+/// year 0, which no calendar here shows.
 int JulianJD(int day, int month, int year);
 
 /// Day number within the year of a day of a month of calendar c, by the current

@@ -5,8 +5,6 @@
 #include "calc/state.h"
 #include "shared/texts.h"
 
-#include <cmath>
-
 namespace {
 
 constexpr int julianYearsBehind = 3760; // Passover of Jewish year x is in Julian year x - 3760
@@ -14,6 +12,11 @@ constexpr int passoverToNewYear = 163;
 constexpr int shortestLeapYear = 383;
 
 enum JewishMonth : int { Heshvan = 2, Kislev = 3, Adar = 6, AdarTwo = 7, lastMonth = 13 };
+
+int floorOf(double value) {
+    const int whole = static_cast<int>(value);
+    return value < whole ? whole - 1 : whole;
+}
 
 // Passover of a Jewish year as a day of March, with the fraction of the day at
 // which its moon is born.
@@ -26,9 +29,9 @@ double passover(int x, int cycleYear) {
 // The days by which Passover is put off, so that the new year falls on no Sunday,
 // Wednesday or Friday (first rule) and every year has a legal length.
 int postponement(double day, int x, int cycleYear) {
-    const double whole = std::floor(day);
+    const int whole = floorOf(day);
     const double fraction = day - whole;
-    const int weekday = (static_cast<int>(whole) + 3 * x + 5 * (x % 4) + 5) % 7;
+    const int weekday = (whole + 3 * x + 5 * (x % 4) + 5) % 7;
     if (weekday == 2 || weekday == 4 || weekday == 6)
         return 1;
     if (weekday == 1 && cycleYear > 6 && fraction >= 1367.0 / 2160.0)
@@ -62,7 +65,7 @@ void moveLengthsToCommonLayout() {
 void enterCommonLayout() {
     moveLengthsToCommonLayout();
     for (int month = AdarTwo; month < lastMonth; ++month)
-        MonthNames(Jewish, month) = MonthNames(Jewish, month + 1);
+        MonthNames(Jewish, month).swap(MonthNames(Jewish, month + 1));
     MonthNames(Jewish, Adar) = AdarName;
     MonthNames(Jewish, lastMonth).clear();
     JewishLeap = false;
@@ -71,7 +74,7 @@ void enterCommonLayout() {
 void enterLeapLayout() {
     for (int month = lastMonth; month > AdarTwo; --month) {
         MonthDays(Jewish, month) = MonthDays(Jewish, month - 1);
-        MonthNames(Jewish, month) = MonthNames(Jewish, month - 1);
+        MonthNames(Jewish, month).swap(MonthNames(Jewish, month - 1));
     }
     MonthNames(Jewish, Adar) = AdarName + " I";
     MonthNames(Jewish, AdarTwo) = AdarName + " II";
@@ -92,8 +95,9 @@ void setVaryingLengths(int yearDays) {
         MonthDays(Jewish, lastMonth) = 0;
 }
 
-void setJewishYear(int year) {
-    YearJD(Jewish, LastDay) = Calc::JewishNewYear(year + 1) - 1;
+void setJewishYear(int newYear, int nextNewYear) {
+    YearJD(Jewish, FirstDay) = newYear;
+    YearJD(Jewish, LastDay) = nextNewYear - 1;
     YearDays(Jewish, DaysInYear) = YearJD(Jewish, LastDay) - YearJD(Jewish, FirstDay) + 1;
     Calc::SetJewishMonths();
 }
@@ -104,7 +108,7 @@ int Calc::JewishNewYear(int year) {
     const int x = year - 1;
     const int cycleYear = (12 * x + 17) % 19;
     const double day = passover(x, cycleYear);
-    int passoverDay = static_cast<int>(std::floor(day + postponement(day, x, cycleYear)));
+    int passoverDay = floorOf(day + postponement(day, x, cycleYear));
     int passoverMonth = 3;
     carryIntoMonths(passoverDay, passoverMonth);
     return JulianJD(passoverDay, passoverMonth, x - julianYearsBehind) + passoverToNewYear;
@@ -113,8 +117,8 @@ int Calc::JewishNewYear(int year) {
 void Calc::JewishToJD() {
     int& day = CurDate(Jewish, Day);
     int& month = CurDate(Jewish, Month);
-    YearJD(Jewish, FirstDay) = JewishNewYear(CurDate(Jewish, Year));
-    setJewishYear(CurDate(Jewish, Year));
+    const int year = CurDate(Jewish, Year);
+    setJewishYear(JewishNewYear(year), JewishNewYear(year + 1));
     if (month == lastMonth && !JewishLeap)
         --month;
     if (day > MonthDays(Jewish, month))
@@ -127,10 +131,13 @@ void Calc::JewishToJD() {
 void Calc::JDToJewish() {
     int& year = CurDate(Jewish, Year);
     year = MinYear(Jewish) + CurDate(Julian, Year); // at most one too high
-    YearJD(Jewish, FirstDay) = JewishNewYear(year);
-    while (YearJD(Jewish, FirstDay) > CurJD)
-        YearJD(Jewish, FirstDay) = JewishNewYear(--year);
-    setJewishYear(year);
+    int newYear = JewishNewYear(year);
+    int nextNewYear = 0;
+    for (; newYear > CurJD; newYear = JewishNewYear(--year))
+        nextNewYear = newYear;
+    if (nextNewYear == 0)
+        nextNewYear = JewishNewYear(year + 1);
+    setJewishYear(newYear, nextNewYear);
     CurDate(Jewish, DayNumber) = CurJD - YearJD(Jewish, FirstDay) + 1;
     CurDate(Jewish, Day) = CurDate(Jewish, DayNumber);
     DayToMonth(Jewish, CurDate(Jewish, Month), CurDate(Jewish, Day));

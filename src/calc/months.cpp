@@ -13,7 +13,7 @@ int weekdayOf(int julianDay) {
 }
 
 int weeksTouchedBy(int days) {
-    return days / daysInWeek + (days % daysInWeek != 0 ? 1 : 0);
+    return (days + daysInWeek - 1) / daysInWeek;
 }
 
 void fillMonthLengths(int c, const Table<int, 12>& lengths) {

@@ -3,8 +3,6 @@
 #include "calc/calc.h"
 #include "calc/state.h"
 
-#include <cmath>
-
 namespace {
 
 constexpr int february = 2;
@@ -92,7 +90,7 @@ int Calc::JulianJD(int day, int month, int year) {
     // The year is counted from March, so that the leap day is its last.
     const int m = month < march ? month + 13 : month + 1;
     const int y = month < march ? year - 1 : year;
-    return static_cast<int>(std::trunc(m * 30.6) + std::trunc(y * 365.25)) + day + 1720995;
+    return m * 306 / 10 + y * 1461 / 4 + day + 1720995;
 }
 
 void Calc::JulianToJD() {

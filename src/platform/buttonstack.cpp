@@ -7,10 +7,11 @@ ButtonStack::ButtonStack(const QString& name, const QStringList& pictures, QWidg
     for (const QString& picture : pictures) {
         const QString number = QString::number(m_buttons.size());
         auto* button = new CommandButton(name + u'_' + number, picture, parent);
+        button->SetTabStop(m_buttons.empty());
         connect(button, &CommandButton::clicked, this, &ButtonStack::Click);
         m_buttons.push_back(button);
     }
-    BringToFront(0);
+    Front()->raise();
 }
 
 void ButtonStack::Move(int x, int y) {
@@ -26,13 +27,12 @@ void ButtonStack::SetTips(const QString& tip, const QString& accessibleName) {
 }
 
 void ButtonStack::BringToFront(int index) {
-    const auto front = static_cast<std::size_t>(index);
-    if (front >= m_buttons.size())
+    if (index == m_front || index < 0 || index >= static_cast<int>(m_buttons.size()))
         return;
     const bool hadFocus = Front()->hasFocus();
-    m_front = front;
-    for (std::size_t i = 0; i < m_buttons.size(); ++i)
-        m_buttons[i]->SetTabStop(i == front);
+    Front()->SetTabStop(false);
+    m_front = index;
+    Front()->SetTabStop(true);
     Front()->raise();
     if (hadFocus)
         Front()->setFocus();

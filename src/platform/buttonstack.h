@@ -20,7 +20,7 @@ public:
     /// The focus, where a button of the stack has it, goes along.
     void BringToFront(int index);
 
-    CommandButton* Front() const { return m_buttons[m_front]; }
+    CommandButton* Front() const { return m_buttons[static_cast<std::size_t>(m_front)]; }
     const std::vector<CommandButton*>& Buttons() const { return m_buttons; }
 
 Q_SIGNALS:
@@ -28,5 +28,5 @@ Q_SIGNALS:
 
 private:
     std::vector<CommandButton*> m_buttons;
-    std::size_t m_front = 0;
+    int m_front = 0;
 };

@@ -23,7 +23,8 @@ ComboBox::ComboBox(const QString& name, QWidget* parent)
 }
 
 void ComboBox::SetItems(const QStringList& texts, int position) {
-    m_items->setStringList(texts);
+    if (m_items->stringList() != texts)
+        m_items->setStringList(texts);
     setCurrentIndex(position);
 }
 

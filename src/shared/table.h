@@ -29,26 +29,35 @@ public:
     }
 
     constexpr T& operator()(int row, int column = 1) {
-        return inside(row, column) ? m_cells[offset(row, column)] : (m_outside = T{});
+        if (isInside(row, column)) [[likely]]
+            return m_cells[offset(row, column)];
+        reportOutside(row, column);
+        return m_outside = T{};
     }
 
     constexpr const T& operator()(int row, int column = 1) const {
-        return inside(row, column) ? m_cells[offset(row, column)] : nothing;
+        if (isInside(row, column)) [[likely]]
+            return m_cells[offset(row, column)];
+        reportOutside(row, column);
+        return nothing;
     }
 
     constexpr bool operator==(const Table& other) const { return m_cells == other.m_cells; }
 
 private:
-    static constexpr bool inside(int row, int column) {
-        return within(row, Rows) && within(column, Columns);
+    // One comparison each: an index below 1 becomes a huge number.
+    static constexpr bool isInside(int row, int column) {
+        return static_cast<unsigned>(row) - 1U < static_cast<unsigned>(Rows) &&
+               static_cast<unsigned>(column) - 1U < static_cast<unsigned>(Columns);
     }
 
-    static constexpr bool within(int index, int extent) {
-        if (index >= 1 && index <= extent)
-            return true;
-        if (onOutOfBounds != nullptr)
-            onOutOfBounds(index, extent);
-        return false;
+    static void reportOutside(int row, int column) {
+        if (onOutOfBounds == nullptr)
+            return;
+        if (row < 1 || row > Rows)
+            onOutOfBounds(row, Rows);
+        else
+            onOutOfBounds(column, Columns);
     }
 
     static constexpr std::size_t offset(int row, int column) {
