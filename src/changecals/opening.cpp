@@ -8,26 +8,28 @@
 #include "shared/flags.h"
 #include "shared/settings.h"
 
-namespace {
-
-void bringUpYearWindow(int c) {
+void ChangeCals::OpenYearWindow(int c) {
     if (!isCalendar(c))
         return;
-    YearWindow& window = ChangeCals::Year(c);
+    YearWindow& window = Year(c);
     window.ShowYear();
     window.Show();
-}
-
-} // namespace
-
-void ChangeCals::OpenYearWindow(int c) {
-    bringUpYearWindow(c);
     RefreshCloseTips();
 }
 
+// Only the last window asks for the keyboard: one that comes back from the
+// minimised state would get it later than the others.
 void ChangeCals::OpenYearWindowsOfPanes() {
-    for (int pane = 4; pane >= 1; --pane)
-        bringUpYearWindow(CalendarOrder(pane));
+    YearWindow* last = nullptr;
+    for (int pane = 4; pane >= 1; --pane) {
+        if (!isCalendar(CalendarOrder(pane)))
+            continue;
+        last = &Year(CalendarOrder(pane));
+        last->ShowYear();
+        last->ShowInFront();
+    }
+    if (last != nullptr)
+        last->Show();
     RefreshCloseTips();
 }
 

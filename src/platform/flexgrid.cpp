@@ -243,14 +243,25 @@ void MSFlexGrid::showSelected(int row, int column) {
                                                  : QItemSelectionModel::Deselect);
 }
 
+// The number of cells from `column` on that show the same text; blank cells
+// stand alone.
+int MSFlexGrid::equalTexts(int row, int column) const {
+    const QString text = TextMatrix(row, column);
+    int end = column + 1;
+    while (!text.isEmpty() && end < Cols() && TextMatrix(row, end) == text)
+        ++end;
+    return end - column;
+}
+
 void MSFlexGrid::mergeEqualTexts(int row) {
-    for (int from = 0, to = 0; from < Cols(); from = to) {
-        for (to = from + 1; to < Cols() && TextMatrix(row, to) == TextMatrix(row, from); ++to) {
-        }
-        const bool merge = to - from > 1 && !TextMatrix(row, from).isEmpty();
-        const int span = merge ? to - from : 1;
-        if (columnSpan(row, from) != span)
-            setSpan(row, from, 1, span);
+    for (int column = 0, span = 1; column < Cols(); column += span) {
+        span = columnSpan(row, column);
+        if (span > 1 && span != equalTexts(row, column))
+            setSpan(row, column, 1, 1); // before others take its cells
+    }
+    for (int column = 0; column < Cols(); column += equalTexts(row, column)) {
+        if (columnSpan(row, column) != equalTexts(row, column))
+            setSpan(row, column, 1, equalTexts(row, column));
     }
 }
 

@@ -91,6 +91,7 @@ private:
     void announceChanges();
     void repaintCells(const std::vector<QPoint>& cells);
     void showSelected(int row, int column);
+    int equalTexts(int row, int column) const;
     void mergeEqualTexts(int row);
     void moveCurrent(const QModelIndex& index);
 

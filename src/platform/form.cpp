@@ -39,11 +39,15 @@ void Form::SetNormal() {
     setWindowState(windowState() & ~Qt::WindowMinimized);
 }
 
-void Form::Show() {
+void Form::ShowInFront() {
     if (WindowState() == Minimised)
         SetNormal();
     show();
     raise();
+}
+
+void Form::Show() {
+    ShowInFront();
     activateWindow();
 }
 

@@ -25,8 +25,9 @@ public:
     State WindowState() const;
     void SetNormal();
 
-    /// Shows the window modeless and brings it to the front, out of the
-    /// minimised state where it is in it.
+    /// Shows the window modeless and in front, out of the minimised state where
+    /// it is in it. Show gives it the keyboard as well.
+    void ShowInFront();
     void Show();
     void Hide() { hide(); }
 

@@ -4,6 +4,7 @@
 #include "platform/program.h"
 
 #include <QDir>
+#include <QMap>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QStringList>
@@ -16,10 +17,12 @@ QString currentPath() {
     return folder + u'/' + ProgramTitle() + QStringLiteral("/settings.ini");
 }
 
-// One object for the whole run, opened anew only if the configuration directory
-// has become another.
+std::unique_ptr<QSettings> settings;
+QMap<QString, QString> unsaved; // by section and key
+
+// One object for the whole run, opened anew if the configuration directory has
+// become another, and after a failure, since an object keeps that in mind.
 QSettings& store() {
-    static std::unique_ptr<QSettings> settings;
     const QString path = currentPath();
     if (!settings || settings->fileName() != path)
         settings = std::make_unique<QSettings>(path, QSettings::IniFormat);
@@ -37,12 +40,20 @@ QString GetSetting(const QString& section, const QString& key, const QString& st
 }
 
 void SaveSetting(const QString& section, const QString& key, const QString& value) {
+    unsaved.insert(section + u'/' + key, value);
     store().setValue(section + u'/' + key, value);
 }
 
 bool FlushSettings() {
     store().sync();
-    return store().status() != QSettings::AccessError;
+    if (store().status() != QSettings::AccessError) {
+        unsaved.clear();
+        return true;
+    }
+    settings.reset();
+    for (auto entry = unsaved.cbegin(); entry != unsaved.cend(); ++entry)
+        store().setValue(entry.key(), entry.value());
+    return false;
 }
 
 QString SettingsFile() {

@@ -67,16 +67,21 @@ void frmOptions::Form_Load() {
     const bool rightToLeft = Text(LabelTexts(OptionsLabel)).isRightToLeft();
     setLayoutDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
 
-    m_check1 = new QCheckBox(Caption(LabelTexts(ShowTipsLabel)));
+    // Created in the order in which Tab goes through them.
+    QGroupBox* moslem = moslemFrame();
+    QGroupBox* weekdays = weekdaysFrame();
+    QGroupBox* language = languageFrame();
+    QGroupBox* startupWindow = startupFrame();
+    m_check1 = new QCheckBox(Caption(LabelTexts(ShowTipsLabel)), this);
     m_check1->setObjectName(QStringLiteral("Check1"));
     m_check1->setChecked(ShowTips != 0);
 
     auto* columns = new QHBoxLayout;
     auto* right = new QVBoxLayout;
-    columns->addWidget(weekdaysFrame());
+    columns->addWidget(weekdays);
     columns->addLayout(right, 1);
-    right->addWidget(languageFrame());
-    right->addWidget(startupFrame());
+    right->addWidget(language);
+    right->addWidget(startupWindow);
 
     auto* commands = new QHBoxLayout;
     commands->addWidget(m_check1);
@@ -86,7 +91,7 @@ void frmOptions::Form_Load() {
 
     auto* rows = new QVBoxLayout(this);
     rows->setSizeConstraint(QLayout::SetFixedSize);
-    rows->addWidget(moslemFrame());
+    rows->addWidget(moslem);
     rows->addLayout(columns);
     rows->addLayout(commands);
     adjustSize();
@@ -110,7 +115,7 @@ void frmOptions::Combo1_Click(int pane) {
 }
 
 QGroupBox* frmOptions::moslemFrame() {
-    auto* frame = new QGroupBox(frameCaption(MoslemCalendarLabel));
+    auto* frame = new QGroupBox(frameCaption(MoslemCalendarLabel), this);
     auto* rows = new QVBoxLayout(frame);
     auto* explanation = new QLabel(Text(LabelTexts(MoslemTypesLabel)));
     explanation->setTextFormat(Qt::PlainText);
@@ -130,7 +135,7 @@ QGroupBox* frmOptions::moslemFrame() {
 }
 
 QGroupBox* frmOptions::weekdaysFrame() {
-    auto* frame = new QGroupBox(frameCaption(FirstWeekDayLabel));
+    auto* frame = new QGroupBox(frameCaption(FirstWeekDayLabel), this);
     auto* grid = new QGridLayout(frame);
     for (int pane = 1; pane <= 4; ++pane) {
         const int c = m_paneCalendar(pane);
@@ -155,7 +160,7 @@ QGroupBox* frmOptions::weekdaysFrame() {
 }
 
 QGroupBox* frmOptions::languageFrame() {
-    auto* frame = new QGroupBox(frameCaption(LanguageLabel));
+    auto* frame = new QGroupBox(frameCaption(LanguageLabel), this);
     auto* rows = new QVBoxLayout(frame);
     m_combo2 = new ComboBox(QStringLiteral("Combo2"), frame);
     m_combo2->setMinimumContentsLength(18);
@@ -167,7 +172,7 @@ QGroupBox* frmOptions::languageFrame() {
 }
 
 QGroupBox* frmOptions::startupFrame() {
-    auto* frame = new QGroupBox(frameCaption(StartupWindowLabel));
+    auto* frame = new QGroupBox(frameCaption(StartupWindowLabel), this);
     auto* rows = new QVBoxLayout(frame);
     m_combo3 = new ComboBox(QStringLiteral("Combo3"), frame);
     m_combo3->setMinimumContentsLength(18);

@@ -7,9 +7,8 @@ RED = b"\xff\x00\x00"
 
 
 class Picture:
-    def __init__(self, width, height, pixels):
-        self.width = width
-        self.height = height
+    def __init__(self, width, pixels):
+        self._width = width
         self._pixels = pixels
 
     def count(self, color, left, top, width, height):
@@ -17,14 +16,14 @@ class Picture:
         return sum(self._row(y, left, width).count(color) for y in range(top, top + height))
 
     def _row(self, y, left, width):
-        start = 3 * (y * self.width + left)
+        start = 3 * (y * self._width + left)
         row = self._pixels[start:start + 3 * width]
         return [row[at:at + 3] for at in range(0, len(row), 3)]
 
 
 def read_ppm(path):
     data = path.read_bytes()
-    header = re.match(rb"P6\s+(\d+)\s+(\d+)\s+255\s", data)
+    header = re.match(rb"P6\s+(\d+)\s+\d+\s+255\s", data)
     if not header:
         raise AssertionError("the picture of the screen cannot be read")
-    return Picture(int(header.group(1)), int(header.group(2)), data[header.end():])
+    return Picture(int(header.group(1)), data[header.end():])

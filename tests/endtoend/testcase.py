@@ -7,12 +7,11 @@ import tempfile
 import unittest
 
 from program import Program
+from windows import CALENDARS
 
 
 class EndToEndTest(unittest.TestCase):
     """A test with a program of its own that is not started yet."""
-
-    longMessage = True
 
     # Set before the tests run.
     desktop = None
@@ -21,7 +20,6 @@ class EndToEndTest(unittest.TestCase):
     def setUp(self):
         folder = pathlib.Path(tempfile.mkdtemp(prefix="orvalen-test-"))
         self.addCleanup(shutil.rmtree, folder, ignore_errors=True)
-        self.folder = folder
         self.program = Program(self.desktop, self.built, folder)
         self.addCleanup(self.program.kill)
         self.settings = self.program.settings
@@ -33,10 +31,9 @@ class EndToEndTest(unittest.TestCase):
         self.program.wait_until_started()
         return self.program.monthly_window(**title)
 
-    def start_year(self, calendar, settings=None):
+    def start_year(self, calendar):
         """Starts the program with the year window of a calendar."""
-        number = ("Julian", "Gregorian", "Jewish", "Moslem").index(calendar) + 1
-        self.settings.write({"Startup/Window": number} | (settings or {}))
+        self.settings.write({"Startup/Window": CALENDARS.index(calendar) + 1})
         self.program.start()
         self.program.wait_until_started()
         return self.program.year_window(calendar)
