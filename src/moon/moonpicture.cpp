@@ -121,5 +121,6 @@ QImage LoadMoonPicture(const QString& path) {
     const QSize size = reader.size();
     if (size.isEmpty() || size.width() > largestSide || size.height() > largestSide)
         return {};
-    return reader.read();
+    // In full colours, which scaling would otherwise reduce to a few.
+    return reader.read().convertToFormat(QImage::Format_RGB32);
 }

@@ -136,6 +136,11 @@ void MSFlexGrid::Refresh() {
         announceChanges();
 }
 
+void MSFlexGrid::SetSelectedColor(int color) {
+    m_selectedColor = color;
+    m_painter->SetMarkColor(color);
+}
+
 void MSFlexGrid::SetFontPixelSize(int pixels) {
     QFont sized = font();
     sized.setPixelSize(pixels);
@@ -156,6 +161,7 @@ void MSFlexGrid::mousePressEvent(QMouseEvent* event) {
     event->accept();
     if (!pressed.isValid())
         return;
+    m_painter->SetOutlining(false);
     moveCurrent(pressed);
     Q_EMIT MouseDown(event->button());
 }
@@ -178,6 +184,7 @@ void MSFlexGrid::mouseDoubleClickEvent(QMouseEvent* event) {
 
 void MSFlexGrid::keyPressEvent(QKeyEvent* event) {
     if (movesCurrentCell(event->key())) {
+        m_painter->SetOutlining(true);
         QTableView::keyPressEvent(event);
     } else if (pressesCurrentCell(event->key())) {
         Q_EMIT MouseDown(Qt::LeftButton);
@@ -253,15 +260,25 @@ int MSFlexGrid::equalTexts(int row, int column) const {
     return end - column;
 }
 
+bool MSFlexGrid::isMerged(int row) const {
+    int column = 0;
+    while (column < Cols() && columnSpan(row, column) == equalTexts(row, column))
+        column += equalTexts(row, column);
+    return column == Cols();
+}
+
 void MSFlexGrid::mergeEqualTexts(int row) {
+    if (isMerged(row))
+        return;
     for (int column = 0, span = 1; column < Cols(); column += span) {
         span = columnSpan(row, column);
-        if (span > 1 && span != equalTexts(row, column))
-            setSpan(row, column, 1, 1); // before others take its cells
+        if (span > 1)
+            setSpan(row, column, 1, 1);
     }
-    for (int column = 0; column < Cols(); column += equalTexts(row, column)) {
-        if (columnSpan(row, column) != equalTexts(row, column))
-            setSpan(row, column, 1, equalTexts(row, column));
+    for (int column = 0, span = 1; column < Cols(); column += span) {
+        span = equalTexts(row, column);
+        if (span > 1)
+            setSpan(row, column, 1, span);
     }
 }
 

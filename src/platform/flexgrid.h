@@ -62,7 +62,7 @@ public:
     void Refresh();
 
     /// A cell with this background is told to assistive tools as selected.
-    void SetSelectedColor(int color) { m_selectedColor = color; }
+    void SetSelectedColor(int color);
 
     /// Height of the digits' font in pixels.
     void SetFontPixelSize(int pixels);
@@ -92,6 +92,7 @@ private:
     void repaintCells(const std::vector<QPoint>& cells);
     void showSelected(int row, int column);
     int equalTexts(int row, int column) const;
+    bool isMerged(int row) const;
     void mergeEqualTexts(int row);
     void moveCurrent(const QModelIndex& index);
 

@@ -36,7 +36,7 @@ void GridPainter::paint(QPainter* painter, const QStyleOptionViewItem& option,
     if (!cell.text.isEmpty())
         paintText(painter, cell, option.rect);
     const bool current = option.state.testFlag(QStyle::State_HasFocus);
-    if (current && cell.back != m_markColor) {
+    if (m_outlining && current && cell.back != m_markColor) {
         painter->setPen(QPen(ToColor(cell.fore), 1, Qt::DotLine));
         painter->drawRect(option.rect.adjusted(0, 0, -1, -1));
     }

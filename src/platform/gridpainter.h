@@ -9,8 +9,8 @@
 #include <QStaticText>
 
 /// Paints a grid cell: its ground, its text, and nothing of the desktop's theme.
-/// A text too wide for its cell is shown in a smaller font. The current cell of
-/// a grid that has the focus is outlined, unless it is the marked one.
+/// A text too wide for its cell is shown in a smaller font. While the user moves
+/// by keys, the current cell is outlined, unless it has the mark's colour.
 class GridPainter : public QAbstractItemDelegate {
     Q_OBJECT
 
@@ -19,6 +19,7 @@ public:
 
     void SetFonts(const QFont& plain);
     void SetMarkColor(int color) { m_markColor = color; }
+    void SetOutlining(bool on) { m_outlining = on; }
     int PaintedCells() const { return m_paintedCells; }
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
@@ -38,6 +39,7 @@ private:
     const GridModel* m_model;
     QFont m_fonts[2]; // plain, bold
     int m_markColor = -1;
+    bool m_outlining = false;
     mutable QHash<QString, LaidOutText> m_texts;
     mutable int m_paintedCells = 0;
 };
