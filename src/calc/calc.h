@@ -71,6 +71,9 @@ void SetWeeks(int c);
 /// 1..7 counts in sevens.
 int WeekStart(int c);
 
+/// The weekday in row 0..6 of a week of calendar c that is written downward.
+int WeekdayOfRow(int c, int row);
+
 /// Days of the first week of month m that lie before the month: 0..6.
 int LeadingBlanks(int c, int month);
 

@@ -73,6 +73,10 @@ int Calc::WeekStart(int c) {
     return (fromMonday + daysInWeek) % daysInWeek + Monday;
 }
 
+int Calc::WeekdayOfRow(int c, int row) {
+    return (WeekStart(c) + row - 1) % daysInWeek + 1;
+}
+
 int Calc::LeadingBlanks(int c, int month) {
     return (MonthDays(c, weekdayRow + month) - WeekStart(c) + daysInWeek) % daysInWeek;
 }

@@ -27,11 +27,6 @@ void redrawMonthly() {
     window.SetCommonInfo();
 }
 
-bool isVisible(int window) {
-    const MainWindow* loaded = ChangeCals::LoadedWindow(window);
-    return loaded != nullptr && loaded->Visible();
-}
-
 // The Gregorian date comes from the Julian, and the Jewish needs the Julian year.
 void deriveJulianAndGregorian() {
     Calc::JDToJulian();
@@ -86,14 +81,14 @@ void ChangeCals::UpdateWindows() {
     const int asking = CurrentWindow;
     if (isCalendar(asking))
         redrawYear(asking);
-    if (isVisible(MonthlyWindowNumber))
+    if (IsVisible(MonthlyWindowNumber))
         redrawMonthly();
     for (int c = 1; c <= calendarCount; ++c) {
-        if (c != asking && isVisible(c))
+        if (c != asking && IsVisible(c))
             redrawYear(c);
     }
     CurrentWindow = 0;
-    if (isVisible(MoonWindowNumber))
+    if (IsVisible(MoonWindowNumber))
         Moon().ReSetForm();
 }
 

@@ -75,8 +75,7 @@ void savePositions() {
 int ChangeCals::CountOpenWindows() {
     int open = 0;
     for (const int number : calendarWindows) {
-        const CalendarWindow* window = LoadedCalendarWindow(number);
-        if (window != nullptr && window->Visible())
+        if (IsVisible(number))
             ++open;
     }
     return open;

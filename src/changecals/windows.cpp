@@ -77,6 +77,11 @@ CalendarWindow* ChangeCals::LoadedCalendarWindow(int number) {
     return isLoaded(years(number)) ? years(number).data() : nullptr;
 }
 
+bool ChangeCals::IsVisible(int number) {
+    const MainWindow* window = LoadedWindow(number);
+    return window != nullptr && window->Visible();
+}
+
 void ChangeCals::UnloadOptions() {
     if (isLoaded(options))
         options->Unload();

@@ -92,6 +92,9 @@ Form& About();
 /// A main window by its number (1..6), nullptr while it is not loaded.
 MainWindow* LoadedWindow(int number);
 
+/// Whether a main window (1..6) is loaded and visible.
+bool IsVisible(int number);
+
 /// A calendar window by its number (1..5), nullptr while it is not loaded.
 CalendarWindow* LoadedCalendarWindow(int number);
 

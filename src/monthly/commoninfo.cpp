@@ -3,12 +3,11 @@
 
 #include "calc/state.h"
 #include "changecals/changecals.h"
-#include "changecals/opening.h"
+#include "changecals/controltexts.h"
 #include "platform/beep.h"
 #include "platform/numbers.h"
 #include "platform/text.h"
 #include "shared/flags.h"
-#include "shared/settings.h"
 #include "shared/texts.h"
 
 #include <QLocale>
@@ -21,13 +20,6 @@ constexpr int weekdayWidth = 132;
 constexpr int moonAgeWidth = 76;
 constexpr int julianDayWidth = 112;
 
-QStringList phasePictures() {
-    QStringList pictures;
-    for (int phase = 0; phase <= 8; ++phase)
-        pictures.append(QStringLiteral("moon/phase%1").arg(phase));
-    return pictures;
-}
-
 // One decimal, of which a zero is dropped together with the separator.
 QString moonAgeText(double age) {
     QString text = FormatOneDecimal(age);
@@ -36,25 +28,18 @@ QString moonAgeText(double age) {
     return text;
 }
 
-void setTip(QWidget* control, int text) {
-    const QString tip = Text(StringTexts(text));
-    control->setToolTip(ShowTips != 0 ? PlainTip(tip) : QString());
-    control->setAccessibleName(tip);
-}
-
 } // namespace
 
 CommonInfo::CommonInfo(QWidget* parent)
     : QObject(parent),
       m_combo6(new ComboBox(QStringLiteral("Combo6"), parent)),
       m_combo7(new ComboBox(QStringLiteral("Combo7"), parent)),
-      m_command2(QStringLiteral("Command2"), phasePictures(), parent),
+      m_command2(parent),
       m_combo8(new JulianDayField(QStringLiteral("Combo8"), parent)) {
     connect(m_combo6, &ComboBox::Click, this, &CommonInfo::Combo6_Click);
     connect(m_combo7, &ComboBox::Click, this, &CommonInfo::Combo7_Click);
     connect(m_combo7, &ComboBox::GotFocus, this, &CommonInfo::fillMoonAges);
     connect(m_combo7, &ComboBox::BeforeUse, this, &CommonInfo::fillMoonAges);
-    connect(&m_command2, &ButtonStack::Click, this, &ChangeCals::ShowMoonWindow);
 }
 
 void CommonInfo::Place(int left, int middle) {
@@ -87,11 +72,10 @@ void CommonInfo::Fill() {
 }
 
 void CommonInfo::SetTexts() {
-    setTip(m_combo6, WeekDayText);
-    setTip(m_combo7, MoonAgeText);
-    setTip(m_combo8, JulianDayText);
-    const QString moon = Text(StringTexts(MoonText));
-    m_command2.SetTips(ShowTips != 0 ? moon : QString(), moon);
+    ChangeCals::SetTip(m_combo6, Text(StringTexts(WeekDayText)));
+    ChangeCals::SetTip(m_combo7, Text(StringTexts(MoonAgeText)));
+    ChangeCals::SetTip(m_combo8, Text(StringTexts(JulianDayText)));
+    m_command2.SetTexts();
 }
 
 void CommonInfo::Combo6_Click() {

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "changecals/moonbuttons.h"
 #include "monthly/juliandayfield.h"
-#include "platform/buttonstack.h"
 #include "platform/combobox.h"
 
 /// What the four calendars have in common for the chosen day: weekday, age and
@@ -35,7 +35,7 @@ private:
 
     ComboBox* m_combo6; ///< weekday
     ComboBox* m_combo7; ///< moon age
-    ButtonStack m_command2;
+    MoonButtons m_command2;
     JulianDayField* m_combo8;
     QString m_moonAge; ///< as last shown
 };

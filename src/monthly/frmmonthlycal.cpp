@@ -3,6 +3,7 @@
 
 #include "changecals/changecals.h"
 #include "changecals/closing.h"
+#include "changecals/controltexts.h"
 #include "changecals/opening.h"
 #include "changecals/placing.h"
 #include "platform/settingsstore.h"
@@ -59,16 +60,12 @@ void frmMonthlyCal::SetTexts() {
         m_panes(pane)->SetTexts();
     m_common->SetTexts();
     const Table<int, 5> tips{YearCalendarsText, TodayText, OptionsText, AboutText, ExitText};
-    for (int index = 1; index <= 5; ++index) {
-        const QString tip = Text(StringTexts(tips(index)));
-        m_command1(index)->setToolTip(ShowTips != 0 ? PlainTip(tip) : QString());
-        m_command1(index)->setAccessibleName(tip);
-    }
+    for (int index = 1; index <= 5; ++index)
+        ChangeCals::SetTip(m_command1(index), Text(StringTexts(tips(index))));
 }
 
 void frmMonthlyCal::SetCloseTip(const QString& tip) {
-    m_command1(Close)->setToolTip(PlainTip(tip));
-    m_command1(Close)->setAccessibleName(tip);
+    ChangeCals::SetTip(m_command1(Close), tip);
 }
 
 void frmMonthlyCal::SetCal(int pane) {

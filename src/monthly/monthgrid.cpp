@@ -4,6 +4,7 @@
 #include "calc/calc.h"
 #include "calc/state.h"
 #include "changecals/changecals.h"
+#include "changecals/controltexts.h"
 #include "changecals/opening.h"
 #include "platform/numbers.h"
 #include "platform/text.h"
@@ -27,10 +28,6 @@ void step(int& row, int& column) {
         row = 0;
         ++column;
     }
-}
-
-int weekdayOfRow(int c, int row) {
-    return (Calc::WeekStart(c) + row - 1) % daysInWeek + 1;
 }
 
 } // namespace
@@ -122,7 +119,7 @@ void MonthGrid::setCellLook(int row, int column, int back, int fore, bool bold) 
 
 void MonthGrid::fillWeekdays() {
     for (int row = 0; row < rows; ++row)
-        m_grid->SetTextMatrix(row, 0, Text(WeekDayAbbrs(weekdayOfRow(calendar(), row))));
+        m_grid->SetTextMatrix(row, 0, Text(WeekDayAbbrs(Calc::WeekdayOfRow(calendar(), row))));
 }
 
 void MonthGrid::fillDays() {
@@ -150,11 +147,9 @@ void MonthGrid::blankFrom(int row, int column) {
 
 QString MonthGrid::accessibleText(int row, int column) const {
     const int c = calendar();
-    const QString weekday = Text(WeekDayNames(weekdayOfRow(c, row)));
+    const int weekday = Calc::WeekdayOfRow(c, row);
+    if (column == 0)
+        return Text(WeekDayNames(weekday));
     const QString day = m_grid->TextMatrix(row, column);
-    if (column == 0 || day.isEmpty())
-        return column == 0 ? weekday : QString();
-    return QStringLiteral("%1, %2 %3 %4, %5")
-        .arg(weekday, day, Text(MonthNames(c, CurDate(c, Month))),
-             QString::number(CurDate(c, Year)), Text(CalendarNames(c)));
+    return day.isEmpty() ? day : ChangeCals::SpokenDate(c, weekday, day, CurDate(c, Month));
 }

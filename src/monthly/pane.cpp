@@ -4,6 +4,7 @@
 #include "calc/calc.h"
 #include "calc/state.h"
 #include "changecals/changecals.h"
+#include "changecals/controltexts.h"
 #include "platform/numbers.h"
 #include "platform/pointer.h"
 #include "platform/text.h"
@@ -13,6 +14,7 @@
 #include "shared/settings.h"
 #include "shared/texts.h"
 
+#include <QStringList>
 #include <algorithm>
 
 namespace {
@@ -46,7 +48,7 @@ using Entry = QString (*)(int c, int number);
 // Fills a list that holds less than two entries with those of first..last and
 // selects the entry of `chosen`; a number outside the list leaves it as it is.
 void fillOnUse(ComboBox* list, int c, Entry entry, int first, int last, int chosen) {
-    if (Updating || list->ListCount() > 1 || chosen < first || chosen > last)
+    if (list->ListCount() > 1 || chosen < first || chosen > last)
         return;
     const HourglassPointer hourglass;
     QStringList entries;
@@ -62,12 +64,6 @@ ComboBox* newCombo(int kind, int pane, QWidget* parent) {
     return new ComboBox(QStringLiteral("Combo%1_%2").arg(kind).arg(pane), parent);
 }
 
-template <typename Fill>
-void fillWhenUsed(ComboBox* list, QObject* context, const Fill& fill) {
-    QObject::connect(list, &ComboBox::GotFocus, context, fill);
-    QObject::connect(list, &ComboBox::BeforeUse, context, fill);
-}
-
 } // namespace
 
 Pane::Pane(int pane, QWidget* parent)
@@ -79,19 +75,19 @@ Pane::Pane(int pane, QWidget* parent)
       m_grid(pane, parent),
       m_combo4(newCombo(4, pane, parent)),
       m_combo5(newCombo(5, pane, parent)) {
-    fillWhenUsed(m_combo2, this, [this] {
+    fillWhenUsed(m_combo2, [this] {
         const int c = calendar();
         fillOnUse(m_combo2, c, yearEntry, MinYear(c), MaxYear(c), CurDate(c, Year));
     });
-    fillWhenUsed(m_combo3, this, [this] {
+    fillWhenUsed(m_combo3, [this] {
         const int c = calendar();
         fillOnUse(m_combo3, c, monthEntry, 1, Calc::MonthsInYear(c), CurDate(c, Month));
     });
-    fillWhenUsed(m_combo4, this, [this] {
+    fillWhenUsed(m_combo4, [this] {
         const int c = calendar();
         fillOnUse(m_combo4, c, dayEntry, 1, YearDays(c, DaysInYear), CurDate(c, DayNumber));
     });
-    fillWhenUsed(m_combo5, this, [this] {
+    fillWhenUsed(m_combo5, [this] {
         const int c = calendar();
         fillOnUse(m_combo5, c, weekEntry, 1, YearDays(c, WeeksInYear), CurDate(c, WeekNumber));
     });
@@ -137,6 +133,9 @@ void Pane::SetCal() {
 }
 
 void Pane::SetTexts() {
+    const auto setTip = [this](QWidget* control, int text) {
+        ChangeCals::SetTip(control, Text(StringTexts(text)), calendar());
+    };
     setTip(m_combo1, CalendarText);
     setTip(m_combo2, YearText);
     setTip(m_combo3, MonthText);
@@ -187,6 +186,17 @@ void Pane::Combo5_Click() {
     ChangeCals::ChangeJD();
 }
 
+// A list may get the focus in the middle of a refill, when the control before it
+// is hidden; it is then filled later, when it is used.
+void Pane::fillWhenUsed(ComboBox* list, const std::function<void()>& fill) {
+    const auto fillNow = [this, fill] {
+        if (!Updating && isCalendar(calendar()))
+            fill();
+    };
+    connect(list, &ComboBox::GotFocus, this, fillNow);
+    connect(list, &ComboBox::BeforeUse, this, fillNow);
+}
+
 int Pane::calendar() const {
     return CalendarOrder(m_pane);
 }
@@ -214,11 +224,4 @@ void Pane::setAvailable() {
         control->setVisible(visible);
         control->setEnabled(enabled);
     }
-}
-
-void Pane::setTip(QWidget* control, int text) {
-    const QString tip = Text(StringTexts(text));
-    control->setToolTip(ShowTips != 0 ? PlainTip(tip) : QString());
-    const QString name = isCalendar(calendar()) ? Text(CalendarNames(calendar())) : QString();
-    control->setAccessibleName(name.isEmpty() ? tip : name + QStringLiteral(", ") + tip);
 }

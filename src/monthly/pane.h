@@ -4,7 +4,7 @@
 #include "monthly/monthgrid.h"
 #include "platform/combobox.h"
 
-#include <QStringList>
+#include <functional>
 
 /// One of the four panes: the selectors of one calendar and its month grid. A
 /// list holds only the entry of the chosen day until it is used. What a choice
@@ -42,11 +42,11 @@ private:
     void Combo4_Click();
     void Combo5_Click();
 
+    void fillWhenUsed(ComboBox* list, const std::function<void()>& fill);
     int calendar() const;
     void selectCalendar();
     void showOnlyChosenDay();
     void setAvailable();
-    void setTip(QWidget* control, int text);
 
     int m_pane;
     ComboBox* m_combo1; ///< calendar

@@ -2,6 +2,7 @@
 #include "moon/frmmoon.h"
 
 #include "calc/state.h"
+#include "changecals/controltexts.h"
 #include "changecals/opening.h"
 #include "changecals/placing.h"
 #include "moon/moonpicture.h"
@@ -23,11 +24,14 @@ constexpr int pictureSide = 4200;
 constexpr int backdropMargin = 30;
 constexpr int labelMargin = 60;
 
-void setColors(QWidget* widget, const QColor& back, const QColor& text) {
+void setColor(QWidget* widget, QPalette::ColorRole role, const QColor& color) {
     QPalette colors = widget->palette();
-    colors.setColor(QPalette::Window, back);
-    colors.setColor(QPalette::WindowText, text);
+    colors.setColor(role, color);
     widget->setPalette(colors);
+}
+
+void setBackground(QWidget* widget, const QColor& color) {
+    setColor(widget, QPalette::Window, color);
     widget->setAutoFillBackground(true);
 }
 
@@ -46,9 +50,7 @@ frmMoon::frmMoon()
 
 void frmMoon::SetTexts() {
     SetCaption(Text(LabelTexts(MoonLabel)));
-    const QString tip = Text(StringTexts(MoonPictureText));
-    m_picture1->setToolTip(ShowTips != 0 ? PlainTip(tip) : QString());
-    m_picture1->setAccessibleName(tip);
+    ChangeCals::SetTip(m_picture1, Text(StringTexts(MoonPictureText)));
 }
 
 void frmMoon::ReSetForm() {
@@ -68,10 +70,9 @@ void frmMoon::keyPressEvent(QKeyEvent* event) {
 
 void frmMoon::Form_Load() {
     SetTexts();
-    setColors(this, QColor(24, 26, 36), Qt::white);
-    setColors(m_label2, QColor(70, 76, 96), Qt::white);
-    m_label1->setAutoFillBackground(false);
-    setColors(m_label1, Qt::black, QColor(255, 236, 170));
+    setBackground(this, QColor(24, 26, 36));
+    setBackground(m_label2, QColor(70, 76, 96));
+    setColor(m_label1, QPalette::WindowText, QColor(255, 236, 170));
     loadPicture();
     placeControls();
     ChangeCals::PlaceForm(*this, MoonWindowNumber);

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/buttonstack.h"
 
-#include "platform/text.h"
-
 ButtonStack::ButtonStack(const QString& name, const QStringList& pictures, QWidget* parent) {
     for (const QString& picture : pictures) {
         const QString number = QString::number(m_buttons.size());
@@ -17,13 +15,6 @@ ButtonStack::ButtonStack(const QString& name, const QStringList& pictures, QWidg
 void ButtonStack::Move(int x, int y) {
     for (CommandButton* button : m_buttons)
         button->move(x, y);
-}
-
-void ButtonStack::SetTips(const QString& tip, const QString& accessibleName) {
-    for (CommandButton* button : m_buttons) {
-        button->setToolTip(PlainTip(tip));
-        button->setAccessibleName(accessibleName);
-    }
 }
 
 void ButtonStack::BringToFront(int index) {

@@ -15,7 +15,6 @@ public:
     ButtonStack(const QString& name, const QStringList& pictures, QWidget* parent);
 
     void Move(int x, int y);
-    void SetTips(const QString& tip, const QString& accessibleName);
 
     /// The focus, where a button of the stack has it, goes along.
     void BringToFront(int index);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/message.h"
 
+#include "platform/pointer.h"
 #include "platform/program.h"
 
 #include <QApplication>
@@ -11,6 +12,7 @@ void MsgBox(const QString& text) {
                     QApplication::activeWindow());
     box.setTextFormat(Qt::PlainText);
     box.setTextInteractionFlags(Qt::NoTextInteraction);
+    const PointerShape normal(Qt::ArrowCursor); // also amid work under the hourglass
     box.exec();
 }
 

@@ -109,7 +109,7 @@ std::optional<int> CLng(double value) {
 
 std::optional<int> CInt(const QString& text) {
     static const QRegularExpression number(
-        QStringLiteral(R"(^\s*[+-]?([0-9]+\.?[0-9]*|\.[0-9]+)([eE][+-]?[0-9]+)?\s*$)"));
+        QStringLiteral(R"(^\s*[+-]?([0-9]+\.?[0-9]*|\.[0-9]+)([eE][+-]?[0-9]+)?\s*\z)"));
     if (!number.match(text).hasMatch())
         return std::nullopt;
     return CInt(text.trimmed().toDouble());
@@ -126,7 +126,7 @@ QString Str(int value) {
 }
 
 bool IsWholeNumber(const QString& text) {
-    static const QRegularExpression whole(QStringLiteral("^ *[+-]?[0-9]+ *$"));
+    static const QRegularExpression whole(QStringLiteral(R"(^ *[+-]?[0-9]+ *\z)"));
     return whole.match(text).hasMatch();
 }
 

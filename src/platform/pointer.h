@@ -4,11 +4,17 @@
 #include <QCursor>
 #include <QGuiApplication>
 
-/// Shows the hourglass as the mouse pointer for as long as it lives.
-class HourglassPointer {
+/// Shows another mouse pointer for as long as it lives.
+class PointerShape {
 public:
-    HourglassPointer() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~HourglassPointer() { QGuiApplication::restoreOverrideCursor(); }
-    HourglassPointer(const HourglassPointer&) = delete;
-    HourglassPointer& operator=(const HourglassPointer&) = delete;
+    explicit PointerShape(Qt::CursorShape shape) { QGuiApplication::setOverrideCursor(shape); }
+    ~PointerShape() { QGuiApplication::restoreOverrideCursor(); }
+    PointerShape(const PointerShape&) = delete;
+    PointerShape& operator=(const PointerShape&) = delete;
+};
+
+/// The hourglass.
+class HourglassPointer : public PointerShape {
+public:
+    HourglassPointer() : PointerShape(Qt::WaitCursor) {}
 };

@@ -5,59 +5,28 @@
 
 namespace {
 
+const Table<std::string, 12> romanMonths{"January",   "February", "March",    "April",
+                                         "May",       "June",     "July",     "August",
+                                         "September", "October",  "November", "December"};
+
+const Table<std::string, 12> jewishMonths{"Tishri", "Heshvan", "Kislev", "Tevet",
+                                          "Shevat", "Adar",    "Nisan",  "Iyar",
+                                          "Sivan",  "Tammuz",  "Av",     "Elul"};
+
 // The letter after "Dhu" is U+0491 and the sign in "Sha‘ban" U+2018; language
 // files and earlier releases know the names in this form.
-const Table<std::string, calendarCount, 12> monthNames{"January",
-                                                       "February",
-                                                       "March",
-                                                       "April",
-                                                       "May",
-                                                       "June",
-                                                       "July",
-                                                       "August",
-                                                       "September",
-                                                       "October",
-                                                       "November",
-                                                       "December",
-
-                                                       "January",
-                                                       "February",
-                                                       "March",
-                                                       "April",
-                                                       "May",
-                                                       "June",
-                                                       "July",
-                                                       "August",
-                                                       "September",
-                                                       "October",
-                                                       "November",
-                                                       "December",
-
-                                                       "Tishri",
-                                                       "Heshvan",
-                                                       "Kislev",
-                                                       "Tevet",
-                                                       "Shevat",
-                                                       "Adar",
-                                                       "Nisan",
-                                                       "Iyar",
-                                                       "Sivan",
-                                                       "Tammuz",
-                                                       "Av",
-                                                       "Elul",
-
-                                                       "Muharram",
-                                                       "Safar",
-                                                       "Rabi I",
-                                                       "Rabi II",
-                                                       "Jumada I",
-                                                       "Jumada II",
-                                                       "Rajab",
-                                                       "Sha\u2018ban",
-                                                       "Ramadan",
-                                                       "Shawwal",
-                                                       "Dhu\u0491l-Qa\u2018dah",
-                                                       "Dhu\u0491l-Hijjah"};
+const Table<std::string, 12> moslemMonths{"Muharram",
+                                          "Safar",
+                                          "Rabi I",
+                                          "Rabi II",
+                                          "Jumada I",
+                                          "Jumada II",
+                                          "Rajab",
+                                          "Sha\u2018ban",
+                                          "Ramadan",
+                                          "Shawwal",
+                                          "Dhu\u0491l-Qa\u2018dah",
+                                          "Dhu\u0491l-Hijjah"};
 
 void setCalendarNames() {
     CalendarNames = {"Julian calendar", "Gregorian calendar", "Jewish calendar", "Moslem calendar",
@@ -65,9 +34,11 @@ void setCalendarNames() {
 }
 
 void setMonthNames() {
-    for (int c = 1; c <= calendarCount; ++c) {
-        for (int month = 1; month <= 12; ++month)
-            MonthNames(c, month) = monthNames(c, month);
+    for (int month = 1; month <= 12; ++month) {
+        MonthNames(Julian, month) = romanMonths(month);
+        MonthNames(Gregorian, month) = MonthNames(Julian, month);
+        MonthNames(Jewish, month) = jewishMonths(month);
+        MonthNames(Moslem, month) = moslemMonths(month);
     }
     AdarName = MonthNames(Jewish, 6);
 }

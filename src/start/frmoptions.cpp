@@ -2,6 +2,7 @@
 #include "start/frmoptions.h"
 
 #include "calc/calc.h"
+#include "changecals/controltexts.h"
 #include "changecals/opening.h"
 #include "changecals/placing.h"
 #include "changecals/windows.h"
@@ -187,9 +188,7 @@ QGroupBox* frmOptions::startupFrame() {
 
 CommandButton* frmOptions::newCommand(int index, const QString& picture, int tip) {
     auto* button = new CommandButton(QStringLiteral("Command1_%1").arg(index), picture, this);
-    const QString text = Text(StringTexts(tip));
-    button->setToolTip(ShowTips != 0 ? PlainTip(text) : QString());
-    button->setAccessibleName(text);
+    ChangeCals::SetTip(button, Text(StringTexts(tip)));
     connect(button, &CommandButton::clicked, this, [this, index] { Command1_Click(index); });
     return button;
 }

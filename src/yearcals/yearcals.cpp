@@ -5,6 +5,7 @@
 #include "calc/state.h"
 #include "changecals/changecals.h"
 #include "changecals/closing.h"
+#include "changecals/controltexts.h"
 #include "platform/numbers.h"
 #include "platform/pointer.h"
 #include "platform/text.h"
@@ -133,7 +134,7 @@ void fillWeekdays(MSFlexGrid& grid, int c) {
     for (int row = 0; row < rows; ++row) {
         if (row % bandRows == 0)
             continue;
-        const int weekday = (Calc::WeekStart(c) + row % bandRows - 2) % daysInWeek + 1;
+        const int weekday = Calc::WeekdayOfRow(c, row % bandRows - 1);
         grid.SetTextMatrix(row, 0, Text(WeekDayAbbrs(weekday)));
     }
 }
@@ -165,10 +166,8 @@ QString accessibleText(MSFlexGrid& grid, int c, YearLayout::Cell cell) {
     QString text = grid.TextMatrix(cell.row, cell.column);
     if (text.isEmpty() || !YearLayout::IsDayCell(cell))
         return text;
-    const int weekday = (Calc::WeekStart(c) + cell.row % bandRows - 2) % daysInWeek + 1;
-    return QStringLiteral("%1, %2 %3 %4, %5")
-        .arg(Text(WeekDayNames(weekday)), text, Text(MonthNames(c, YearLayout::MonthOf(c, cell))),
-             QString::number(CurDate(c, Year)), Text(CalendarNames(c)));
+    const int weekday = Calc::WeekdayOfRow(c, cell.row % bandRows - 1);
+    return ChangeCals::SpokenDate(c, weekday, text, YearLayout::MonthOf(c, cell));
 }
 
 void changeYear(frmYearCal& form, int c, int by) {

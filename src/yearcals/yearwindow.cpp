@@ -4,6 +4,7 @@
 #include "calc/state.h"
 #include "changecals/changecals.h"
 #include "changecals/closing.h"
+#include "changecals/controltexts.h"
 #include "changecals/placing.h"
 #include "platform/text.h"
 #include "platform/twips.h"
@@ -51,13 +52,6 @@ constexpr std::array commandOrder{
     FirstOtherCalendar + 0, FirstOtherCalendar + 1, FirstOtherCalendar + 2, int{OptionsCommand},
     int{AboutCommand},      int{CloseCommand}};
 
-QStringList phasePictures() {
-    QStringList pictures;
-    for (int phase = 0; phase <= 8; ++phase)
-        pictures.append(QStringLiteral("moon/phase%1").arg(phase));
-    return pictures;
-}
-
 QString commandPicture(int c, int index) {
     static const Table<QString, FirstOtherCalendar - 1> pictures{
         QStringLiteral("previous"), QStringLiteral("next"),  QStringLiteral("today"),
@@ -74,7 +68,7 @@ frmYearCal::frmYearCal(int c)
     : YearWindow(QString::fromLatin1(differenceOf(c).name)),
       m_calendar(c),
       m_combo1(new ComboBox(QStringLiteral("Combo1"), this)),
-      m_command2(QStringLiteral("Command2"), phasePictures(), this),
+      m_command2(this),
       m_grid(new MSFlexGrid(QStringLiteral("MSFlexGrid1"), gridRows, differenceOf(c).gridColumns,
                             this)) {
     createControls();
@@ -88,6 +82,9 @@ frmYearCal::frmYearCal(int c)
 
 void frmYearCal::SetTexts() {
     SetCaption(Text(CalendarNames(m_calendar)));
+    const auto setTip = [this](QWidget* control, const QString& tip) {
+        ChangeCals::SetTip(control, tip, m_calendar);
+    };
     setTip(m_combo1, Text(StringTexts(YearText)));
     const Table<int, FirstOtherCalendar - 1> tips{PreviousYearText, NextYearText, TodayText,
                                                   OptionsText,      AboutText,    ExitText};
@@ -96,13 +93,12 @@ void frmYearCal::SetTexts() {
     for (int other = 1; other <= 3; ++other)
         setTip(m_command1(FirstOtherCalendar + other - 1),
                Text(CalendarNames(differenceOf(m_calendar).otherCalendars(other))));
-    const QString moon = Text(StringTexts(MoonText));
-    m_command2.SetTips(ShowTips != 0 ? moon : QString(), moon);
+    m_command2.SetTexts(m_calendar);
     setTip(m_grid, Text(StringTexts(YearGridText)));
 }
 
 void frmYearCal::SetCloseTip(const QString& tip) {
-    setTip(m_command1(CloseCommand), tip);
+    ChangeCals::SetTip(m_command1(CloseCommand), tip, m_calendar);
 }
 
 void frmYearCal::ShowYear() {
@@ -205,16 +201,10 @@ void frmYearCal::connectControls() {
     connect(m_combo1, &ComboBox::Click, this, &frmYearCal::Combo1_Click);
     connect(m_grid, &MSFlexGrid::MouseDown, this, &frmYearCal::MSFlexGrid1_MouseDown);
     connect(m_grid, &MSFlexGrid::DblClick, this, &YearCals::ShowMonthlyWindow);
-    connect(&m_command2, &ButtonStack::Click, this, &YearCals::ShowMoonWindow);
     for (int index = 1; index <= yearCommands; ++index) {
         CommandButton* button = m_command1(index);
         connect(button, &CommandButton::clicked, this, [this, index] { Command1_Click(index); });
         connect(button, &CommandButton::MouseDown, this,
                 [this, index](Qt::MouseButton pressed) { Command1_MouseDown(index, pressed); });
     }
-}
-
-void frmYearCal::setTip(QWidget* control, const QString& tip) {
-    control->setToolTip(ShowTips != 0 ? PlainTip(tip) : QString());
-    control->setAccessibleName(Text(CalendarNames(m_calendar)) + QStringLiteral(", ") + tip);
 }

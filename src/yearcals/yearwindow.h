@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "changecals/moonbuttons.h"
 #include "changecals/windows.h"
-#include "platform/buttonstack.h"
 #include "platform/combobox.h"
 #include "platform/commandbutton.h"
 #include "platform/flexgrid.h"
@@ -58,11 +58,10 @@ private:
     void createControls();
     void placeControls();
     void connectControls();
-    void setTip(QWidget* control, const QString& tip);
 
     int m_calendar;
     ComboBox* m_combo1;
     Table<CommandButton*, yearCommands> m_command1;
-    ButtonStack m_command2;
+    MoonButtons m_command2;
     MSFlexGrid* m_grid;
 };

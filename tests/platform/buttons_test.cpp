@@ -170,13 +170,4 @@ TEST_F(Stack, ClicksOfTheFrontOneAreTold) {
     EXPECT_EQ(clicks, 1);
 }
 
-TEST_F(Stack, TipsAreThoseOfAllButtonsAsTheyStand) {
-    stack.SetTips(QStringLiteral("<b>Moon</b>"), QStringLiteral("Moon"));
-    for (const CommandButton* button : stack.Buttons()) {
-        EXPECT_EQ(button->toolTip(), QStringLiteral("&lt;b&gt;Moon&lt;/b&gt;"));
-        EXPECT_EQ(button->accessibleName(), QStringLiteral("Moon"));
-        EXPECT_EQ(button->pos(), QPoint(10, 40));
-    }
-}
-
 } // namespace

@@ -90,7 +90,7 @@ TEST(Numbers, TextsOfTenThousandDigitsAreReadToo) {
 }
 
 TEST(Numbers, TextsBecomeTheSameNumbersInEveryLocale) {
-    const LocaleForNow german(QLocale(QLocale::German));
+    const LocaleForNow german{QLocale(QLocale::German)};
     EXPECT_EQ(CInt(QStringLiteral("1.5")), 2);
     EXPECT_EQ(CInt(QStringLiteral("1,5")), std::nullopt);
     EXPECT_EQ(Val(QStringLiteral("1.5")), 1.5);

@@ -18,7 +18,6 @@ protected:
         clearTexts();
         SetEnglishTexts();
     }
-    ~Language() override { QLocale::setDefault(QLocale::c()); }
 
     void writeLanguage(const char* file, const QByteArray& bytes) const {
         writeFile(programPath(QString::fromUtf8(file)), bytes);
@@ -233,6 +232,7 @@ TEST_F(Language, OtherFilesAreInTheUsersCodePage) {
     writeLanguage("A.lng", "[JGMONTHS]\n1=\xDF\xED\xE2\xE0\xF0\xFC\n[STRINGS]\n1=x \x97 y\n");
     QLocale::setDefault(QLocale(QLocale::Russian));
     load("A");
+    QLocale::setDefault(QLocale::c());
     EXPECT_EQ(MonthNames(Gregorian, 1), "Январь");
     EXPECT_EQ(StringTexts(1), "x — y");
 }

@@ -1,0 +1,37 @@
+# SPDX-License-Identifier: MIT
+"""Fails when the program that computes the moon's picture does not write the
+known bytes, or writes nothing of a fault."""
+
+import hashlib
+import pathlib
+import subprocess
+import sys
+import tempfile
+
+KNOWN = "d513e9383fc749d3fb0ee5b7f7795757fd00da5c85d559ef47418bd5a544c00f"
+
+
+def computed(program, folder):
+    picture = pathlib.Path(folder) / "Moon.bmp"
+    subprocess.run([program, picture], check=True)
+    return hashlib.sha256(picture.read_bytes()).hexdigest()
+
+
+def refuses(program, *arguments):
+    done = subprocess.run([program, *arguments], capture_output=True, text=True, check=False)
+    return done.returncode == 1 and bool(done.stderr)
+
+
+def main(program):
+    with tempfile.TemporaryDirectory() as folder:
+        sums = {computed(program, folder) for _ in range(2)}
+        missing = str(pathlib.Path(folder) / "no such folder" / "Moon.bmp")
+        faults = [] if sums == {KNOWN} else [f"other bytes: {sums}"]
+        if not refuses(program) or not refuses(program, missing):
+            faults.append("a fault is not told")
+    print("\n".join(faults) or "the picture is the known one")
+    sys.exit(1 if faults else 0)
+
+
+if __name__ == "__main__":
+    main(*sys.argv[1:])
