@@ -16,6 +16,7 @@ ROOT = pathlib.Path(__file__).resolve().parent.parent
 ASAN = ROOT / "build" / "asan"
 PROGRAM = ROOT / "build" / "bench" / "bin"
 ROOMS = ["monthly", "changecals", "yearcals", "start", "platform", "calc", "moon"]
+LINTED = ["src", *[f"src/{room}" for room in sorted(ROOMS)], "assets/moonpicture"]
 
 
 class Result:
@@ -76,10 +77,9 @@ def formatting():
     return check("clang-format", ["clang-format", "--dry-run", "-Werror", *files])
 
 
-def linting():
-    sources = r"/(src|assets)/.*\.cpp$"
-    command = ["run-clang-tidy", "-quiet", "-j1", "-p", ASAN, sources]
-    return check("clang-tidy", command)
+def linting(folder):
+    command = ["run-clang-tidy", "-quiet", "-j1", "-p", ASAN, rf"/{folder}/[^/]*\.cpp$"]
+    return check(f"clang-tidy of {folder}", command)
 
 
 def floors():
@@ -114,7 +114,7 @@ def main():
     # they share a screen with a window manager and should meet it at its usual
     # speed.
     jobs = [lambda room=room: room_tests(room, options) for room in ROOMS]
-    jobs.insert(1, linting)
+    jobs += [lambda folder=folder: linting(folder) for folder in LINTED]
     with concurrent.futures.ThreadPoolExecutor(max_workers=2) as pool:
         for result in pool.map(lambda job: job(), [*jobs, formatting, floors, licences, moon_picture]):
             results.append(result)
