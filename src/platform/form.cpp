@@ -51,6 +51,11 @@ void Form::Show() {
     activateWindow();
 }
 
+// The toolkit would put the program's name in the place of an empty title.
+void Form::SetCaption(const QString& caption) {
+    setWindowTitle(caption.isEmpty() ? QStringLiteral(" ") : caption);
+}
+
 void Form::Unload() {
     if (m_unloaded)
         return;

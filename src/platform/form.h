@@ -34,8 +34,8 @@ public:
     void Unload();
     bool IsUnloaded() const { return m_unloaded; }
 
-    /// Plain text.
-    void SetCaption(const QString& caption) { setWindowTitle(caption); }
+    /// Plain text. An empty caption leaves the title bar empty.
+    void SetCaption(const QString& caption);
 
 protected:
     /// The window has gone from the screen and will be destroyed.

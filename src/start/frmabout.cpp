@@ -9,7 +9,6 @@
 #include "shared/look.h"
 #include "shared/settings.h"
 #include "shared/texts.h"
-#include "start/dialogplace.h"
 
 #include <QFrame>
 #include <QLabel>
@@ -60,7 +59,7 @@ QString description(const AboutTexts& texts) {
 
 } // namespace
 
-frmAbout::frmAbout() : Form(QStringLiteral("frmAbout")) {
+frmAbout::frmAbout() : Dialog(QStringLiteral("frmAbout")) {
     createControls();
     Form_Load();
 }
@@ -82,7 +81,7 @@ void frmAbout::Form_Load() {
     placeControls();
     if (ShowTips != 0)
         m_cmdOK->setToolTip(PlainTip(Text(StringTexts(CloseText))));
-    PlaceDialog(*this);
+    Place();
 }
 
 void frmAbout::createControls() {

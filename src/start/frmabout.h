@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/form.h"
 #include "shared/table.h"
+#include "start/dialog.h"
 
 class CommandButton;
 class QFrame;
@@ -11,7 +11,7 @@ class QPushButton;
 
 /// The about box, in English or, in the language "Russian", in Russian; at start
 /// it serves as the splash.
-class frmAbout : public Form {
+class frmAbout : public Dialog {
     Q_OBJECT
 
 public:

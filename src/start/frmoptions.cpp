@@ -14,7 +14,6 @@
 #include "platform/text.h"
 #include "shared/settings.h"
 #include "shared/texts.h"
-#include "start/dialogplace.h"
 #include "start/language.h"
 #include "start/rebuilding.h"
 #include "yearcals/yearcals.h"
@@ -54,7 +53,7 @@ QString startup() {
 } // namespace
 
 frmOptions::frmOptions()
-    : Form(QStringLiteral("frmOptions")),
+    : Dialog(QStringLiteral("frmOptions")),
       m_moslemType(MoslemType),
       m_firstWeekDay(FirstWeekDay),
       m_language(LanguageName),
@@ -96,7 +95,7 @@ void frmOptions::Form_Load() {
     rows->addLayout(columns);
     rows->addLayout(commands);
     adjustSize();
-    PlaceDialog(*this);
+    Place();
 }
 
 void frmOptions::Command1_Click(int index) {

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/form.h"
 #include "shared/calendars.h"
 #include "shared/table.h"
+#include "start/dialog.h"
 
 #include <string>
 
@@ -16,7 +16,7 @@ class QRadioButton;
 class QVBoxLayout;
 
 /// The options dialog. What is chosen in it takes effect with Apply.
-class frmOptions : public Form {
+class frmOptions : public Dialog {
     Q_OBJECT
 
 public:

@@ -162,4 +162,4 @@ def _is_message_box(window):
 
 
 def _is_splash(window):
-    return window.title == PROGRAM_TITLE and window.kind == "NORMAL"
+    return not window.title.strip() and window.kind == "NORMAL"

@@ -149,6 +149,13 @@ TEST_F(About, StandsAtAThirdOfTheFreeHeightAndHalfTheFreeWidth) {
     EXPECT_NEAR(box->Top(), top, twipsPerPixel);
 }
 
+TEST_F(About, EscClosesIt) {
+    load();
+    show();
+    QTest::keyClick(box, Qt::Key_Escape);
+    EXPECT_TRUE(box->IsUnloaded());
+}
+
 TEST_F(About, TheSplashIsCutBelowTheLine) {
     load();
     const QPoint place = box->pos();
@@ -156,7 +163,7 @@ TEST_F(About, TheSplashIsCutBelowTheLine) {
     const int height = box->height();
     const int width = box->width();
     box->BecomeSplash(CalendarColors(Gregorian));
-    EXPECT_EQ(box->windowTitle(), QString());
+    EXPECT_EQ(box->windowTitle().trimmed(), QString());
     EXPECT_EQ(box->height(), lineY + (height - lineY) / 4);
     EXPECT_EQ(box->width(), width);
     EXPECT_EQ(box->pos(), place);

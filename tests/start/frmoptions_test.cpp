@@ -279,6 +279,15 @@ TEST_F(Options, ApplyUnloadsTheAboutBox) {
     EXPECT_TRUE(about.isNull());
 }
 
+TEST_F(Options, EscClosesItAndDiscards) {
+    open();
+    press("Option1_2");
+    QTest::keyClick(dialog, Qt::Key_Escape);
+    EXPECT_TRUE(dialog->IsUnloaded());
+    EXPECT_EQ(MoslemType, 1);
+    EXPECT_TRUE(stored().isEmpty());
+}
+
 TEST_F(Options, CloseDiscards) {
     copyLanguage("German");
     showAllWindows();
