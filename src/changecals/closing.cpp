@@ -2,6 +2,7 @@
 #include "changecals/closing.h"
 
 #include "changecals/placing.h"
+#include "changecals/saving.h"
 #include "changecals/windows.h"
 #include "platform/message.h"
 #include "platform/numbers.h"
@@ -138,6 +139,7 @@ void ChangeCals::LeaveProgram(int status) {
     EndProgram(status);
 }
 
-void ChangeCals::ResetLeaving() {
+void ChangeCals::BeginRun() {
     leaving = false;
+    ForgetTelling();
 }

@@ -39,7 +39,7 @@ bool IsLeaving();
 /// Ends the program without saving anything; `status` is its exit status.
 void LeaveProgram(int status);
 
-/// As before any end. For the start.
-void ResetLeaving();
+/// A run begins: nothing is ending, nothing has been told.
+void BeginRun();
 
 } // namespace ChangeCals

@@ -2,8 +2,6 @@
 #include "changecals/placing.h"
 
 #include "platform/form.h"
-#include "platform/message.h"
-#include "platform/settingsstore.h"
 #include "platform/twips.h"
 #include "shared/settings.h"
 
@@ -29,13 +27,6 @@ bool isOnScreen(int left, int top) {
 
 } // namespace
 
-QString ChangeCals::SettingsSection(int number) {
-    static const Table<QString, mainWindowCount> sections{
-        QStringLiteral("Julian"), QStringLiteral("Gregorian"), QStringLiteral("Jewish"),
-        QStringLiteral("Moslem"), QStringLiteral("Monthly"),   QStringLiteral("Moon")};
-    return sections(number);
-}
-
 ChangeCals::Position ChangeCals::PlaceOf(int number) {
     const int top = FormTop(number);
     const int left = FormLeft(number);
@@ -46,12 +37,4 @@ ChangeCals::Position ChangeCals::PlaceOf(int number) {
 void ChangeCals::PlaceForm(Form& form, int number) {
     const Position place = PlaceOf(number);
     form.Move(place.left, place.top);
-}
-
-void ChangeCals::FlushSettingsOrTell() {
-    static bool told = false;
-    if (FlushSettings() || told)
-        return;
-    told = true;
-    MsgBox(WithEmptyLine(SettingsFile(), QStringLiteral("The settings cannot be written.")));
 }

@@ -1,12 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QString>
-
 class Form;
 
-/// Where the main windows stand, and the sections of the settings file in which
-/// that is kept.
+/// Where the main windows stand.
 namespace ChangeCals {
 
 /// Of a window's frame, in twips.
@@ -15,9 +12,6 @@ struct Position {
     int top;
 };
 
-/// "Julian" .. "Moslem", "Monthly", "Moon" by the main window's number.
-QString SettingsSection(int number);
-
 /// Where a main window stands when it is loaded: at its stored position, or at
 /// the designed one when none is stored or when it lies beyond the right or
 /// lower edge of the primary screen.
@@ -25,9 +19,5 @@ Position PlaceOf(int number);
 
 /// Puts a window that is being loaded there.
 void PlaceForm(Form& form, int number);
-
-/// Flushes the settings; tells the user, once in a run, when their file cannot
-/// be written.
-void FlushSettingsOrTell();
 
 } // namespace ChangeCals

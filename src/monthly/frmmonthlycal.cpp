@@ -6,6 +6,7 @@
 #include "changecals/controltexts.h"
 #include "changecals/opening.h"
 #include "changecals/placing.h"
+#include "changecals/saving.h"
 #include "platform/settingsstore.h"
 #include "platform/text.h"
 #include "platform/twips.h"

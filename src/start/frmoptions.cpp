@@ -4,7 +4,7 @@
 #include "calc/calc.h"
 #include "changecals/controltexts.h"
 #include "changecals/opening.h"
-#include "changecals/placing.h"
+#include "changecals/saving.h"
 #include "changecals/windows.h"
 #include "platform/combobox.h"
 #include "platform/commandbutton.h"

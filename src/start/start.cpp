@@ -102,7 +102,7 @@ void showStartupWindow() {
 } // namespace
 
 bool Start::Main() {
-    ChangeCals::ResetLeaving();
+    ChangeCals::BeginRun();
     setFactories();
     if (!ReadSettings())
         return false;

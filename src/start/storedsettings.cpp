@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "start/storedsettings.h"
 
-#include "changecals/placing.h"
+#include "changecals/saving.h"
 #include "platform/message.h"
 #include "platform/numbers.h"
 #include "platform/settingsstore.h"

@@ -57,7 +57,7 @@ WidgetTest::WidgetTest() {
     SetProgramFolder(program);
     SetEndProgram([this](int status) { m_exitStatus = status; });
     SetBeep([this] { ++m_beeps; });
-    ChangeCals::ResetLeaving();
+    ChangeCals::BeginRun();
 }
 
 WidgetTest::~WidgetTest() {
@@ -70,7 +70,7 @@ WidgetTest::~WidgetTest() {
     SetEndProgram({});
     SetProgramFolder({});
     ChangeCals::SetFactories({});
-    ChangeCals::ResetLeaving();
+    ChangeCals::BeginRun();
 }
 
 QString WidgetTest::settingsPath() const {
