@@ -2,7 +2,7 @@
 # What the project needs from Debian 12, and how it is installed. Sourced by the
 # commands at the top of the tree.
 
-build_packages=(cmake ninja-build g++ qt6-base-dev libqt6svg6-dev)
+build_packages=(cmake ninja-build g++ qt6-base-dev qt6-svg-dev)
 run_packages=(qt6-qpa-plugins libqt6svg6 fonts-dejavu-core)
 screen_packages=(xvfb openbox xdotool x11-utils imagemagick)
 test_packages=(libgtest-dev libbenchmark-dev libicu-dev clang-format clang-tidy clang-tools
