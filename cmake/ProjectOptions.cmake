@@ -16,6 +16,10 @@ if(ORVALEN_SANITIZE)
     target_link_options(project_options INTERFACE -fsanitize=address,undefined)
 endif()
 
+if(CMAKE_INTERPROCEDURAL_OPTIMIZATION)
+    target_link_options(project_options INTERFACE -flto=auto) # on all processors
+endif()
+
 add_library(project_qt_options INTERFACE)
 target_link_libraries(project_qt_options INTERFACE project_options)
 target_compile_definitions(project_qt_options INTERFACE

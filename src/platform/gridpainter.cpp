@@ -11,7 +11,7 @@
 namespace {
 
 // Enough for the numbers and titles of a grid; a change of language starts anew.
-constexpr int mostTexts = 500;
+constexpr std::size_t mostTexts = 500;
 
 bool isSingleDigit(const QString& text) {
     return text.size() == 1 && text.front().isDigit();
@@ -49,16 +49,16 @@ QSize GridPainter::sizeHint(const QStyleOptionViewItem&, const QModelIndex&) con
 const GridPainter::LaidOutText& GridPainter::laidOut(const QString& text, bool bold,
                                                      int width) const {
     const QString key = QString::number(bold ? -width : width) + u' ' + text;
-    const auto known = m_texts.constFind(key);
-    if (known != m_texts.constEnd())
-        return *known;
+    const auto known = m_texts.find(key);
+    if (known != m_texts.end())
+        return known->second;
     if (m_texts.size() >= mostTexts)
         m_texts.clear();
     LaidOutText entry{QStaticText(text), FittedFont(m_fonts[bold ? 1 : 0], text, width)};
     entry.text.setTextFormat(Qt::PlainText);
     entry.text.setPerformanceHint(QStaticText::AggressiveCaching);
     entry.text.prepare({}, entry.font);
-    return *m_texts.insert(key, entry);
+    return m_texts.emplace(key, entry).first->second;
 }
 
 void GridPainter::paintText(QPainter* painter, const GridCell& cell, const QRect& rect) const {

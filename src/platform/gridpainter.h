@@ -5,8 +5,8 @@
 
 #include <QAbstractItemDelegate>
 #include <QFont>
-#include <QHash>
 #include <QStaticText>
+#include <unordered_map>
 
 /// Paints a grid cell: its ground, its text, and nothing of the desktop's theme.
 /// A text too wide for its cell is shown in a smaller font. While the user moves
@@ -40,6 +40,6 @@ private:
     QFont m_fonts[2]; // plain, bold
     int m_markColor = -1;
     bool m_outlining = false;
-    mutable QHash<QString, LaidOutText> m_texts;
+    mutable std::unordered_map<QString, LaidOutText> m_texts;
     mutable int m_paintedCells = 0;
 };
