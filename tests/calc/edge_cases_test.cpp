@@ -388,10 +388,18 @@ TEST_F(MoslemCalendar, DaysBeforeTheEraStayInsideTheTables) {
 }
 
 TEST(MoslemCalendarYearZero, IsReadOutsideTheCycleWithoutHarm) {
+    static int outside;
     resetState();
-    enterMoslem({29, 12, -629});
-    enterMoslem({29, 12, 0});
-    SUCCEED();
+    const auto cycle = MoslemCycle;
+    onOutOfBounds = [](int, int) { ++outside; };
+    for (const int year : {0, -1, -28}) {
+        outside = 0;
+        enterMoslem({29, 12, year});
+        EXPECT_GT(outside, 0) << year;
+        EXPECT_EQ(YearDays(Moslem, DaysInYear), 0) << year;
+    }
+    onOutOfBounds = nullptr;
+    EXPECT_EQ(MoslemCycle, cycle);
 }
 
 } // namespace

@@ -242,12 +242,12 @@ TEST_F(Selectors, MonthThirteenIsOfferedInALeapYearOnly) {
 
 // Weekday and moon age
 
-TEST_F(Selectors, WeekdayBelowTheLowestDayBeepsAndChangesNothing) {
+TEST_F(Selectors, EveryWeekdayBelowTheLowestDayBeepsAndChangesNothing) {
     goTo(1721319); // a Saturday
-    for (const char* weekday : {"Mo", "Tu", "We", "Th", "Fr"}) {
+    for (int position = 0; position < 5; ++position) {
         m_beeps = 0;
-        QTest::keyClick(&combo(6), Qt::Key_Home);
-        EXPECT_EQ(m_beeps, 1) << weekday;
+        chooseByMouse(combo(6), position);
+        EXPECT_EQ(m_beeps, 1) << position;
         EXPECT_EQ(CurJD, 1721319);
         EXPECT_EQ(combo(6).ListIndex(), 5);
         expectPanesShowTheState();
