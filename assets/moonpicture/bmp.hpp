@@ -3,7 +3,6 @@
 
 #include <cstdint>
 #include <filesystem>
-#include <span>
 #include <vector>
 
 namespace moonpicture {
@@ -14,16 +13,15 @@ struct Colour {
     std::uint8_t blue = 0;
 };
 
-/// A picture of palette indices, rows from the top down.
-struct IndexedPicture {
+/// Rows from the top down.
+struct Picture {
     int width = 0;
     int height = 0;
-    std::vector<std::uint8_t> pixels;
+    std::vector<Colour> pixels;
 };
 
-/// Writes an uncompressed Windows bitmap of 8 bits a pixel; throws std::runtime_error, naming the
+/// Writes an uncompressed Windows bitmap of 24 bits a pixel; throws std::runtime_error, naming the
 /// file, if that fails.
-void writeBmp(const std::filesystem::path& file, const IndexedPicture& picture,
-              std::span<const Colour, 256> palette);
+void writeBmp(const std::filesystem::path& file, const Picture& picture);
 
 } // namespace moonpicture

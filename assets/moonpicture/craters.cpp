@@ -12,23 +12,31 @@ namespace {
 
 /// How much a crater changes the tone of its parts, and how much it stands out in relief.
 struct Profile {
-    double floor;  ///< added inside
-    double rim;    ///< added on the ring
-    double apron;  ///< added just outside, fading to nothing at twice the radius
-    double relief; ///< depth relative to that of a worn crater
-    double lava;   ///< 0 to 1: how far the floor takes on the tone of lava
+    double floor = 0.0;  ///< added inside
+    double rim = 0.0;    ///< added on the ring
+    double apron = 0.0;  ///< added just outside, fading to nothing at twice the radius
+    double halo = 0.0;   ///< taken away from the ground around the ring
+    double relief = 0.0; ///< depth relative to that of a worn crater
+    double lava = 0.0;   ///< 0 to 1: how far the floor takes on the tone of lava
+    double level = 0.0;  ///< 0 to 1: how far the floor is smoothed over
 };
 
 constexpr double lavaTone = 0.37;
+constexpr double plainTone = 0.64; // of a smooth floor in the highlands
 
 constexpr Profile profileOf(Look look) {
     switch (look) {
     case Look::Brilliant:
-        return {.floor = 0.15, .rim = 0.17, .apron = 0.12, .relief = 0.8, .lava = 0.0};
+        return {.floor = 0.15, .rim = 0.17, .apron = 0.12, .relief = 0.8};
     case Look::Fresh:
-        return {.floor = 0.02, .rim = 0.12, .apron = 0.05, .relief = 1.0, .lava = 0.0};
+        return {.floor = 0.02, .rim = 0.12, .apron = 0.05, .relief = 1.0};
+    case Look::Haloed:
+        return {
+            .floor = 0.14, .rim = 0.17, .apron = 0.02, .halo = 0.22, .relief = 0.8, .level = 0.5};
     case Look::Worn:
-        return {.floor = -0.030, .rim = 0.060, .apron = 0.012, .relief = 1.0, .lava = 0.0};
+        return {.floor = -0.030, .rim = 0.060, .apron = 0.012, .relief = 1.0};
+    case Look::Walled:
+        return {.floor = -0.025, .rim = 0.090, .apron = 0.0, .relief = 1.2, .level = 0.36};
     case Look::Flooded:
         return {.floor = -0.02, .rim = 0.040, .apron = 0.010, .relief = 0.5, .lava = 0.38};
     case Look::Dark:
@@ -54,6 +62,11 @@ double apron(double t) {
     return t < 1.0 ? 0.0 : rest * rest;
 }
 
+/// Glass thrown out of a young crater lies around it, beyond the foot of its wall.
+double halo(double t) {
+    return smoothStep(0.95, 1.25, t) * (1.0 - smoothStep(1.35, 2.0, t));
+}
+
 double inside(double t) {
     return 1.0 - smoothStep(0.62, 0.98, t);
 }
@@ -75,13 +88,16 @@ double battered(const Site& site) {
 
 double toneChange(const Profile& profile, const Site& site, double t) {
     return profile.floor * inside(t) + profile.rim * ring(t) * battered(site) +
-           profile.apron * apron(t);
+           profile.apron * apron(t) - profile.halo * halo(t);
 }
 
 void paintBowl(Site& site, const Bowl& bowl, double distance, double weight) {
-    const double t = distance / bowl.radius * (1.0 + 0.07 * site.clumps + 0.03 * site.grain);
+    const double t = distance / bowl.radius * (1.0 + 0.08 * site.clumps + 0.05 * site.grain);
     const double lava = bowl.profile.lava * lavaCover(t);
+    const double level = bowl.profile.level * inside(t);
     site.tone += (lavaTone + 0.02 * site.clumps - site.tone) * lava;
+    site.tone += (plainTone + 0.03 * site.clumps - site.tone) * level;
+    site.height *= 1.0 - level;
     site.tone += weight * toneChange(bowl.profile, site, t);
     site.height += weight * bowl.profile.relief * bowl.radius * relief(t);
 }
@@ -110,13 +126,16 @@ double anyDiameterKm(Generator& chance, double smallest, double largest) {
 
 /// Each crater is a little more or less pronounced than the next.
 Profile scaled(const Profile& profile, double k) {
-    return {profile.floor * k, profile.rim * k, profile.apron * k, profile.relief * k, 0.0};
+    return {.floor = profile.floor * k,
+            .rim = profile.rim * k,
+            .apron = profile.apron * k,
+            .relief = profile.relief * k};
 }
 
 void strewWorn(Plane& plane, Generator& chance, int count) {
     for (int i = 0; i < count; ++i) {
         const Vec3 centre = anyVisiblePoint(chance);
-        const double radius = kmToUnits(anyDiameterKm(chance, 13.0, 120.0)) / 2.0;
+        const double radius = kmToUnits(anyDiameterKm(chance, 9.0, 120.0)) / 2.0;
         const Profile profile = scaled(profileOf(Look::Worn), chance.between(0.2, 1.15));
         const Bowl bowl{centre, radius, profile};
         plane.forEachNear(centre, 2.0 * radius, [&](Site& site, double distance) {
@@ -129,7 +148,7 @@ void strewWorn(Plane& plane, Generator& chance, int count) {
 void strewDots(Plane& plane, Generator& chance, int count) {
     for (int i = 0; i < count; ++i) {
         const Vec3 centre = anyVisiblePoint(chance);
-        const double radius = kmToUnits(anyDiameterKm(chance, 8.0, 30.0));
+        const double radius = kmToUnits(anyDiameterKm(chance, 5.5, 30.0));
         const double strength = chance.between(0.03, 0.17);
         plane.forEachNear(centre, radius, [&](Site& site, double distance) {
             const double rest = 1.0 - distance / radius;
@@ -138,22 +157,35 @@ void strewDots(Plane& plane, Generator& chance, int count) {
     }
 }
 
+bool standsClear(Look look) {
+    return look != Look::Worn && look != Look::Flooded && look != Look::Dark;
+}
+
+void paintCrater(Plane& plane, const Crater& crater) {
+    const Vec3 centre = pointAt(crater.latitude, crater.longitude);
+    const Bowl bowl{centre, kmToUnits(crater.diameter) / 2.0, profileOf(crater.look)};
+    plane.forEachNear(centre, 2.0 * bowl.radius,
+                      [&](Site& site, double distance) { paintBowl(site, bowl, distance, 1.0); });
+}
+
 } // namespace
 
 void paintSmallCraters(Plane& plane) {
     Generator chance(1969);
-    strewWorn(plane, chance, 5200);
-    strewDots(plane, chance, 2600);
+    strewWorn(plane, chance, 9500);
+    strewDots(plane, chance, 5200);
 }
 
-void paintNamedCraters(Plane& plane) {
-    for (const Crater& crater : namedCraters) {
-        const Vec3 centre = pointAt(crater.latitude, crater.longitude);
-        const Bowl bowl{centre, kmToUnits(crater.diameter) / 2.0, profileOf(crater.look)};
-        plane.forEachNear(centre, 2.0 * bowl.radius, [&](Site& site, double distance) {
-            paintBowl(site, bowl, distance, 1.0);
-        });
-    }
+void paintBuriedCraters(Plane& plane) {
+    for (const Crater& crater : namedCraters)
+        if (!standsClear(crater.look))
+            paintCrater(plane, crater);
+}
+
+void paintClearCraters(Plane& plane) {
+    for (const Crater& crater : namedCraters)
+        if (standsClear(crater.look))
+            paintCrater(plane, crater);
 }
 
 } // namespace moonpicture

@@ -8,7 +8,10 @@ namespace moonpicture {
 /// Strews the nameless small craters, from a fixed seed.
 void paintSmallCraters(Plane& plane);
 
-/// Paints the craters that have names, over everything else.
-void paintNamedCraters(Plane& plane);
+/// Paints those of the craters with names that rays run over.
+void paintBuriedCraters(Plane& plane);
+
+/// Paints those that show through the rays: the young, and the great walled plains.
+void paintClearCraters(Plane& plane);
 
 } // namespace moonpicture

@@ -13,9 +13,8 @@ int main(int argc, char* argv[]) {
         return 1;
     }
     try {
-        constexpr int pictureSize = 640;
-        moonpicture::writeBmp(argv[1], moonpicture::fullMoon(pictureSize),
-                              moonpicture::moonPalette());
+        constexpr int pictureSize = 960; // more than the calendar shows at three times its size
+        moonpicture::writeBmp(argv[1], moonpicture::fullMoon(pictureSize));
     } catch (const std::exception& error) {
         std::cerr << "make_moon: " << error.what() << '\n';
         return 1;

@@ -24,11 +24,11 @@ double limbFactor(const Site& site) {
 /// The light comes from a little to the right, as shortly before the moon is quite full: slopes
 /// that fall towards it are brighter.
 double slopeLight(const Plane& plane, int column, int row) {
-    constexpr double strength = 1.6;
-    constexpr double limit = 0.075; // a full moon never shows strong shading
+    constexpr double strength = 0.0025; // for a slope over one pixel of a picture one pixel wide
+    constexpr double limit = 0.085;     // a full moon never shows strong shading
     const Site& left = plane.at(std::max(column - 1, 0), row);
     const Site& right = plane.at(std::min(column + 1, plane.size() - 1), row);
-    return std::clamp(strength * (left.height - right.height), -limit, limit);
+    return std::clamp(strength * plane.size() * (left.height - right.height), -limit, limit);
 }
 
 /// A gentle S around the middle tones, such as photographic paper has.
@@ -47,32 +47,32 @@ std::uint8_t quantised(double value) {
     return static_cast<std::uint8_t>(std::clamp(std::floor(value * 255.0 + 0.5), 0.0, 255.0));
 }
 
-IndexedPicture expose(const Plane& plane) {
-    IndexedPicture picture{plane.size(), plane.size(), {}};
+/// A slight warm tint as a whole, bluer and redder where the ground is.
+Colour coloured(double grey, double tint) {
+    return {.red = quantised(grey * (1.0 + 0.022 * tint)),
+            .green = quantised(grey * 0.985),
+            .blue = quantised(grey * (0.950 - 0.060 * tint))};
+}
+
+Picture expose(const Plane& plane) {
+    Picture picture{plane.size(), plane.size(), {}};
     for (int row = 0; row < plane.size(); ++row)
         for (int column = 0; column < plane.size(); ++column)
-            picture.pixels.push_back(quantised(brightness(plane, column, row)));
+            picture.pixels.push_back(
+                coloured(brightness(plane, column, row), plane.at(column, row).tint));
     return picture;
 }
 
 } // namespace
 
-IndexedPicture fullMoon(int size) {
+Picture fullMoon(int size) {
     Plane plane(size);
     paintGround(plane);
     paintSmallCraters(plane);
+    paintBuriedCraters(plane);
     paintRays(plane);
-    paintNamedCraters(plane);
+    paintClearCraters(plane);
     return expose(plane);
-}
-
-std::array<Colour, 256> moonPalette() {
-    std::array<Colour, 256> palette{};
-    for (unsigned grey = 0; grey < palette.size(); ++grey)
-        palette[grey] = {.red = static_cast<std::uint8_t>(grey),
-                         .green = static_cast<std::uint8_t>(grey * 252U / 255U),
-                         .blue = static_cast<std::uint8_t>(grey * 243U / 255U)};
-    return palette;
 }
 
 } // namespace moonpicture

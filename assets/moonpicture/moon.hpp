@@ -3,14 +3,9 @@
 
 #include "bmp.hpp"
 
-#include <array>
-
 namespace moonpicture {
 
 /// The full moon, north up, on a black sky.
-IndexedPicture fullMoon(int size);
-
-/// Greys from black to white with a slight warm tint.
-std::array<Colour, 256> moonPalette();
+Picture fullMoon(int size);
 
 } // namespace moonpicture

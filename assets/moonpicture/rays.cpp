@@ -5,13 +5,14 @@
 #include "rays_table.hpp"
 
 #include <algorithm>
-#include <cstdint>
+#include <cmath>
+#include <numbers>
 
 namespace moonpicture {
 
 namespace {
 
-constexpr double rayTone = 1.04;
+constexpr double rayTone = 0.99;
 
 /// Fresh ejecta brighten dark ground more than ground that is bright already.
 void brighten(Site& site, double amount) {
@@ -20,83 +21,134 @@ void brighten(Site& site, double amount) {
 
 /// Rays are chains of smudges rather than strokes of a pen.
 double patchiness(const Site& site) {
-    return std::clamp(0.75 + 0.60 * site.clumps + 0.50 * site.grain, 0.1, 1.5);
+    return std::clamp(0.80 + 0.55 * site.clumps + 0.45 * site.grain, 0.05, 1.6);
 }
 
-/// A ray system made ready for painting.
-struct Burst {
-    Frame frame;
-    double apron;
-    double reach;
-    double strength;
-    double fineness;
-    Vec3 avoided;         ///< direction of the empty sector
-    double avoidedCosine; ///< of its half width; above 1 for no such sector
-    std::uint32_t seed;
-};
-
-Burst burstOf(const RaySystem& system, std::uint32_t seed) {
-    const Frame frame = frameAt(system.latitude, system.longitude);
-    const bool whole = system.avoidedHalf <= 0.0;
-    return {.frame = frame,
-            .apron = kmToUnits(system.apron),
-            .reach = kmToUnits(system.reach),
-            .strength = system.strength,
-            .fineness = system.fineness,
-            .avoided = heading(frame, system.avoidedCentre),
-            .avoidedCosine = whole ? 2.0 : cosDegrees(system.avoidedHalf),
-            .seed = seed};
-}
-
-/// The direction from the middle of a burst to a site, as a unit vector in the tangent plane.
-Vec3 bearingTo(const Burst& burst, const Site& site) {
-    const Vec3 away = site.warped - burst.frame.centre;
-    const double east = dot(away, burst.frame.east);
-    const double north = dot(away, burst.frame.north);
-    const double size = std::sqrt(east * east + north * north) + 1e-9;
-    return {east / size, north / size, 0.0};
-}
-
-/// Bright streaks where noise, taken around the circle of bearings, rises above its mean.
-double streaks(const Burst& burst, Vec3 bearing, double t) {
-    const Vec3 around{bearing.x * burst.fineness, bearing.y * burst.fineness, 2.2 * t};
-    const double wide = gradientNoise(around, burst.seed);
-    const double fine = gradientNoise({around.x * 2.3, around.y * 2.3, 5.0 * t}, burst.seed + 1U);
-    return smoothStep(-0.10, 0.95, wide + 0.50 * fine);
-}
-
-/// 1, or less towards and within the sector that the rays avoid.
-double sector(const Burst& burst, Vec3 bearing) {
-    const Vec3 direction = burst.frame.east * bearing.x + burst.frame.north * bearing.y;
-    const double cosine = dot(direction, burst.avoided);
-    return 1.0 - smoothStep(burst.avoidedCosine - 0.25, burst.avoidedCosine + 0.05, cosine);
-}
-
-double apronLight(const Burst& burst, double distance) {
-    const double rest = std::max(1.0 - distance / burst.apron, 0.0);
-    return rest * (0.55 + 0.45 * rest);
-}
-
-double streakLight(const Burst& burst, Vec3 bearing, double distance) {
-    const double t = distance / burst.reach;
-    const double rest = 1.0 - t;
-    return smoothStep(0.0, 0.3, t) * rest * rest * streaks(burst, bearing, t);
-}
-
-void paintBurst(Plane& plane, const Burst& burst) {
-    plane.forEachNear(burst.frame.centre, burst.reach, [&](Site& site, double distance) {
-        const Vec3 bearing = bearingTo(burst, site);
-        const double light =
-            0.95 * apronLight(burst, distance) + 1.05 * streakLight(burst, bearing, distance);
-        brighten(site, burst.strength * sector(burst, bearing) * patchiness(site) * light);
+/// The ground that is bright all over, nearest to the crater.
+void paintApron(Plane& plane, const RaySystem& system) {
+    const Vec3 centre = pointAt(system.latitude, system.longitude);
+    const double radius = kmToUnits(system.apron);
+    plane.forEachNear(centre, radius, [&](Site& site, double distance) {
+        const double rest = 1.0 - distance / radius;
+        brighten(site, 0.75 * system.strength * patchiness(site) * rest * (0.4 + 0.6 * rest));
     });
 }
 
-/// A long ray made ready for painting.
+/// One feather of a ray: a short stroke along a great circle.
+struct Feather {
+    Vec3 start;
+    Vec3 forward; ///< direction at its start
+    double length;
+    double halfWidth;
+    double strength;
+};
+
+/// Between the true point and the warped one: rays waver, but much less than shores do.
+Vec3 wavering(const Site& site) {
+    return site.point * 0.68 + site.warped * 0.32;
+}
+
+/// Narrow where it starts, wider and fading where it ends; `t` and `off` are shares of its length
+/// and of its width there.
+double lightWithin(double t, double off) {
+    const double across = std::max(1.0 - off * off, 0.0);
+    return across * across * smoothStep(0.0, 0.20, t) * (1.0 - smoothStep(0.30, 1.0, t));
+}
+
+void paintFeather(Plane& plane, const Feather& feather) {
+    const Vec3 side = cross(feather.start, feather.forward);
+    const Vec3 middle = feather.start + feather.forward * (0.5 * feather.length);
+    const double reach = 0.6 * feather.length + feather.halfWidth;
+    plane.forEachNear(normalized(middle), reach, [&](Site& site, double) {
+        const Vec3 p = wavering(site);
+        const double t = dot(p, feather.forward) / feather.length;
+        const double off = dot(p, side) / (feather.halfWidth * (0.5 + t));
+        if (t > 0.0 && t < 1.0 && std::abs(off) < 1.0)
+            brighten(site, feather.strength * patchiness(site) * lightWithin(t, off));
+    });
+}
+
+/// A place on the ground and a direction along it.
+struct Course {
+    Vec3 place;
+    Vec3 forward;
+};
+
+/// Goes `angle` degrees along the great circle.
+Course advanced(const Course& course, double angle) {
+    const double c = cosDegrees(angle);
+    const double s = sinDegrees(angle);
+    return {course.place * c + course.forward * s, course.forward * c - course.place * s};
+}
+
+/// Turns to the right of the course.
+Course turned(const Course& course, double angle) {
+    const Vec3 right = cross(course.forward, course.place);
+    return {course.place, course.forward * cosDegrees(angle) + right * sinDegrees(angle)};
+}
+
+constexpr double degreesOf(double km) {
+    return km / (moonRadiusKm * std::numbers::pi / 180.0);
+}
+
+// No call below draws chance for two of its arguments, whose order is the compiler's choice.
+
+/// Short feathers all around, out of which the uneven edge of the bright ground is made.
+void paintFringe(Plane& plane, const RaySystem& system, const Course& north, Generator& chance) {
+    const int feathers = 10 * system.rays;
+    const double apron = degreesOf(system.apron);
+    for (int i = 0; i < feathers; ++i) {
+        const Course outward = turned(north, chance.between(0.0, 360.0));
+        const Course place = advanced(outward, apron * chance.between(0.1, 0.8));
+        const Course start = turned(place, chance.between(-12.0, 12.0));
+        paintFeather(plane, {.start = start.place,
+                             .forward = start.forward,
+                             .length = kmToUnits(system.apron) * chance.between(0.4, 1.3),
+                             .halfWidth = kmToUnits(system.apron) * chance.between(0.07, 0.20),
+                             .strength = 0.32 * system.strength * chance.unit()});
+    }
+}
+
+/// One ray, of feathers that lie a little askew.
+void paintRay(Plane& plane, const RaySystem& system, const Course& course, Generator& chance) {
+    const double reach = degreesOf(system.reach) * chance.between(0.35, 1.0);
+    const double strength = 0.5 * system.strength * chance.between(0.2, 1.0);
+    constexpr int feathers = 9;
+    for (int i = 0; i < feathers; ++i) {
+        const double t = chance.between(0.08, 0.85);
+        const Course outward = turned(course, chance.between(-5.0, 5.0));
+        const Course start = turned(advanced(outward, reach * t), chance.between(-10.0, 10.0));
+        paintFeather(plane,
+                     {.start = start.place,
+                      .forward = start.forward,
+                      .length = kmToUnits(system.reach) * chance.between(0.12, 0.34),
+                      .halfWidth = kmToUnits(system.reach * chance.between(0.010, 0.030) + 5.0),
+                      .strength = strength * (1.0 - 0.7 * t)});
+    }
+}
+
+bool isAvoided(const RaySystem& system, double bearing) {
+    return cosDegrees(bearing - system.avoidedCentre) > cosDegrees(system.avoidedHalf) &&
+           system.avoidedHalf > 0.0;
+}
+
+void paintSystem(Plane& plane, const RaySystem& system, Generator& chance) {
+    const Frame frame = frameAt(system.latitude, system.longitude);
+    const Course north{frame.centre, frame.north};
+    paintApron(plane, system);
+    paintFringe(plane, system, north, chance);
+    for (int i = 0; i < system.rays; ++i) {
+        const double bearing = (i + chance.between(-0.45, 0.45)) * 360.0 / system.rays;
+        if (!isAvoided(system, bearing))
+            paintRay(plane, system, turned(north, bearing), chance);
+    }
+}
+
+/// A long ray made ready for painting; lengths in lunar radii.
 struct Streak {
     Vec3 start;
-    Vec3 forward; ///< direction of the ray at its start
-    Vec3 side;    ///< pole of the great circle it follows
+    Vec3 chord; ///< from its start to its end
+    Vec3 side;  ///< pole of the great circle that it follows
     double length;
     double halfWidth;
     double strength;
@@ -105,61 +157,43 @@ struct Streak {
 Streak streakOf(const LongRay& ray) {
     const Vec3 start = pointAt(ray.fromLatitude, ray.fromLongitude);
     const Vec3 end = pointAt(ray.toLatitude, ray.toLongitude);
-    const Vec3 side = normalized(cross(start, end));
     return {.start = start,
-            .forward = cross(side, start),
-            .side = side,
+            .chord = end - start,
+            .side = normalized(cross(start, end)),
             .length = length(end - start),
             .halfWidth = kmToUnits(ray.halfWidth),
             .strength = ray.strength};
 }
 
-/// Between the true point and the warped one: rays waver, but much less than shores do.
-Vec3 wavering(const Site& site) {
-    return site.point * 0.75 + site.warped * 0.25;
+/// A place on a streak, `t` of the way along it and some way aside of its middle.
+Course courseOn(const Streak& streak, double t, double aside) {
+    const Vec3 place = normalized(streak.start + streak.chord * t + streak.side * aside);
+    return {place, normalized(cross(streak.side, place))};
 }
 
-/// Brightness across a ray, which widens outwards from its crater.
-double acrossRay(const Streak& streak, Vec3 p, double t) {
-    const double width = streak.halfWidth * (0.6 + 0.9 * t);
-    const double off = dot(p, streak.side) / width;
-    return 1.0 / (1.0 + off * off * off * off + off * off);
-}
-
-double alongRay(double t) {
-    return 1.0 - smoothStep(0.35, 1.0, t);
-}
-
-void paintStreak(Plane& plane, const Streak& streak) {
-    plane.forEachNear(streak.start, streak.length, [&](Site& site, double distance) {
-        const Vec3 p = wavering(site);
-        const double ahead = smoothStep(0.0, 0.03, dot(p, streak.forward));
-        const double t = distance / streak.length;
-        const double light = ahead * acrossRay(streak, p, t) * alongRay(t);
-        if (light > 0.02)
-            brighten(site, streak.strength * patchiness(site) * light);
-    });
-}
-
-void paintCollar(Plane& plane, const DarkCollar& collar) {
-    const Vec3 centre = pointAt(collar.latitude, collar.longitude);
-    const double radius = kmToUnits(collar.radius);
-    const double halfWidth = kmToUnits(collar.halfWidth);
-    plane.forEachNear(centre, radius + halfWidth, [&](Site& site, double distance) {
-        const double off = (distance - radius) / halfWidth;
-        site.tone -= collar.strength * std::max(1.0 - off * off, 0.0);
-    });
+void paintStreak(Plane& plane, const Streak& streak, Generator& chance) {
+    const int feathers = static_cast<int>(streak.length * 120.0);
+    const double longest = std::min(0.4 * streak.length, kmToUnits(330.0));
+    for (int i = 0; i < feathers; ++i) {
+        const double t = (i + chance.unit()) / feathers;
+        const double aside = streak.halfWidth * chance.between(-0.9, 0.9);
+        const Course start = turned(courseOn(streak, t, aside), chance.between(-6.0, 6.0));
+        paintFeather(plane, {.start = start.place,
+                             .forward = start.forward,
+                             .length = longest * chance.between(0.4, 1.0),
+                             .halfWidth = streak.halfWidth * chance.between(0.30, 1.0),
+                             .strength = 0.54 * streak.strength * (1.0 - 0.75 * t * t)});
+    }
 }
 
 } // namespace
 
 void paintRays(Plane& plane) {
-    std::uint32_t seed = 7000;
+    Generator chance(7000);
     for (const RaySystem& system : raySystems)
-        paintBurst(plane, burstOf(system, seed += 10U));
+        paintSystem(plane, system, chance);
     for (const LongRay& ray : longRays)
-        paintStreak(plane, streakOf(ray));
-    paintCollar(plane, tychoCollar);
+        paintStreak(plane, streakOf(ray), chance);
 }
 
 } // namespace moonpicture

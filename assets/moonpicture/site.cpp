@@ -9,13 +9,13 @@ namespace {
 
 constexpr double discRadius = 0.492; // of the picture's width
 
-constexpr Fractal warpX{7.0, 4, 0.62, 101};
-constexpr Fractal warpY{7.0, 4, 0.62, 201};
-constexpr Fractal warpZ{7.0, 4, 0.62, 301};
+constexpr Fractal warpX{7.0, 6, 0.62, 101};
+constexpr Fractal warpY{7.0, 6, 0.62, 201};
+constexpr Fractal warpZ{7.0, 6, 0.62, 301};
 constexpr double warpReach = 0.017; // lunar radii
 constexpr Fractal broadNoise{3.0, 3, 0.60, 401};
-constexpr Fractal clumpNoise{14.0, 2, 0.60, 501};
-constexpr Fractal grainNoise{44.0, 3, 0.65, 601};
+constexpr Fractal clumpNoise{14.0, 3, 0.60, 501};
+constexpr Fractal grainNoise{44.0, 4, 0.65, 601};
 
 Vec3 warp(Vec3 p) {
     const Vec3 shift{fractalNoise(p, warpX), fractalNoise(p, warpY), fractalNoise(p, warpZ)};

@@ -21,6 +21,7 @@ struct Site {
     double grain = 0.0;  ///< noise near the size of a pixel
     double sea = 0.0;    ///< 0 in the highlands, 1 on a dark plain
     double tone = 0.0;   ///< 0 black to 1 white
+    double tint = 0.0;   ///< -1 bluish, as titanium makes lava, to 1 reddish
     double height = 0.0; ///< relief, in arbitrary units
 };
 

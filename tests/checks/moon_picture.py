@@ -8,7 +8,7 @@ import subprocess
 import sys
 import tempfile
 
-KNOWN = "d513e9383fc749d3fb0ee5b7f7795757fd00da5c85d559ef47418bd5a544c00f"
+KNOWN = "56bea244e4827f341ed4a2f6ecfada901b3e08f71b18e56483b41955f2241c97"
 
 
 def computed(program, folder):
