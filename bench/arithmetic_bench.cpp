@@ -37,7 +37,7 @@ void ourFourCalendars(benchmark::State& state, DayOf dayOf) {
     Calc::FillConstantRows();
     Calc::SetMoslemType();
     int i = 0;
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         CurJD = dayOf(i++);
         ChangeCals::ChangeJD();
         benchmark::DoNotOptimize(CurDate(Moslem, Day));
@@ -70,7 +70,7 @@ void icuFourCalendars(benchmark::State& state, DayOf dayOf) {
     const std::vector<Calendar> calendars = icuCalendars();
     UErrorCode status = U_ZERO_ERROR;
     int i = 0;
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         const double time = (dayOf(i++) - unixEpoch) * millisecondsPerDay;
         for (const Calendar& calendar : calendars) {
             calendar->setTime(time, status);
@@ -89,7 +89,7 @@ void qtThreeCalendars(benchmark::State& state, DayOf dayOf) {
                                    QCalendar(QCalendar::System::Gregorian),
                                    QCalendar(QCalendar::System::IslamicCivil)};
     int i = 0;
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         const QDate day = QDate::fromJulianDay(dayOf(i++));
         for (const QCalendar& calendar : calendars) {
             benchmark::DoNotOptimize(calendar.partsFromDate(day));
@@ -102,7 +102,7 @@ BENCHMARK_CAPTURE(qtThreeCalendars, scattered, someDay);
 
 void chronoGregorian(benchmark::State& state, DayOf dayOf) {
     int i = 0;
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         const std::chrono::sys_days day{std::chrono::days{dayOf(i++) - unixEpoch}};
         benchmark::DoNotOptimize(std::chrono::year_month_day{day});
     }

@@ -11,11 +11,11 @@
 #include "start/language.h"
 #include "start/rebuilding.h"
 #include "start/start.h"
-#include "yearcals/yearcals.h"
 
 #include <QApplication>
 #include <QCalendarWidget>
 #include <QDir>
+#include <QFocusEvent>
 #include <QHeaderView>
 #include <QTableWidget>
 #include <QTemporaryDir>
@@ -43,9 +43,21 @@ void showMonthly() {
     paint();
 }
 
-void showAll() {
+void showTwo() {
+    showMonthly();
+    ChangeCals::OpenYearWindow(Gregorian);
+    paint();
+}
+
+void showSix() {
     showMonthly();
     ChangeCals::OpenYearWindowsOfPanes();
+    ChangeCals::ShowMoonWindow();
+    paint();
+}
+
+void showYear() {
+    ChangeCals::OpenYearWindow(Gregorian);
     paint();
 }
 
@@ -55,34 +67,43 @@ void goTo(int julianDay) {
     paint();
 }
 
-void stepDays(benchmark::State& state) {
+void nextDay() {
+    goTo(CurJD + 1);
+}
+
+void nextMonth() {
+    CurDate(Gregorian, Month) = CurDate(Gregorian, Month) % 12 + 1;
+    ChangeCals::ChangeCal(Gregorian);
+    paint();
+}
+
+// From the start again before the range ends.
+void nextYear() {
+    CurDate(Gregorian, Year) =
+        CurDate(Gregorian, Year) < 2900 ? CurDate(Gregorian, Year) + 1 : 1000;
+    ChangeCals::ChangeCal(Gregorian);
+    paint();
+}
+
+void steps(benchmark::State& state, void (*show)(), void (*step)()) {
+    show();
     goTo(someDay);
-    for (auto _ : state)
-        goTo(CurJD + 1);
+    for ([[maybe_unused]] auto _ : state)
+        step();
     hideAll();
 }
+BENCHMARK_CAPTURE(steps, day of one, showMonthly, nextDay)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(steps, day of two, showTwo, nextDay)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(steps, day of six, showSix, nextDay)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(steps, month of one, showMonthly, nextMonth)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(steps, month of two, showTwo, nextMonth)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(steps, month of six, showSix, nextMonth)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(steps, year of one, showMonthly, nextYear)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(steps, year of two, showTwo, nextYear)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(steps, year of six, showSix, nextYear)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(steps, year of a year window, showYear, nextYear)->Unit(benchmark::kMillisecond);
 
-// To and fro, so that a long run stays in the range.
-void stepYears(benchmark::State& state) {
-    goTo(someDay);
-    int by = 1;
-    for (auto _ : state) {
-        if (CurDate(Gregorian, Year) >= 2900 || CurDate(Gregorian, Year) <= 1000)
-            by = -by;
-        CurDate(Gregorian, Year) += by;
-        ChangeCals::ChangeCal(Gregorian);
-        paint();
-    }
-    hideAll();
-}
-
-void dayStepOfTheMonthlyWindow(benchmark::State& state) {
-    showMonthly();
-    stepDays(state);
-}
-BENCHMARK(dayStepOfTheMonthlyWindow)->Unit(benchmark::kMillisecond);
-
-void dayStepOfFourCalendarWidgets(benchmark::State& state) {
+void fourCalendarWidgets(benchmark::State& state, int days, int months, int years) {
     QWidget window;
     for (int i = 0; i < 4; ++i) {
         auto* calendar = new QCalendarWidget(&window);
@@ -90,28 +111,26 @@ void dayStepOfFourCalendarWidgets(benchmark::State& state) {
     }
     window.show();
     paint();
-    QDate day = QDate::fromJulianDay(someDay);
-    for (auto _ : state) {
-        day = day.addDays(1);
+    const QDate first = QDate::fromJulianDay(someDay);
+    QDate day = first;
+    for ([[maybe_unused]] auto _ : state) {
+        day = day.year() < 2900 ? day.addDays(days).addMonths(months).addYears(years) : first;
         for (auto* calendar : window.findChildren<QCalendarWidget*>())
             calendar->setSelectedDate(day);
         paint();
     }
 }
-BENCHMARK(dayStepOfFourCalendarWidgets)->Unit(benchmark::kMillisecond);
-
-void yearStepOfTheMonthlyWindow(benchmark::State& state) {
-    showMonthly();
-    stepYears(state);
-}
-BENCHMARK(yearStepOfTheMonthlyWindow)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(fourCalendarWidgets, day, 1, 0, 0)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(fourCalendarWidgets, month, 0, 1, 0)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(fourCalendarWidgets, year, 0, 0, 1)->Unit(benchmark::kMillisecond);
 
 void firstUseOfAListOf3000Years(benchmark::State& state) {
     showMonthly();
     goTo(someDay);
-    auto* years = ChangeCals::Monthly().findChild<ComboBox*>(QStringLiteral("Combo2_2"));
-    for (auto _ : state) {
-        Q_EMIT years->BeforeUse();
+    auto* years = ChangeCals::LoadMonthly().findChild<ComboBox*>(QStringLiteral("Combo2_2"));
+    for ([[maybe_unused]] auto _ : state) {
+        QFocusEvent focus(QEvent::FocusIn);
+        QCoreApplication::sendEvent(years, &focus); // fills it
         state.PauseTiming();
         ChangeCals::UpdateWindows(); // empties the list again
         paint();
@@ -120,12 +139,6 @@ void firstUseOfAListOf3000Years(benchmark::State& state) {
     hideAll();
 }
 BENCHMARK(firstUseOfAListOf3000Years)->Unit(benchmark::kMillisecond);
-
-void filledAndPaintedYearGrid(benchmark::State& state) {
-    ChangeCals::OpenYearWindow(Gregorian);
-    stepYears(state);
-}
-BENCHMARK(filledAndPaintedYearGrid)->Unit(benchmark::kMillisecond);
 
 void fillTable(QTableWidget& table, int shift) {
     table.setUpdatesEnabled(false);
@@ -136,48 +149,45 @@ void fillTable(QTableWidget& table, int shift) {
     table.setUpdatesEnabled(true);
 }
 
-void filledAndPaintedTableWidget(benchmark::State& state) {
-    QTableWidget table(32, 19);
-    table.horizontalHeader()->setMinimumSectionSize(1);
-    table.verticalHeader()->setMinimumSectionSize(1);
-    table.horizontalHeader()->hide();
-    table.verticalHeader()->hide();
+// Of the size of a year grid, without headers.
+void shape(QTableWidget& table) {
+    for (QHeaderView* header : {table.horizontalHeader(), table.verticalHeader()}) {
+        header->setMinimumSectionSize(1);
+        header->hide();
+    }
     table.horizontalHeader()->setDefaultSectionSize(20);
     table.verticalHeader()->setDefaultSectionSize(14);
-    for (int row = 0; row < 32; ++row) {
-        for (int column = 0; column < 19; ++column)
+    table.setFixedSize(387, 466);
+}
+
+void fillWithItems(QTableWidget& table) {
+    for (int row = 0; row < table.rowCount(); ++row) {
+        for (int column = 0; column < table.columnCount(); ++column)
             table.setItem(row, column, new QTableWidgetItem);
     }
-    table.setFixedSize(387, 466);
+}
+
+void filledAndPaintedTableWidget(benchmark::State& state) {
+    QTableWidget table(32, 19);
+    shape(table);
+    fillWithItems(table);
     table.show();
     paint();
     int shift = 0;
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         fillTable(table, ++shift);
         paint();
     }
 }
 BENCHMARK(filledAndPaintedTableWidget)->Unit(benchmark::kMillisecond);
 
-void yearStepOfAllWindows(benchmark::State& state) {
-    showAll();
-    stepYears(state);
-}
-BENCHMARK(yearStepOfAllWindows)->Unit(benchmark::kMillisecond);
-
-void dayStepOfAllWindows(benchmark::State& state) {
-    showAll();
-    stepDays(state);
-}
-BENCHMARK(dayStepOfAllWindows)->Unit(benchmark::kMillisecond);
-
 void redrawnMoon(benchmark::State& state) {
     ChangeCals::ShowMoonWindow();
     paint();
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         ++CurJD;
         ChangeCals::SetMoonAge();
-        ChangeCals::Moon().ReSetForm();
+        ChangeCals::LoadMoon().ReSetForm();
         paint();
     }
     hideAll();
@@ -185,7 +195,7 @@ void redrawnMoon(benchmark::State& state) {
 BENCHMARK(redrawnMoon)->Unit(benchmark::kMillisecond);
 
 void readLanguageFile(benchmark::State& state) {
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         std::string name = "Russian";
         LoadLanguage(name);
     }
@@ -195,16 +205,15 @@ void readLanguageFile(benchmark::State& state) {
 BENCHMARK(readLanguageFile)->Unit(benchmark::kMillisecond);
 
 void languageAppliedToAllWindows(benchmark::State& state) {
-    showAll();
-    ChangeCals::ShowMoonWindow();
+    showSix();
     goTo(someDay);
     bool russian = false;
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         russian = !russian;
         std::string name = russian ? "Russian" : englishLanguage;
         LoadLanguage(name);
         ChangeCals::SetAllTexts();
-        YearCals::ForgetShownYears();
+        ForgetFilledYears();
         RebuildVisibleWindows();
         paint();
     }
@@ -224,6 +233,6 @@ int main(int argc, char* argv[]) {
         return 1;
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
-    ChangeCals::DestroyAllWindows();
+    ChangeCals::EndRun();
     return 0;
 }

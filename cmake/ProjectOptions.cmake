@@ -16,6 +16,12 @@ if(ORVALEN_SANITIZE)
     target_link_options(project_options INTERFACE -fsanitize=address,undefined)
 endif()
 
+# What is given to others is hardened as Debian's packages are, and does not tell
+# where it was built.
+target_compile_options(project_options INTERFACE "$<$<CONFIG:Release>:SHELL:\
+-fstack-protector-strong -D_FORTIFY_SOURCE=2 -ffile-prefix-map=${PROJECT_SOURCE_DIR}=.>")
+target_link_options(project_options INTERFACE "$<$<CONFIG:Release>:-Wl,-z,relro,-z,now>")
+
 if(CMAKE_INTERPROCEDURAL_OPTIMIZATION)
     target_link_options(project_options INTERFACE -flto=auto) # on all processors
 endif()

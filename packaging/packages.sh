@@ -2,11 +2,12 @@
 # What the project needs from Debian 12, and how it is installed. Sourced by the
 # commands at the top of the tree.
 
-build_packages=(cmake ninja-build g++ qt6-base-dev qt6-svg-dev)
-run_packages=(qt6-qpa-plugins libqt6svg6 fonts-dejavu-core)
-screen_packages=(xvfb openbox xdotool x11-utils imagemagick)
-test_packages=(libgtest-dev libbenchmark-dev libicu-dev clang-format clang-tidy clang-tools
-    python3 git)
+build_packages=(cmake ninja-build g++ qt6-base-dev qt6-svg-dev librsvg2-bin dpkg-dev)
+run_packages=(libqt6widgets6 libqt6svg6 fonts-dejavu-core)
+screen_packages=(xvfb openbox xdotool x11-utils xclip imagemagick libfaketime)
+test_packages=(adwaita-qt6 libgtest-dev libbenchmark-dev libicu-dev qt6-base-private-dev clang-format
+    clang-tidy clang-tools python3 python3-gi git appstream desktop-file-utils man-db lintian fakeroot
+    at-spi2-core dbus-daemon gir1.2-atspi-2.0)
 
 is_installed() {
     [ "$(dpkg-query -W -f='${db:Status-Status}' "$1" 2>/dev/null)" = installed ]

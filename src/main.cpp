@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include "changecals/closing.h"
 #include "changecals/windows.h"
+#include "platform/assistive.h"
+#include "platform/pictures.h"
 #include "platform/program.h"
+#include "platform/terminationsignals.h"
 #include "start/start.h"
 
 #include <QApplication>
@@ -21,8 +25,13 @@ int main(int argc, char* argv[]) {
     QApplication app(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false); // closing decides by itself
     QApplication::setApplicationName(ProgramTitle());
+    InstallAssistiveInterfaces();
+    QApplication::setWindowIcon(Picture(QStringLiteral("icon"))); // of every window
     QApplication::setDesktopFileName(QStringLiteral("orvalen-years-calendar"));
-    const int status = Start::Main() ? QApplication::exec() : 1;
-    ChangeCals::DestroyAllWindows();
+    const bool started = Start::Main();
+    // Until here there is nothing to close: the signals just end the process.
+    const TerminationSignals signals([] { ChangeCals::LeaveProgram(0); });
+    const int status = started ? QApplication::exec() : 1;
+    ChangeCals::EndRun();
     return status;
 }

@@ -14,9 +14,13 @@ import time
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 ASAN = ROOT / "build" / "asan"
-PROGRAM = ROOT / "build" / "bench" / "bin"
-ROOMS = ["monthly", "changecals", "yearcals", "start", "platform", "calc", "moon"]
+BENCH = ROOT / "build" / "bench"
+PROGRAM = BENCH / "bin"
+ROOMS = ["monthly", "controls", "changecals", "yearcals", "start", "platform", "settings", "calc", "moon", "shared"]
+TESTED = [*ROOMS, "monitors"]
 LINTED = ["src", *[f"src/{room}" for room in sorted(ROOMS)], "assets/moonpicture"]
+LINTED_OF_BENCH = ["bench", "docs"]
+LINTED_AT_LENGTH = [f"tests/{folder}" for folder in sorted([*TESTED, "support"])]
 
 
 class Result:
@@ -59,7 +63,8 @@ def room_tests(room, options):
 
 
 def end_to_end():
-    status, output, seconds = run([sys.executable, "tests/endtoend/run.py", PROGRAM])
+    # The system's own Python, which the packages of the assistive interface are for.
+    status, output, seconds = run(["/usr/bin/python3", "tests/endtoend/run.py", PROGRAM])
     counts = re.search(r"(\d+) passed, (\d+) failed\s*$", output)
     if not counts:
         return Result("end to end", 0, 1, output, seconds)
@@ -77,8 +82,8 @@ def formatting():
     return check("clang-format", ["clang-format", "--dry-run", "-Werror", *files])
 
 
-def linting(folder):
-    command = ["run-clang-tidy", "-quiet", "-j1", "-p", ASAN, rf"/{folder}/[^/]*\.cpp$"]
+def linting(folder, tree=ASAN):
+    command = ["run-clang-tidy", "-quiet", "-j1", "-p", tree, rf"/{folder}/[^/]*\.cpp$"]
     return check(f"clang-tidy of {folder}", command)
 
 
@@ -93,8 +98,36 @@ def moon_picture():
                                   PROGRAM / "make_moon"])
 
 
+def cross_building():
+    return check("cross building", [sys.executable, "tests/checks/cross_building.py", PROGRAM])
+
+
+def desktop_entry():
+    return check("desktop entry", [sys.executable, "tests/checks/desktop_entry.py"])
+
+
+def installing():
+    return check("installing", [sys.executable, "tests/checks/installing.py", PROGRAM])
+
+
+def reproducible():
+    return check("reproducible", [sys.executable, "tests/checks/reproducible.py"])
+
+
 def licences():
     return check("licences", [sys.executable, "tests/checks/licences.py"])
+
+
+def papers():
+    return check("papers", [sys.executable, "tests/checks/papers.py"])
+
+
+def keys():
+    return check("keys", [sys.executable, "tests/checks/keys.py"])
+
+
+def pictures():
+    return check("pictures", [sys.executable, "tests/checks/pictures.py", PROGRAM / "make_pictures"])
 
 
 def report(result):
@@ -105,22 +138,35 @@ def report(result):
         print(result.output[-20000:], flush=True)
 
 
+def keep(results, long):
+    """What the page on verification says of the long tests."""
+    rows = [{"name": one.name, "passed": one.passed, "failed": one.failed,
+             "seconds": round(one.seconds)} for one in results]
+    kept = {"long": long, "results": rows}
+    (ROOT / "build/results.json").write_text(json.dumps(kept, indent=1) + "\n")
+
+
 def main():
-    options = []
-    if "--long" in sys.argv[1:]:
-        options = ["--gtest_also_run_disabled_tests"]
+    long = "--long" in sys.argv[1:]
+    options = ["--gtest_also_run_disabled_tests"] if long else []
     results = []
     # Two at a time, as there are two cores; the end-to-end tests alone, since
     # they share a screen with a window manager and should meet it at its usual
     # speed.
-    jobs = [lambda room=room: room_tests(room, options) for room in ROOMS]
-    jobs += [lambda folder=folder: linting(folder) for folder in LINTED]
+    jobs = [lambda room=room: room_tests(room, options) for room in TESTED]
+    folders = [*LINTED, *(LINTED_AT_LENGTH if long else [])]
+    jobs += [lambda folder=folder: linting(folder) for folder in folders]
+    jobs += [lambda folder=folder: linting(folder, BENCH) for folder in LINTED_OF_BENCH]
+    jobs += [formatting, floors, licences, papers, desktop_entry, moon_picture,
+             keys, pictures, installing, cross_building]
+    jobs += [reproducible] if long else []
     with concurrent.futures.ThreadPoolExecutor(max_workers=2) as pool:
-        for result in pool.map(lambda job: job(), [*jobs, formatting, floors, licences, moon_picture]):
+        for result in pool.map(lambda job: job(), jobs):
             results.append(result)
             report(result)
     results.append(end_to_end())
     report(results[-1])
+    keep(results, long)
     passed = sum(result.passed for result in results)
     failed = sum(result.failed for result in results)
     print(f"{passed} passed, {failed} failed")

@@ -35,8 +35,8 @@ void GregorianToJD();
 /// of the two calendars. CurJD must hold the day.
 void JulianToGregorian();
 
-/// Julian Day of 1 Tishri of a Jewish year, 3761..6762, from the date of
-/// Passover by Gauss's formula.
+/// Julian Day of 1 Tishri of a Jewish year, from the date of Passover by Gauss's
+/// formula.
 int JewishNewYear(int year);
 
 /// Month 13 of a common year becomes month 12.
@@ -59,6 +59,9 @@ void ResetJewishLayout();
 void SetMoslemType();
 void MoslemToJD();
 void JDToMoslem();
+
+/// The weekday of a Julian Day, 1..7.
+int WeekdayOf(int julianDay);
 
 /// Weekdays of the first days of the months of calendar c, then SetWeeks.
 void SetMonthStarts(int c);

@@ -3,56 +3,68 @@
 // 13: Adar is doubled.
 #include "calc/calc.h"
 #include "calc/state.h"
+#include "calc/year.h"
 #include "shared/texts.h"
 
 namespace {
 
-constexpr int julianYearsBehind = 3760; // Passover of Jewish year x is in Julian year x - 3760
-constexpr int passoverToNewYear = 163;
+constexpr int shortestCommonYear = 353;
 constexpr int shortestLeapYear = 383;
 
-enum JewishMonth : int { Heshvan = 2, Kislev = 3, Adar = 6, AdarTwo = 7, lastMonth = 13 };
+enum JewishMonth : int { Heshvan = 2, Kislev = 3, Adar = 6, AdarTwo = 7, lastMonth = monthLimit };
 
-int floorOf(double value) {
-    const int whole = static_cast<int>(value);
-    return value < whole ? whole - 1 : whole;
+// Gauss's formula finds Passover of year x as a day of March of Julian year
+// x - 3760. All its numbers follow from the rule of the new moons: a lunation has
+// 29 d 12 h 793 p, with 1080 p to the hour; 235 lunations are taken for 19 years;
+// the first one began on a Monday at 5 h 204 p. The moons are counted six hours
+// later than they are, so that one of the afternoon belongs to the next day. The
+// unit is a nineteenth of a p, which makes every number a whole one.
+constexpr int hourUnits = 19 * 1080;
+constexpr int dayUnits = 24 * hourUnits;
+
+constexpr int units(int days, int hours, int parts) {
+    return days * dayUnits + hours * hourUnits + 19 * parts;
 }
 
-// Passover of a Jewish year as a day of March, with the fraction of the day at
-// which its moon is born.
-double passover(int x, int cycleYear) {
-    const int b = x % 4;
-    return 4343.0 / 98496.0 + 32 + cycleYear + (272953.0 / 492480.0) * cycleYear + b / 4.0 -
-           (313.0 / 98496.0) * x;
+constexpr int cycleStep = units(29, 12, 793) / 19;
+
+// By how much 235 lunations are shorter than 19 years of 365 1/4 days, for each year.
+constexpr int yearlyLag = 365 * dayUnits + dayUnits / 4 - 235 * cycleStep;
+
+constexpr int firstMoon = units(58, 5 + 6, 204); // 163 days before 7 October
+constexpr int passoverToNewYear = 163;
+constexpr int julianYearsBehind = 3760;
+
+// How far year x has gone through the cycle of leap years, 0..18. Up to 6 a leap
+// year follows; above 11 it is a leap year itself.
+int placeInCycle(int x) {
+    return (12 * x + 17) % 19;
 }
 
-// The days by which Passover is put off, so that the new year falls on no Sunday,
-// Wednesday or Friday (first rule) and every year has a legal length.
-int postponement(double day, int x, int cycleYear) {
-    const int whole = floorOf(day);
-    const double fraction = day - whole;
-    const int weekday = (whole + 3 * x + 5 * (x % 4) + 5) % 7;
-    if (weekday == 2 || weekday == 4 || weekday == 6)
+// In units from the beginning of 0 March.
+int passoverMoon(int x) {
+    return firstMoon + (placeInCycle(x) - placeInCycle(0)) * cycleStep + x % 4 * (dayUnits / 4) -
+           x * yearlyLag;
+}
+
+int wholeDays(int moment) {
+    return moment < 0 ? (moment + 1) / dayUnits - 1 : moment / dayUnits;
+}
+
+// The days by which a new year is put off, so that it falls on no Sunday,
+// Wednesday or Friday and leaves every year a legal length.
+int postponement(int newYear, int place, int timeOfMoon) {
+    switch (Calc::WeekdayOf(newYear)) {
+    case Sunday:
+    case Wednesday:
+    case Friday:
         return 1;
-    if (weekday == 1 && cycleYear > 6 && fraction >= 1367.0 / 2160.0)
-        return 2;
-    if (weekday == 0 && cycleYear > 11 && fraction >= 23269.0 / 25920.0)
-        return 1;
-    return 0;
-}
-
-// A day counted from 1 March as a day and a month. Passover lies in March or
-// April; the further months complete the rule.
-void carryIntoMonths(int& day, int& month) {
-    struct Carry {
-        int days;
-        int month;
-    };
-    for (const Carry carry : {Carry{153, 8}, {122, 7}, {92, 6}, {61, 5}, {31, 4}}) {
-        if (day > carry.days) {
-            day -= carry.days;
-            month = carry.month;
-        }
+    case Tuesday:
+        return place > 6 && timeOfMoon >= units(0, 9 + 6, 204) ? 2 : 0;
+    case Monday:
+        return place > 11 && timeOfMoon >= units(0, 15 + 6, 589) ? 1 : 0;
+    default:
+        return 0;
     }
 }
 
@@ -76,14 +88,15 @@ void enterLeapLayout() {
         MonthDays(Jewish, month) = MonthDays(Jewish, month - 1);
         MonthNames(Jewish, month).swap(MonthNames(Jewish, month - 1));
     }
-    MonthNames(Jewish, Adar) = AdarName + " I";
-    MonthNames(Jewish, AdarTwo) = AdarName + " II";
+    MonthNames(Jewish, Adar) = AdarName + AdarSuffixes(1);
+    MonthNames(Jewish, AdarTwo) = AdarName + AdarSuffixes(2);
     JewishLeap = true;
 }
 
 void setVaryingLengths(int yearDays) {
     const bool leap = yearDays >= shortestLeapYear;
-    const int excess = yearDays - (leap ? 383 : 353); // 0 deficient, 1 regular, 2 full
+    const int shortest = leap ? shortestLeapYear : shortestCommonYear;
+    const int excess = yearDays - shortest; // 0 deficient, 1 regular, 2 full
     if (excess < 0 || excess > 2)
         return;
     MonthDays(Jewish, Heshvan) = excess == 2 ? 30 : 29;
@@ -95,61 +108,52 @@ void setVaryingLengths(int yearDays) {
         MonthDays(Jewish, lastMonth) = 0;
 }
 
-void setJewishYear(int newYear, int nextNewYear) {
-    YearJD(Jewish, FirstDay) = newYear;
-    YearJD(Jewish, LastDay) = nextNewYear - 1;
-    YearDays(Jewish, DaysInYear) = YearJD(Jewish, LastDay) - YearJD(Jewish, FirstDay) + 1;
+void setJewishLengths(int newYear, int nextNewYear) {
+    YearDays(Jewish, DaysInYear) = nextNewYear - newYear;
     Calc::SetJewishMonths();
+}
+
+void dateFromJD(int year, int newYear, int nextNewYear) {
+    CurDate(Jewish, Year) = year;
+    setJewishLengths(newYear, nextNewYear);
+    Calc::DateDay(Jewish, CurJD - newYear + 1);
+    Calc::SetYear(Jewish, newYear);
 }
 
 } // namespace
 
 int Calc::JewishNewYear(int year) {
     const int x = year - 1;
-    const int cycleYear = (12 * x + 17) % 19;
-    const double day = passover(x, cycleYear);
-    int passoverDay = floorOf(day + postponement(day, x, cycleYear));
-    int passoverMonth = 3;
-    carryIntoMonths(passoverDay, passoverMonth);
-    return JulianJD(passoverDay, passoverMonth, x - julianYearsBehind) + passoverToNewYear;
+    const int moon = passoverMoon(x);
+    const int passover = wholeDays(moon);
+    const int newYear = JulianJD(passover, 3, x - julianYearsBehind) + passoverToNewYear;
+    return newYear + postponement(newYear, placeInCycle(x), moon - passover * dayUnits);
 }
 
 void Calc::JewishToJD() {
-    int& day = CurDate(Jewish, Day);
-    int& month = CurDate(Jewish, Month);
     const int year = CurDate(Jewish, Year);
-    setJewishYear(JewishNewYear(year), JewishNewYear(year + 1));
-    if (month == lastMonth && !JewishLeap)
-        --month;
-    if (day > MonthDays(Jewish, month))
-        day = MonthDays(Jewish, month);
-    CurDate(Jewish, DayNumber) = DayOfYear(Jewish, month, day);
-    CurJD = YearJD(Jewish, FirstDay) + CurDate(Jewish, DayNumber) - 1;
-    SetMonthStarts(Jewish);
+    const int newYear = JewishNewYear(year);
+    setJewishLengths(newYear, JewishNewYear(year + 1));
+    if (CurDate(Jewish, Month) == lastMonth && !JewishLeap)
+        --CurDate(Jewish, Month);
+    DateToJD(Jewish, newYear);
 }
 
 void Calc::JDToJewish() {
-    int& year = CurDate(Jewish, Year);
-    year = MinYear(Jewish) + CurDate(Julian, Year); // at most one too high
-    int newYear = JewishNewYear(year);
-    int nextNewYear = 0;
-    for (; newYear > CurJD; newYear = JewishNewYear(--year))
-        nextNewYear = newYear;
-    if (nextNewYear == 0)
-        nextNewYear = JewishNewYear(year + 1);
-    setJewishYear(newYear, nextNewYear);
-    CurDate(Jewish, DayNumber) = CurJD - YearJD(Jewish, FirstDay) + 1;
-    CurDate(Jewish, Day) = CurDate(Jewish, DayNumber);
-    DayToMonth(Jewish, CurDate(Jewish, Month), CurDate(Jewish, Day));
-    SetMonthStarts(Jewish);
+    const int year = MinYear(Jewish) + CurDate(Julian, Year);
+    const int newYear = JewishNewYear(year);
+    if (newYear <= CurJD)
+        dateFromJD(year, newYear, JewishNewYear(year + 1));
+    else
+        dateFromJD(year - 1, JewishNewYear(year - 1), newYear);
 }
 
 void Calc::SetJewishMonths() {
     const int yearDays = YearDays(Jewish, DaysInYear);
-    const bool leapLayout = !MonthNames(Jewish, lastMonth).empty();
-    if (yearDays < shortestLeapYear && leapLayout)
+    const bool leapYear = yearDays >= shortestLeapYear;
+    if (JewishLeap && !leapYear)
         enterCommonLayout();
-    else if (yearDays >= shortestLeapYear && !leapLayout)
+    else if (leapYear && !JewishLeap)
         enterLeapLayout();
     setVaryingLengths(yearDays);
 }

@@ -4,6 +4,7 @@
 // a long year.
 #include "calc/calc.h"
 #include "calc/state.h"
+#include "calc/year.h"
 #include "shared/settings.h"
 
 namespace {
@@ -11,43 +12,36 @@ namespace {
 constexpr int cycleYears = 30;
 constexpr int longYear = 355;
 constexpr int commonYear = 354;
-constexpr int cycleDays = 11 * longYear + 19 * commonYear; // 10631
+constexpr int cycleDays = 11 * longYear + 19 * commonYear;
+
+// The range ends with a year 22 of the cycle; eight of those 22 are long.
+constexpr int rangeDays = 81 * cycleDays + 8 * longYear + 14 * commonYear;
+
 constexpr int lastMonth = 12;
 
-void setMoslemYear(int yearOfCycle) {
+void setMoslemLengths(int yearOfCycle) {
     YearDays(Moslem, DaysInYear) = MoslemCycle(yearOfCycle);
     MonthDays(Moslem, lastMonth) = MoslemCycle(yearOfCycle) == longYear ? 30 : 29;
-}
-
-void setMoslemBounds() {
-    YearJD(Moslem, FirstDay) = CurJD - CurDate(Moslem, DayNumber) + 1;
-    YearJD(Moslem, LastDay) = YearJD(Moslem, FirstDay) + YearDays(Moslem, DaysInYear) - 1;
-    Calc::SetMonthStarts(Moslem);
 }
 
 } // namespace
 
 void Calc::SetMoslemType() {
-    const bool thursdayEra = MoslemType == 1; // 15 July 622; otherwise Friday 16 July
+    const bool thursdayEra = MoslemType == 1;
     MoslemCycle(15) = thursdayEra ? longYear : commonYear;
     MoslemCycle(16) = thursdayEra ? commonYear : longYear;
-    MinJD(Moslem) = thursdayEra ? 1948439 : 1948440;
-    MaxJD(Moslem) = thursdayEra ? 2817345 : 2817346;
+    MinJD(Moslem) = thursdayEra ? 1948439 : 1948440; // 15 or 16 July 622 Julian
+    MaxJD(Moslem) = MinJD(Moslem) + rangeDays - 1;
 }
 
 void Calc::MoslemToJD() {
     const int yearsBefore = CurDate(Moslem, Year) - 1;
     const int yearsOfCycle = yearsBefore % cycleYears;
-    setMoslemYear(yearsOfCycle + 1);
-    int& day = CurDate(Moslem, Day);
-    if (day > MonthDays(Moslem, CurDate(Moslem, Month)))
-        day = MonthDays(Moslem, CurDate(Moslem, Month));
-    CurDate(Moslem, DayNumber) = DayOfYear(Moslem, CurDate(Moslem, Month), day);
-
-    CurJD = yearsBefore / cycleYears * cycleDays + MinJD(Moslem) - 1 + CurDate(Moslem, DayNumber);
+    int newYear = MinJD(Moslem) + yearsBefore / cycleYears * cycleDays;
     for (int year = 1; year <= yearsOfCycle; ++year)
-        CurJD += MoslemCycle(year);
-    setMoslemBounds();
+        newYear += MoslemCycle(year);
+    setMoslemLengths(yearsOfCycle + 1);
+    DateToJD(Moslem, newYear);
 }
 
 void Calc::JDToMoslem() {
@@ -66,9 +60,7 @@ void Calc::JDToMoslem() {
         ++year;
 
     CurDate(Moslem, Year) = year;
-    CurDate(Moslem, DayNumber) = dayNumber;
-    setMoslemYear(yearOfCycle);
-    CurDate(Moslem, Day) = dayNumber;
-    DayToMonth(Moslem, CurDate(Moslem, Month), CurDate(Moslem, Day));
-    setMoslemBounds();
+    setMoslemLengths(yearOfCycle);
+    DateDay(Moslem, dayNumber);
+    SetYear(Moslem, CurJD - dayNumber + 1);
 }

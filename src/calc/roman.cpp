@@ -2,6 +2,7 @@
 // The Julian and Gregorian calendars: the same months, two leap rules.
 #include "calc/calc.h"
 #include "calc/state.h"
+#include "calc/year.h"
 
 namespace {
 
@@ -9,8 +10,9 @@ constexpr int february = 2;
 constexpr int march = 3;
 constexpr int december = 12;
 
-constexpr int dayBeforeYear1 = 1721423; // 31 December of the year before year 1
-constexpr int fourYears = 4 * 365 + 1;
+constexpr int commonYear = 365;
+constexpr int leapYear = 366;
+constexpr int fourYears = 3 * commonYear + leapYear;
 
 // A year that is divisible by 4 is a leap year.
 bool isJulianLeap(int year) {
@@ -27,30 +29,9 @@ bool isGregorianLeap(int year) {
     return isJulianLeap(year) && !isDroppedCentury(year);
 }
 
-void setYearLength(int c, bool leap) {
+void setRomanLengths(int c, bool leap) {
     MonthDays(c, february) = leap ? 29 : 28;
-    YearDays(c, DaysInYear) = leap ? 366 : 365;
-}
-
-void clampDay(int c) {
-    const int length = MonthDays(c, CurDate(c, Month));
-    if (CurDate(c, Day) > length)
-        CurDate(c, Day) = length;
-}
-
-void setJulianYear() {
-    const int year = CurDate(Julian, Year);
-    YearJD(Julian, FirstDay) = Calc::JulianJD(1, 1, year);
-    YearJD(Julian, LastDay) = YearJD(Julian, FirstDay) + YearDays(Julian, DaysInYear) - 1;
-}
-
-// Needs CurJD and the day of the year.
-void setGregorianYear() {
-    CurDate(Gregorian, DayNumber) =
-        Calc::DayOfYear(Gregorian, CurDate(Gregorian, Month), CurDate(Gregorian, Day));
-    YearJD(Gregorian, FirstDay) = CurJD - CurDate(Gregorian, DayNumber) + 1;
-    YearJD(Gregorian, LastDay) = YearJD(Gregorian, FirstDay) + YearDays(Gregorian, DaysInYear) - 1;
-    Calc::SetMonthStarts(Gregorian);
+    YearDays(c, DaysInYear) = leap ? leapYear : commonYear;
 }
 
 // By how many days the Gregorian date is ahead of the Julian date of the same
@@ -61,27 +42,14 @@ int gregorianLead(int year, int month) {
     return isDroppedCentury(year) && month < march ? lead - 1 : lead;
 }
 
-void crossYear(int& day, int& month, int& year) {
-    if (month == december && day >= 32) {
-        day -= 31;
-        month = 1;
-        ++year;
-    } else if (month == 1 && day < 1) {
-        day += 31;
-        month = december;
-        --year;
-    }
-}
-
-void crossMonth(int& day, int& month) {
-    if (day < 1) {
-        --month;
-        day += MonthDays(Gregorian, month);
-    }
-    if (day > MonthDays(Gregorian, month)) {
-        day -= MonthDays(Gregorian, month);
-        ++month;
-    }
+// Into the month before or after.
+void crossMonth(int direction, int& month, int& year) {
+    month += direction;
+    if (month >= 1 && month <= december)
+        return;
+    month = direction < 0 ? december : 1;
+    year += direction;
+    setRomanLengths(Gregorian, isGregorianLeap(year));
 }
 
 } // namespace
@@ -95,55 +63,52 @@ int Calc::JulianJD(int day, int month, int year) {
 
 void Calc::JulianToJD() {
     const int year = CurDate(Julian, Year);
-    setYearLength(Julian, isJulianLeap(year));
-    clampDay(Julian);
-    CurJD = JulianJD(CurDate(Julian, Day), CurDate(Julian, Month), year);
-    setJulianYear();
-    CurDate(Julian, DayNumber) = CurJD - YearJD(Julian, FirstDay) + 1;
-    SetMonthStarts(Julian);
+    setRomanLengths(Julian, isJulianLeap(year));
+    DateToJD(Julian, JulianJD(1, 1, year));
 }
 
 void Calc::JDToJulian() {
-    const int days = CurJD - dayBeforeYear1;
+    const int days = CurJD - MinJD(Julian) + 1;
     int year = days / fourYears * 4;
     int dayNumber = days % fourYears;
-    for (int passed = 0; passed < 3 && dayNumber >= 366; ++passed) {
-        dayNumber -= 365;
+    for (int passed = 0; passed < 3 && dayNumber > commonYear; ++passed) {
+        dayNumber -= commonYear;
         ++year;
     }
     if (dayNumber < 1)
-        dayNumber = 366; // the last day of the four years, in the year just passed
+        dayNumber = leapYear; // the last day of the four years, in the year just passed
     else
         ++year;
 
     CurDate(Julian, Year) = year;
-    setYearLength(Julian, isJulianLeap(year));
-    CurDate(Julian, DayNumber) = dayNumber;
-    CurDate(Julian, Day) = dayNumber;
-    DayToMonth(Julian, CurDate(Julian, Month), CurDate(Julian, Day));
-    setJulianYear();
-    SetMonthStarts(Julian);
+    setRomanLengths(Julian, isJulianLeap(year));
+    DateDay(Julian, dayNumber);
+    SetYear(Julian, JulianJD(1, 1, year));
 }
 
 void Calc::GregorianToJD() {
     const int year = CurDate(Gregorian, Year);
-    const int month = CurDate(Gregorian, Month);
-    setYearLength(Gregorian, isGregorianLeap(year));
-    clampDay(Gregorian);
-    CurJD = JulianJD(CurDate(Gregorian, Day) - gregorianLead(year, month), month, year);
-    setGregorianYear();
+    setRomanLengths(Gregorian, isGregorianLeap(year));
+    DateToJD(Gregorian, JulianJD(1 - gregorianLead(year, 1), 1, year));
 }
 
 void Calc::JulianToGregorian() {
     int year = CurDate(Julian, Year);
     int month = CurDate(Julian, Month);
     int day = CurDate(Julian, Day) + gregorianLead(year, month);
-    crossYear(day, month, year);
-    setYearLength(Gregorian, isGregorianLeap(year));
-    crossMonth(day, month);
+    setRomanLengths(Gregorian, isGregorianLeap(year));
+    if (day < 1) {
+        crossMonth(-1, month, year);
+        day += MonthDays(Gregorian, month);
+    }
+    // More than once where, far beyond the range, the calendars are months apart.
+    while (day > MonthDays(Gregorian, month)) {
+        day -= MonthDays(Gregorian, month);
+        crossMonth(+1, month, year);
+    }
 
     CurDate(Gregorian, Day) = day;
     CurDate(Gregorian, Month) = month;
     CurDate(Gregorian, Year) = year;
-    setGregorianYear();
+    SetYear(Gregorian, CurJD - NumberDay(Gregorian) + 1);
 }

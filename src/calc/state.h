@@ -15,11 +15,11 @@ inline int CurJD = 0;
 /// CurDate(c, Day .. WeekNumber): the chosen day in calendar c.
 inline Table<int, calendarCount, 5> CurDate;
 
-/// MonthDays(c, m), m = 1..13: length in days of month m in the current year of
-/// calendar c, 0 where there is no such month. MonthDays(c, weekdayRow + m): the
-/// weekday of that month's first day. The Jewish row follows the layout of the
-/// year, as MonthNames does.
-inline Table<int, calendarCount, 26> MonthDays;
+/// MonthDays(c, m), m = 1..monthLimit: length in days of month m in the current
+/// year of calendar c, 0 where there is no such month. MonthDays(c, weekdayRow +
+/// m): the weekday of that month's first day. The Jewish row follows the layout
+/// of the year, as MonthNames does.
+inline Table<int, calendarCount, weekdayRow + monthLimit> MonthDays;
 
 /// YearDays(c, DaysInYear) and YearDays(c, WeeksInYear): the days of the current
 /// year and the weeks that it touches.
@@ -38,11 +38,20 @@ inline Table<int, 30> MoslemCycle;
 inline bool JewishLeap = false;
 
 /// What each calendar can show. The windows keep what the user enters inside;
-/// the arithmetic goes on beyond. MinJD(Moslem) is the Moslem epoch.
+/// the arithmetic goes on beyond. MinJD(Moslem) is the Moslem epoch; the Moslem
+/// days are set by Calc::SetMoslemType.
 inline const Table<int, calendarCount> MinYear{1, 1, 3761, 1};
 inline const Table<int, calendarCount> MaxYear{3000, 3000, 6761, 2452};
-inline Table<int, calendarCount> MinJD{1721424, 1721426, 1721319, 0};
-inline Table<int, calendarCount> MaxJD{2817173, 2817152, 2817404, 0};
+inline Table<int, calendarCount> MinJD{
+    1721424, // 1 January 1 Julian
+    1721426, // 1 January 1 Gregorian
+    1721319, // 1 Tishri 3761
+};
+inline Table<int, calendarCount> MaxJD{
+    2817173, // 31 December 3000 Julian
+    2817152, // 31 December 3000 Gregorian
+    2817404, // the last day of Elul 6761
+};
 
 /// Weekday of the chosen day.
 inline int WeekDayNo = 0;

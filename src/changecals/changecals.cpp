@@ -15,71 +15,80 @@ constexpr int meanNewMoon = 1720993;
 constexpr int phases = 8;
 
 void redrawYear(int c) {
-    ChangeCals::Year(c).ShowYear();
+    ChangeCals::LoadYear(c).ShowYear();
 }
 
 void redrawMonthly() {
-    MonthlyWindow& window = ChangeCals::Monthly();
-    for (int pane = 1; pane <= 4; ++pane) {
+    MonthlyWindow& window = ChangeCals::LoadMonthly();
+    for (int pane = 1; pane <= paneCount; ++pane) {
         window.SetCal(pane);
         window.SetGrid(pane);
     }
     window.SetCommonInfo();
 }
 
-// The Gregorian date comes from the Julian, and the Jewish needs the Julian year.
-void deriveJulianAndGregorian() {
-    Calc::JDToJulian();
-    Calc::JulianToGregorian();
+void toJulianDay(int c) {
+    switch (c) {
+    case Julian:
+        Calc::JulianToJD();
+        break;
+    case Gregorian:
+        Calc::GregorianToJD();
+        break;
+    case Jewish:
+        Calc::JewishToJD();
+        break;
+    case Moslem:
+        Calc::MoslemToJD();
+        break;
+    default:
+        break; // CurJD is the day
+    }
 }
 
-void showChange() {
-    ChangeCals::SetMoonAge();
-    ChangeCals::UpdateWindows();
+// The one way from a day, written in calendar c or else in CurJD, to all the
+// calendars. The Gregorian date comes from the Julian, and the Jewish needs the
+// Julian year: hence the order.
+void deriveAll(int c) {
+    toJulianDay(c);
+    if (c != Julian)
+        Calc::JDToJulian();
+    if (c != Gregorian)
+        Calc::JulianToGregorian();
+    if (c != Jewish)
+        Calc::JDToJewish();
+    if (c != Moslem)
+        Calc::JDToMoslem();
+}
+
+SystemDate chosenDate() {
+    return {CurDate(Gregorian, Day), CurDate(Gregorian, Month), CurDate(Gregorian, Year)};
+}
+
+void writeDate(const SystemDate& date) {
+    CurDate(Gregorian, Day) = date.day;
+    CurDate(Gregorian, Month) = date.month;
+    CurDate(Gregorian, Year) = date.year;
 }
 
 } // namespace
 
 void ChangeCals::ChangeCal(int c) {
-    switch (c) {
-    case Julian:
-        Calc::JulianToJD();
-        Calc::JulianToGregorian();
-        Calc::JDToJewish();
-        Calc::JDToMoslem();
-        break;
-    case Gregorian:
-        Calc::GregorianToJD();
-        Calc::JDToJulian();
-        Calc::JDToJewish();
-        Calc::JDToMoslem();
-        break;
-    case Jewish:
-        Calc::JewishToJD();
-        deriveJulianAndGregorian();
-        Calc::JDToMoslem();
-        break;
-    case Moslem:
-        Calc::MoslemToJD();
-        deriveJulianAndGregorian();
-        Calc::JDToJewish();
-        break;
-    default:
-        break;
-    }
-    showChange();
+    if (IsCalendar(c))
+        deriveAll(c);
+    SetMoonAge();
+    UpdateWindows();
 }
 
 void ChangeCals::ChangeJD() {
-    deriveJulianAndGregorian();
-    Calc::JDToJewish();
-    Calc::JDToMoslem();
-    showChange();
+    deriveAll(0);
+    SetMoonAge();
+    UpdateWindows();
 }
 
 void ChangeCals::UpdateWindows() {
     const int asking = CurrentWindow;
-    if (isCalendar(asking))
+    if (IsCalendar(asking))
         redrawYear(asking);
     if (IsVisible(MonthlyWindowNumber))
         redrawMonthly();
@@ -89,11 +98,11 @@ void ChangeCals::UpdateWindows() {
     }
     CurrentWindow = 0;
     if (IsVisible(MoonWindowNumber))
-        Moon().ReSetForm();
+        LoadMoon().ReSetForm();
 }
 
 void ChangeCals::SetMoonAge() {
-    WeekDayNo = CurJD % daysInWeek + 1;
+    WeekDayNo = Calc::WeekdayOf(CurJD);
     MoonAge = static_cast<float>(CurJD - meanNewMoon);
     // In double the product is exact, so only the storing in single rounds.
     const double days = MoonAge;
@@ -104,13 +113,9 @@ void ChangeCals::SetMoonAge() {
 
 void ChangeCals::GoToToday(int window) {
     const SystemDate today = Today();
-    const SystemDate chosen{CurDate(Gregorian, ::Day), CurDate(Gregorian, ::Month),
-                            CurDate(Gregorian, ::Year)};
-    if (chosen == today)
+    if (chosenDate() == today)
         return;
-    CurDate(Gregorian, ::Day) = today.day;
-    CurDate(Gregorian, ::Month) = today.month;
-    CurDate(Gregorian, ::Year) = today.year;
+    writeDate(today);
     CurrentWindow = window;
     ChangeCal(Gregorian);
 }

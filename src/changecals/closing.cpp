@@ -1,74 +1,28 @@
 // SPDX-License-Identifier: MIT
 #include "changecals/closing.h"
 
-#include "changecals/placing.h"
-#include "changecals/saving.h"
+#include "changecals/positions.h"
 #include "changecals/windows.h"
 #include "platform/message.h"
-#include "platform/numbers.h"
 #include "platform/program.h"
-#include "platform/settingsstore.h"
 #include "platform/text.h"
+#include "settings/storedsettings.h"
 #include "shared/settings.h"
 #include "shared/texts.h"
 
 #include <array>
-#include <optional>
 
 namespace {
-
-bool leaving = false;
 
 // The order in which the calendar windows are asked and told.
 constexpr std::array calendarWindows{int{MonthlyWindowNumber}, int{Julian}, int{Gregorian},
                                      int{Jewish}, int{Moslem}};
 
 void setCloseTips(int text) {
-    if (ShowTips == 0)
-        return;
     for (const int number : calendarWindows) {
         if (CalendarWindow* window = ChangeCals::LoadedCalendarWindow(number))
             window->SetCloseTip(Text(StringTexts(text)));
     }
-}
-
-struct Positions {
-    Table<int, mainWindowCount> top = FormTop;
-    Table<int, mainWindowCount> left = FormLeft;
-};
-
-// False when a position does not fit in 16 bits.
-bool readPosition(int number, Positions& positions) {
-    const MainWindow* window = ChangeCals::LoadedWindow(number);
-    const ChangeCals::Position place = window != nullptr
-                                           ? ChangeCals::Position{window->Left(), window->Top()}
-                                           : ChangeCals::PlaceOf(number);
-    if (window != nullptr && window->WindowState() == Form::Minimised)
-        return true;
-    const std::optional<int> left = CInt(place.left);
-    const std::optional<int> top = CInt(place.top);
-    positions.left(number) = left.value_or(0);
-    positions.top(number) = top.value_or(0);
-    return left && top;
-}
-
-bool readPositions(Positions& positions) {
-    if (!HasWindowPositions())
-        return true;
-    for (int number = 1; number <= mainWindowCount; ++number) {
-        if (!readPosition(number, positions))
-            return false;
-    }
-    return true;
-}
-
-void savePositions() {
-    for (int number = 1; number <= mainWindowCount; ++number) {
-        const QString section = ChangeCals::SettingsSection(number);
-        SaveSetting(section, QStringLiteral("Top"), QString::number(FormTop(number)));
-        SaveSetting(section, QStringLiteral("Left"), QString::number(FormLeft(number)));
-    }
-    ChangeCals::FlushSettingsOrTell();
 }
 
 } // namespace
@@ -92,24 +46,22 @@ void ChangeCals::CloseWindow(Form& form, int arg) {
 }
 
 void ChangeCals::ExitProgram(int) {
-    if (leaving)
+    if (IsLeaving())
         return;
-    leaving = true;
-    Positions positions;
-    if (!readPositions(positions)) {
-        MsgBox(QStringLiteral("Overflow: a window stands too far right or down for its position "
-                              "to be stored. No position was saved."));
+    SetLeaving();
+    if (const MainWindow* window = ReadPositions()) {
+        MsgBox(QStringLiteral("Overflow: the window “%1” stands too far out for its position to "
+                              "be stored. No position was saved.")
+                   .arg(window->windowTitle()));
         LeaveProgram(1);
         return;
     }
-    FormTop = positions.top;
-    FormLeft = positions.left;
-    savePositions();
+    SavePositions();
     LeaveProgram(0);
 }
 
 void ChangeCals::AfterWindowClosed() {
-    if (leaving)
+    if (IsLeaving())
         return;
     const int open = CountOpenWindows();
     if (open == 0)
@@ -129,17 +81,8 @@ void ChangeCals::RefreshCloseTips() {
         SetCloseTipsSeveral();
 }
 
-bool ChangeCals::IsLeaving() {
-    return leaving;
-}
-
 void ChangeCals::LeaveProgram(int status) {
-    leaving = true;
+    SetLeaving();
     HideAllWindows();
     EndProgram(status);
-}
-
-void ChangeCals::BeginRun() {
-    leaving = false;
-    ForgetTelling();
 }

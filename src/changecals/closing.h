@@ -33,13 +33,7 @@ void SetCloseTipsSeveral();
 /// for.
 void RefreshCloseTips();
 
-/// The program is ending: windows that go need not tell.
-bool IsLeaving();
-
 /// Ends the program without saving anything; `status` is its exit status.
 void LeaveProgram(int status);
-
-/// A run begins: nothing is ending, nothing has been told.
-void BeginRun();
 
 } // namespace ChangeCals

@@ -9,9 +9,9 @@
 #include "shared/settings.h"
 
 void ChangeCals::OpenYearWindow(int c) {
-    if (!isCalendar(c))
+    if (!IsCalendar(c))
         return;
-    YearWindow& window = Year(c);
+    YearWindow& window = LoadYear(c);
     window.ShowYear();
     window.Show();
     RefreshCloseTips();
@@ -21,10 +21,10 @@ void ChangeCals::OpenYearWindow(int c) {
 // minimised state would get it later than the others.
 void ChangeCals::OpenYearWindowsOfPanes() {
     YearWindow* last = nullptr;
-    for (int pane = 4; pane >= 1; --pane) {
-        if (!isCalendar(CalendarOrder(pane)))
+    for (int pane = paneCount; pane >= 1; --pane) {
+        if (!IsCalendar(CalendarOrder(pane)))
             continue;
-        last = &Year(CalendarOrder(pane));
+        last = &LoadYear(CalendarOrder(pane));
         last->ShowYear();
         last->ShowInFront();
     }
@@ -34,14 +34,14 @@ void ChangeCals::OpenYearWindowsOfPanes() {
 }
 
 void ChangeCals::ShowMoonWindow() {
-    MoonWindow& window = Moon();
+    MoonWindow& window = LoadMoon();
     if (!window.Visible())
         window.ReSetForm();
     window.Show();
 }
 
 void ChangeCals::ShowMonthlyWindow() {
-    MonthlyWindow& window = Monthly();
+    MonthlyWindow& window = LoadMonthly();
     if (!window.Visible()) {
         window.ReSetForm();
         CurrentWindow = 0;
@@ -52,11 +52,11 @@ void ChangeCals::ShowMonthlyWindow() {
 }
 
 void ChangeCals::ShowOptions() {
-    Options().Show();
+    LoadOptions().Show();
 }
 
 void ChangeCals::ShowAbout() {
-    About().Show();
+    LoadAbout().Show();
 }
 
 void ChangeCals::SetAllTexts() {

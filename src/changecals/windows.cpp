@@ -16,6 +16,8 @@ QPointer<MoonWindow> moon;
 QPointer<Form> options;
 QPointer<Form> about;
 
+bool leaving = false;
+
 // An unloaded window still lives until its events are done.
 template <typename Window>
 bool isLoaded(const QPointer<Window>& window) {
@@ -41,27 +43,32 @@ void forAllWindows(const Action& action) {
 
 } // namespace
 
-void ChangeCals::SetFactories(WindowFactories factories) {
+void ChangeCals::BeginRun(WindowFactories factories) {
     make = std::move(factories);
+    leaving = false;
 }
 
-MonthlyWindow& ChangeCals::Monthly() {
+void ChangeCals::EndRun() {
+    forAllWindows([](Form* window) { delete window; });
+}
+
+MonthlyWindow& ChangeCals::LoadMonthly() {
     return loaded(monthly, make.monthly);
 }
 
-YearWindow& ChangeCals::Year(int c) {
+YearWindow& ChangeCals::LoadYear(int c) {
     return loaded(years(c), [c] { return make.year(c); });
 }
 
-MoonWindow& ChangeCals::Moon() {
+MoonWindow& ChangeCals::LoadMoon() {
     return loaded(moon, make.moon);
 }
 
-Form& ChangeCals::Options() {
+Form& ChangeCals::LoadOptions() {
     return loaded(options, make.options);
 }
 
-Form& ChangeCals::About() {
+Form& ChangeCals::LoadAbout() {
     return loaded(about, make.about);
 }
 
@@ -74,17 +81,16 @@ MainWindow* ChangeCals::LoadedWindow(int number) {
 CalendarWindow* ChangeCals::LoadedCalendarWindow(int number) {
     if (number == MonthlyWindowNumber)
         return isLoaded(monthly) ? monthly.data() : nullptr;
-    return isLoaded(years(number)) ? years(number).data() : nullptr;
+    return LoadedYear(number);
+}
+
+YearWindow* ChangeCals::LoadedYear(int c) {
+    return isLoaded(years(c)) ? years(c).data() : nullptr;
 }
 
 bool ChangeCals::IsVisible(int number) {
     const MainWindow* window = LoadedWindow(number);
     return window != nullptr && window->Visible();
-}
-
-void ChangeCals::UnloadOptions() {
-    if (isLoaded(options))
-        options->Unload();
 }
 
 void ChangeCals::UnloadAbout() {
@@ -99,6 +105,10 @@ void ChangeCals::HideAllWindows() {
     });
 }
 
-void ChangeCals::DestroyAllWindows() {
-    forAllWindows([](Form* window) { delete window; });
+bool ChangeCals::IsLeaving() {
+    return leaving;
+}
+
+void ChangeCals::SetLeaving() {
+    leaving = true;
 }

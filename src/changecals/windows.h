@@ -57,6 +57,9 @@ public:
 
     /// Brings it up to date with the chosen day.
     virtual void ShowYear() = 0;
+
+    /// What is filled in is out of date: the next ShowYear refills all of it.
+    virtual void ForgetYear() = 0;
 };
 
 class MoonWindow : public MainWindow {
@@ -71,7 +74,7 @@ public:
 
 namespace ChangeCals {
 
-/// Make a window, loaded but not shown. Handed over at start.
+/// Make a window, loaded but not shown.
 struct WindowFactories {
     std::function<MonthlyWindow*()> monthly;
     std::function<YearWindow*(int c)> year;
@@ -80,14 +83,19 @@ struct WindowFactories {
     std::function<Form*()> about;
 };
 
-void SetFactories(WindowFactories factories);
+/// A run of the program begins: its windows are made by these, and nothing is
+/// ending.
+void BeginRun(WindowFactories factories);
+
+/// A run is over: destroys every window; none is to be used afterwards.
+void EndRun();
 
 /// The single instances, created on first use and afresh after an unloading.
-MonthlyWindow& Monthly();
-YearWindow& Year(int c);
-MoonWindow& Moon();
-Form& Options();
-Form& About();
+MonthlyWindow& LoadMonthly();
+YearWindow& LoadYear(int c);
+MoonWindow& LoadMoon();
+Form& LoadOptions();
+Form& LoadAbout();
 
 /// A main window by its number (1..6), nullptr while it is not loaded.
 MainWindow* LoadedWindow(int number);
@@ -95,17 +103,19 @@ MainWindow* LoadedWindow(int number);
 /// Whether a main window (1..6) is loaded and visible.
 bool IsVisible(int number);
 
-/// A calendar window by its number (1..5), nullptr while it is not loaded.
+/// A calendar window by its number (1..5), a year window by its calendar;
+/// nullptr while it is not loaded.
 CalendarWindow* LoadedCalendarWindow(int number);
+YearWindow* LoadedYear(int c);
 
-/// Unloads a dialog that is loaded.
-void UnloadOptions();
+/// Unloads the about box where it is loaded.
 void UnloadAbout();
 
 /// Takes every window from the screen without telling it.
 void HideAllWindows();
 
-/// Destroys every window; they are not to be used afterwards.
-void DestroyAllWindows();
+/// The run is ending: windows that go need not tell.
+bool IsLeaving();
+void SetLeaving();
 
 } // namespace ChangeCals

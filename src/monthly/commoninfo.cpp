@@ -3,7 +3,7 @@
 
 #include "calc/state.h"
 #include "changecals/changecals.h"
-#include "changecals/controltexts.h"
+#include "controls/controltexts.h"
 #include "platform/beep.h"
 #include "platform/numbers.h"
 #include "platform/text.h"
@@ -11,14 +11,12 @@
 #include "shared/texts.h"
 
 #include <QLocale>
+#include <algorithm>
 #include <cmath>
 
 namespace {
 
 constexpr int gap = 6; // pixels between controls
-constexpr int weekdayWidth = 132;
-constexpr int moonAgeWidth = 76;
-constexpr int julianDayWidth = 112;
 
 // One decimal, of which a zero is dropped together with the separator.
 QString moonAgeText(double age) {
@@ -26,6 +24,23 @@ QString moonAgeText(double age) {
     if (text.endsWith(u'0'))
         text.chop(2);
     return text;
+}
+
+// The ages of the whole days of the present lunation.
+ListEntries moonAges() {
+    const int daysPassed = static_cast<int>(MoonAge);
+    const float firstAge = MoonAge - static_cast<float>(daysPassed);
+    const int wholeDays = static_cast<int>(ChangeCals::lunation - firstAge);
+    return NumberedEntries(0, wholeDays, daysPassed, [firstAge](int day) {
+        return moonAgeText(firstAge + static_cast<float>(day));
+    });
+}
+
+int widestWeekday(const ComboBox& list) {
+    int width = 0;
+    for (int weekday = Monday; weekday <= Sunday; ++weekday)
+        width = std::max(width, list.WidthFor(Text(WeekDayNames(weekday))));
+    return width;
 }
 
 } // namespace
@@ -38,20 +53,30 @@ CommonInfo::CommonInfo(QWidget* parent)
       m_combo8(new JulianDayField(QStringLiteral("Combo8"), parent)) {
     connect(m_combo6, &ComboBox::Click, this, &CommonInfo::Combo6_Click);
     connect(m_combo7, &ComboBox::Click, this, &CommonInfo::Combo7_Click);
-    connect(m_combo7, &ComboBox::GotFocus, this, &CommonInfo::fillMoonAges);
-    connect(m_combo7, &ComboBox::BeforeUse, this, &CommonInfo::fillMoonAges);
+    m_combo7->SetFiller(moonAges);
 }
 
-void CommonInfo::Place(int left, int middle) {
+int CommonInfo::Width() const {
+    return widestWeekday(*m_combo6) + moonAgeWidth() + CommandButton::side + julianDayWidth() +
+           3 * gap;
+}
+
+int CommonInfo::Height() const {
+    return std::max(m_combo6->sizeHint().height(), CommandButton::side);
+}
+
+void CommonInfo::Place(int left, int middle, int width) {
     const int height = m_combo6->sizeHint().height();
     const int top = middle - height / 2;
-    m_combo6->setGeometry(left, top, weekdayWidth, height);
-    left += weekdayWidth + gap;
-    m_combo7->setGeometry(left, top, moonAgeWidth, height);
-    left += moonAgeWidth + gap;
+    const auto placeNext = [&left, top, height](ComboBox* list, int listWidth) {
+        list->setGeometry(left, top, listWidth, height);
+        left += listWidth + gap;
+    };
+    placeNext(m_combo6, widestWeekday(*m_combo6) - std::max(0, Width() - width));
+    placeNext(m_combo7, moonAgeWidth());
     m_command2.Move(left, middle - CommandButton::side / 2);
     left += CommandButton::side + gap;
-    m_combo8->setGeometry(left, top, julianDayWidth, height);
+    placeNext(m_combo8, julianDayWidth());
 }
 
 void CommonInfo::Reset() {
@@ -61,20 +86,19 @@ void CommonInfo::Reset() {
 }
 
 void CommonInfo::Fill() {
-    Updating = true;
+    const UpdatingGuard updating;
     if (m_combo6->ListIndex() != WeekDayNo - 1)
         m_combo6->SetListIndex(WeekDayNo - 1);
     m_command2.BringToFront(MoonPhase);
     m_moonAge = moonAgeText(MoonAge);
     m_combo7->SetOnlyItem(m_moonAge);
     m_combo8->Show(CurJD);
-    Updating = false;
 }
 
 void CommonInfo::SetTexts() {
-    ChangeCals::SetTip(m_combo6, Text(StringTexts(WeekDayText)));
-    ChangeCals::SetTip(m_combo7, Text(StringTexts(MoonAgeText)));
-    ChangeCals::SetTip(m_combo8, Text(StringTexts(JulianDayText)));
+    Controls::SetTip(m_combo6, Text(StringTexts(WeekDayText)));
+    Controls::SetTip(m_combo7, Text(StringTexts(MoonAgeText)));
+    Controls::SetTip(m_combo8, Text(StringTexts(JulianDayText)));
     m_command2.SetTexts();
 }
 
@@ -89,19 +113,12 @@ void CommonInfo::Combo7_Click() {
         moveBy(MyVal(m_combo7->Text()) - MyVal(m_moonAge));
 }
 
-// The ages of the whole days of the present lunation.
-void CommonInfo::fillMoonAges() {
-    if (Updating || m_combo7->ListCount() > 1)
-        return;
-    const int daysPassed = static_cast<int>(MoonAge);
-    const float firstAge = MoonAge - static_cast<float>(daysPassed);
-    QStringList ages;
-    const int wholeDays = static_cast<int>(ChangeCals::lunation - firstAge);
-    for (int day = 0; day <= wholeDays; ++day)
-        ages.append(moonAgeText(firstAge + static_cast<float>(day)));
-    Updating = true;
-    m_combo7->SetItems(ages, daysPassed);
-    Updating = false;
+int CommonInfo::moonAgeWidth() const {
+    return m_combo7->WidthFor(QStringLiteral("28.8"));
+}
+
+int CommonInfo::julianDayWidth() const {
+    return m_combo8->WidthFor(QString::number(MaxJD(Jewish)));
 }
 
 // No day below the lowest can be reached; above, the way is open on purpose. In

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "changecals/moonbuttons.h"
+#include "controls/moonbuttons.h"
 #include "monthly/juliandayfield.h"
 #include "platform/combobox.h"
 
@@ -13,13 +13,18 @@ class CommonInfo : public QObject {
 public:
     explicit CommonInfo(QWidget* parent);
 
+    /// What the controls need in a row, in pixels, in the present font and language.
+    int Width() const;
+    int Height() const;
+
     /// Places the controls from `left` on in a row around `middle`, in pixels.
-    void Place(int left, int middle);
+    /// Where `width` is less than they need, the weekday gives way.
+    void Place(int left, int middle, int width);
 
     /// Fills the weekday list.
     void Reset();
 
-    /// Shows the chosen day. Sets Updating and clears it.
+    /// Shows the chosen day.
     void Fill();
 
     void SetTexts();
@@ -30,7 +35,8 @@ private:
     void Combo6_Click();
     void Combo7_Click();
 
-    void fillMoonAges();
+    int moonAgeWidth() const;
+    int julianDayWidth() const;
     void moveBy(double days);
 
     ComboBox* m_combo6; ///< weekday

@@ -3,20 +3,18 @@
 
 #include "changecals/changecals.h"
 #include "changecals/closing.h"
-#include "changecals/controltexts.h"
-#include "changecals/opening.h"
-#include "changecals/placing.h"
-#include "changecals/saving.h"
-#include "platform/settingsstore.h"
+#include "changecals/positions.h"
+#include "controls/controltexts.h"
+#include "controls/emblems.h"
+#include "platform/line.h"
 #include "platform/text.h"
 #include "platform/twips.h"
+#include "settings/storedsettings.h"
 #include "shared/flags.h"
-#include "shared/look.h"
 #include "shared/settings.h"
 #include "shared/texts.h"
 
 #include <QEvent>
-#include <QFrame>
 #include <algorithm>
 
 namespace {
@@ -27,53 +25,52 @@ constexpr int emblemTop = 10;
 constexpr int emblemSide = 32;
 constexpr int gap = 6;
 constexpr int commandAreaHeight = 56;
+constexpr int commandCount = frmMonthlyCal::commandCount;
+constexpr int closeButton = commandCount;
+constexpr int commandsWidth = commandCount * (CommandButton::side + gap) - gap; // in pixels
+
+// Of Command1, by its index.
+const Table<Command, commandCount> commands{Command::YearCalendars, Command::Today,
+                                            Command::Options, Command::About, Command::Close};
 
 } // namespace
 
-frmMonthlyCal::frmMonthlyCal() : MonthlyWindow(QStringLiteral("frmMonthlyCal")) {
-    const Table<QString, calendarCount> emblems{QStringLiteral("julian"),
-                                                QStringLiteral("gregorian"),
-                                                QStringLiteral("jewish"), QStringLiteral("moslem")};
+frmMonthlyCal::frmMonthlyCal()
+    : MonthlyWindow(QStringLiteral("frmMonthlyCal")), m_commands(*this, 0, [this] {
+          m_common->JulianDay()->Leave();
+          ChangeCals::CloseWindow(*this);
+      }) {
     for (int c = 1; c <= calendarCount; ++c)
-        m_image1(c) = new Image(QStringLiteral("Image1_%1").arg(c),
-                                QStringLiteral("emblems/") + emblems(c), this);
-    for (int pane = 1; pane <= 4; ++pane) {
+        m_image1(c) = new Image(QStringLiteral("Image1_%1").arg(c), Controls::EmblemOf(c), this);
+    for (int pane = 1; pane <= paneCount; ++pane) {
         m_panes(pane) = new Pane(pane, this);
         connect(m_panes(pane), &Pane::CalendarChosen, this, &frmMonthlyCal::exchangeCalendars);
-        connect(&m_panes(pane)->Grid(), &MonthGrid::DayPicked, this,
-                [this] { m_dayPicked = true; });
     }
-    m_line1 = new QFrame(this);
-    m_line1->setObjectName(QStringLiteral("Line1"));
-    m_line1->setFrameStyle(QFrame::HLine | QFrame::Sunken);
+    Pane::ShareLetterSizes(m_panes);
+    m_line1 = new Line(QStringLiteral("Line1"), this);
     m_common = new CommonInfo(this);
     createCommands();
-    m_common->JulianDay()->SetLeavingControl(m_command1(Close));
-    place();
-    m_panes(1)->Grid().Control()->setFocus();
+    m_common->JulianDay()->SetLeavingControl(m_command1(closeButton));
+    m_panes(1)->Grid().setFocus();
     SetTexts();
     ChangeCals::PlaceForm(*this, MonthlyWindowNumber);
 }
 
 void frmMonthlyCal::SetTexts() {
     SetCaption(Text(CalendarNames(monthlyCalendarsName)));
-    for (int pane = 1; pane <= 4; ++pane)
+    for (int pane = 1; pane <= paneCount; ++pane)
         m_panes(pane)->SetTexts();
     m_common->SetTexts();
-    const Table<int, 5> tips{YearCalendarsText, TodayText, OptionsText, AboutText, ExitText};
-    for (int index = 1; index <= 5; ++index)
-        ChangeCals::SetTip(m_command1(index), Text(StringTexts(tips(index))));
+    place();
+    for (int index = 1; index <= commandCount; ++index)
+        Controls::SetTip(m_command1(index), Text(StringTexts(Commands::TextOf(commands(index)))));
 }
 
 void frmMonthlyCal::SetCloseTip(const QString& tip) {
-    ChangeCals::SetTip(m_command1(Close), tip);
+    Controls::SetTip(m_command1(closeButton), tip);
 }
 
 void frmMonthlyCal::SetCal(int pane) {
-    if (m_dayPicked) {
-        m_dayPicked = false;
-        m_panes(SourcePane)->Grid().Control()->setFocus();
-    }
     m_panes(pane)->SetCal();
 }
 
@@ -86,12 +83,12 @@ void frmMonthlyCal::SetCommonInfo() {
 }
 
 void frmMonthlyCal::ReSetForm() {
-    Updating = true;
-    for (int pane = 1; pane <= 4; ++pane)
+    const UpdatingGuard updating;
+    for (int pane = 1; pane <= paneCount; ++pane)
         m_panes(pane)->Reset();
     placeEmblems();
     m_common->Reset();
-    for (int pane = 1; pane <= 4; ++pane) {
+    for (int pane = 1; pane <= paneCount; ++pane) {
         SetCal(pane);
         SetGrid(pane);
     }
@@ -109,39 +106,17 @@ void frmMonthlyCal::changeEvent(QEvent* event) {
 }
 
 void frmMonthlyCal::Command1_Click(int index) {
-    switch (index) {
-    case YearCalendars:
-        ChangeCals::OpenYearWindowsOfPanes();
-        break;
-    case GoToday:
-        ChangeCals::GoToToday(0);
-        break;
-    case Options:
-        ChangeCals::ShowOptions();
-        break;
-    case About:
-        ChangeCals::ShowAbout();
-        break;
-    case Close:
-        ChangeCals::CloseWindow(*this);
-        break;
-    default:
-        break;
-    }
+    m_commands.Run(commands(index));
 }
 
 void frmMonthlyCal::Command1_MouseDown(int index, Qt::MouseButton button) {
-    if (index == Close && button == Qt::RightButton)
-        ChangeCals::ExitProgram();
+    m_commands.MouseDown(commands(index), button);
 }
 
 void frmMonthlyCal::createCommands() {
-    const Table<QString, 5> pictures{QStringLiteral("years"), QStringLiteral("today"),
-                                     QStringLiteral("options"), QStringLiteral("about"),
-                                     QStringLiteral("close")};
-    for (int index = 1; index <= 5; ++index) {
+    for (int index = 1; index <= commandCount; ++index) {
         auto* button = new CommandButton(QStringLiteral("Command1_%1").arg(index),
-                                         QStringLiteral("buttons/") + pictures(index), this);
+                                         Commands::PictureOf(commands(index)), this);
         m_command1(index) = button;
         connect(button, &CommandButton::clicked, this, [this, index] { Command1_Click(index); });
         connect(button, &CommandButton::MouseDown, this,
@@ -151,20 +126,30 @@ void frmMonthlyCal::createCommands() {
 
 void frmMonthlyCal::place() {
     int bottom = 0;
-    for (int pane = 1; pane <= 4; ++pane)
+    for (int pane = 1; pane <= paneCount; ++pane)
         bottom = m_panes(pane)->Place(emblemTop + emblemSide + gap);
     placeEmblems();
-    const int right = ToPixels(PaneLeft(4)) + Pane::width;
+    const int right = ToPixels(PaneLeft(paneCount)) + Pane::width;
     m_line1->setGeometry(margin, bottom + gap, right - margin, 2 * gap);
-    const int middle = bottom + 3 * gap + commandAreaHeight / 2;
-    m_common->Place(margin, middle);
-    placeCommands(middle);
-    setFixedSize(right + margin, middle + commandAreaHeight / 2);
+    bottom = placeCommon(bottom + 3 * gap, right - margin);
+    setFixedSize(right + margin, bottom);
+}
+
+// The commands stand beside what the calendars have in common where `width` has
+// room for both, else below. Returns the lower edge.
+int frmMonthlyCal::placeCommon(int top, int width) {
+    const int rowHeight = std::max(commandAreaHeight, m_common->Height() + 4 * gap);
+    const int middle = top + rowHeight / 2;
+    m_common->Place(margin, middle, width);
+    const bool fits = m_common->Width() + margin + commandsWidth <= width;
+    const int commandsMiddle = fits ? middle : middle + rowHeight / 2 + CommandButton::side / 2;
+    placeCommands(commandsMiddle);
+    return fits ? top + rowHeight : commandsMiddle + commandAreaHeight / 2;
 }
 
 void frmMonthlyCal::placeCommands(int middle) {
-    int left = ToPixels(PaneLeft(4)) + Pane::width - 5 * CommandButton::side - 4 * gap;
-    for (int index = 1; index <= 5; ++index) {
+    int left = ToPixels(PaneLeft(paneCount)) + Pane::width - commandsWidth;
+    for (int index = 1; index <= commandCount; ++index) {
         m_command1(index)->move(left, middle - CommandButton::side / 2);
         left += CommandButton::side + gap;
     }
@@ -174,8 +159,8 @@ void frmMonthlyCal::placeCommands(int middle) {
 void frmMonthlyCal::placeEmblems() {
     for (int c = 1; c <= calendarCount; ++c)
         m_image1(c)->hide();
-    for (int pane = 1; pane <= 4; ++pane) {
-        if (!isCalendar(CalendarOrder(pane)))
+    for (int pane = 1; pane <= paneCount; ++pane) {
+        if (!IsCalendar(CalendarOrder(pane)))
             continue;
         Image* emblem = m_image1(CalendarOrder(pane));
         emblem->setGeometry(ToPixels(PaneLeft(pane)), emblemTop, emblemSide, emblemSide);
@@ -187,23 +172,16 @@ void frmMonthlyCal::placeEmblems() {
 // place.
 void frmMonthlyCal::exchangeCalendars(int pane, int c) {
     int other = 0;
-    for (int candidate = 1; candidate <= 4 && other == 0; ++candidate)
+    for (int candidate = 1; candidate <= paneCount && other == 0; ++candidate)
         other = CalendarOrder(candidate) == c ? candidate : 0;
     if (other != 0)
         CalendarOrder(other) = CalendarOrder(pane);
     CalendarOrder(pane) = c;
-    saveCalendarOrder();
     placeEmblems();
     refill(pane);
     if (other != 0)
         refill(other);
-}
-
-void frmMonthlyCal::saveCalendarOrder() {
-    for (int pane = 1; pane <= 4; ++pane)
-        SaveSetting(QStringLiteral("Startup"), QStringLiteral("Calendar%1").arg(pane),
-                    QString::number(CalendarOrder(pane)));
-    ChangeCals::FlushSettingsOrTell();
+    SaveCalendarOrder(); // last: a message that it failed stands over a whole window
 }
 
 void frmMonthlyCal::refill(int pane) {

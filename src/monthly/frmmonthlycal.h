@@ -2,6 +2,7 @@
 #pragma once
 
 #include "changecals/windows.h"
+#include "controls/commands.h"
 #include "monthly/commoninfo.h"
 #include "monthly/pane.h"
 #include "platform/commandbutton.h"
@@ -9,7 +10,7 @@
 #include "shared/calendars.h"
 #include "shared/table.h"
 
-class QFrame;
+class Line;
 
 /// The main window: the chosen day in four panes side by side, what the
 /// calendars have in common, and the command buttons.
@@ -18,6 +19,8 @@ class frmMonthlyCal final : public MonthlyWindow {
 
 public:
     frmMonthlyCal();
+
+    static constexpr int commandCount = 5;
 
     void SetTexts() override;
     void SetCloseTip(const QString& tip) override;
@@ -31,24 +34,21 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    /// Command1 by index.
-    enum Command : int { YearCalendars = 1, GoToday = 2, Options = 3, About = 4, Close = 5 };
-
     void Command1_Click(int index);
     void Command1_MouseDown(int index, Qt::MouseButton button);
 
     void createCommands();
     void place();
+    int placeCommon(int top, int width);
     void placeCommands(int middle);
     void placeEmblems();
     void exchangeCalendars(int pane, int c);
-    void saveCalendarOrder();
     void refill(int pane);
 
-    bool m_dayPicked = false;
+    Commands m_commands;
     Table<Image*, calendarCount> m_image1; ///< emblems by calendar
-    Table<Pane*, 4> m_panes;
-    QFrame* m_line1;
+    Table<Pane*, paneCount> m_panes;
+    Line* m_line1;
     CommonInfo* m_common;
-    Table<CommandButton*, 5> m_command1;
+    Table<CommandButton*, commandCount> m_command1;
 };

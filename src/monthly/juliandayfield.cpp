@@ -3,7 +3,7 @@
 
 #include "calc/state.h"
 #include "changecals/changecals.h"
-#include "changecals/closing.h"
+#include "changecals/windows.h"
 #include "platform/beep.h"
 #include "platform/message.h"
 #include "platform/numbers.h"
@@ -62,8 +62,24 @@ void JulianDayField::keyPressEvent(QKeyEvent* event) {
         Combo8_KeyDown(event->key());
         return;
     }
+    if (event->key() == Qt::Key_Escape) {
+        Show(CurJD);
+        return;
+    }
     m_cursor = lineEdit()->cursorPosition();
     ComboBox::keyPressEvent(event);
+}
+
+// With nothing selected there is nothing that the field could copy: the key is the
+// window's then.
+bool JulianDayField::event(QEvent* event) {
+    const bool isKey = event->type() == QEvent::ShortcutOverride;
+    if (isKey && static_cast<QKeyEvent*>(event)->matches(QKeySequence::Copy) &&
+        !lineEdit()->hasSelectedText()) {
+        event->ignore();
+        return false;
+    }
+    return ComboBox::event(event);
 }
 
 void JulianDayField::focusOutEvent(QFocusEvent* event) {
@@ -97,8 +113,11 @@ void JulianDayField::Combo8_KeyDown(int key) {
 }
 
 void JulianDayField::Combo8_LostFocus() {
-    const bool leaving = ChangeCals::IsLeaving() || QApplication::focusWidget() == m_leavingControl;
-    if (!leaving)
+    if (ChangeCals::IsLeaving())
+        return;
+    if (QApplication::focusWidget() == m_leavingControl)
+        Leave();
+    else
         accept();
 }
 
@@ -107,20 +126,32 @@ void JulianDayField::Combo8_Click() {
         accept();
 }
 
+void JulianDayField::Leave() {
+    if (typedDay())
+        accept();
+    else
+        Show(CurJD);
+}
+
 void JulianDayField::accept() {
     if (m_refusing || Text() == m_shown)
         return;
-    const double number = Val(Text());
     m_accepted = Text();
-    if (number < lowestDay() || number > highestDay()) {
+    const auto day = typedDay();
+    if (!day) {
         refuseNumber();
-        return;
+    } else if (*day != CurJD) {
+        CurJD = *day;
+        ChangeCals::ChangeJD();
     }
-    const int julianDay = CLng(number).value_or(CurJD);
-    if (julianDay == CurJD)
-        return;
-    CurJD = julianDay;
-    ChangeCals::ChangeJD();
+}
+
+// Nothing when the number is none that the program can show.
+std::optional<int> JulianDayField::typedDay() const {
+    const double number = Val(Text());
+    if (number < lowestDay() || number > highestDay())
+        return std::nullopt;
+    return CLng(number);
 }
 
 void JulianDayField::refuseText() {
@@ -142,6 +173,7 @@ void JulianDayField::tellRange() {
         setFocus();
         MsgBox(rangeText());
         setFocus();
+        lineEdit()->selectAll(); // the next digit replaces it
     }
     m_refusing = false;
 }

@@ -3,11 +3,14 @@
 
 #include "platform/combobox.h"
 
+#include <optional>
+
 /// The Julian Day of the chosen day (Combo8), into which another can be typed. A
 /// whole number is taken on Return, when the field is left by mouse or keyboard,
 /// and when the list's entry is chosen. Anything but a whole number is refused
 /// while it is typed, with a beep; a number outside the range that the program
-/// can show, with a message when it is to be taken.
+/// can show, with a message when it is to be taken; it then stands selected. Escape
+/// puts the chosen day back.
 class JulianDayField : public ComboBox {
     Q_OBJECT
 
@@ -17,10 +20,15 @@ public:
     /// Shows a Julian Day.
     void Show(int julianDay);
 
-    /// A control that closes the window: a number is not judged on the way to it.
+    /// The window is about to go: a number in the range is taken, any other let go
+    /// without a word.
+    void Leave();
+
+    /// A control that closes the window; the focus on its way there is a leave.
     void SetLeavingControl(const QWidget* control) { m_leavingControl = control; }
 
 protected:
+    bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     bool eventFilter(QObject* receiver, QEvent* event) override;
@@ -32,6 +40,7 @@ private:
     void Combo8_Click();
 
     void accept();
+    std::optional<int> typedDay() const;
     void refuseText();
     void refuseNumber();
     void tellRange();

@@ -4,17 +4,16 @@
 #include "calc/calc.h"
 #include "calc/state.h"
 #include "changecals/changecals.h"
-#include "changecals/controltexts.h"
+#include "controls/controltexts.h"
+#include "controls/yearlist.h"
+#include "platform/availability.h"
 #include "platform/numbers.h"
-#include "platform/pointer.h"
 #include "platform/text.h"
 #include "platform/twips.h"
 #include "shared/flags.h"
-#include "shared/look.h"
 #include "shared/settings.h"
 #include "shared/texts.h"
 
-#include <QStringList>
 #include <algorithm>
 
 namespace {
@@ -26,13 +25,9 @@ QString fraction(int number, int of) {
 }
 
 // The entry of a number in each of the lists.
-QString yearEntry(int, int year) {
-    return QString::number(year);
-}
-
 QString monthEntry(int c, int month) {
     return fraction(month, Calc::MonthsInYear(c)) + QStringLiteral("  ") +
-           Text(MonthNames(c, month));
+           Isolated(Text(MonthNames(c, month)));
 }
 
 QString dayEntry(int c, int day) {
@@ -43,21 +38,20 @@ QString weekEntry(int c, int week) {
     return fraction(week, YearDays(c, WeeksInYear));
 }
 
-using Entry = QString (*)(int c, int number);
+// All entries of each of them.
+ListEntries monthEntries(int c) {
+    return NumberedEntries(1, Calc::MonthsInYear(c), CurDate(c, Month),
+                           [c](int month) { return monthEntry(c, month); });
+}
 
-// Fills a list that holds less than two entries with those of first..last and
-// selects the entry of `chosen`; a number outside the list leaves it as it is.
-void fillOnUse(ComboBox* list, int c, Entry entry, int first, int last, int chosen) {
-    if (list->ListCount() > 1 || chosen < first || chosen > last)
-        return;
-    const HourglassPointer hourglass;
-    QStringList entries;
-    entries.reserve(last - first + 1);
-    for (int number = first; number <= last; ++number)
-        entries.append(entry(c, number));
-    Updating = true;
-    list->SetItems(entries, chosen - first);
-    Updating = false;
+ListEntries dayEntries(int c) {
+    return NumberedEntries(1, YearDays(c, DaysInYear), CurDate(c, DayNumber),
+                           [c](int day) { return dayEntry(c, day); });
+}
+
+ListEntries weekEntries(int c) {
+    return NumberedEntries(1, YearDays(c, WeeksInYear), CurDate(c, WeekNumber),
+                           [c](int week) { return weekEntry(c, week); });
 }
 
 ComboBox* newCombo(int kind, int pane, QWidget* parent) {
@@ -72,25 +66,10 @@ Pane::Pane(int pane, QWidget* parent)
       m_combo1(newCombo(1, pane, parent)),
       m_combo2(newCombo(2, pane, parent)),
       m_combo3(newCombo(3, pane, parent)),
-      m_grid(pane, parent),
+      m_grid(new MonthGrid(pane, parent)),
       m_combo4(newCombo(4, pane, parent)),
       m_combo5(newCombo(5, pane, parent)) {
-    fillWhenUsed(m_combo2, [this] {
-        const int c = calendar();
-        fillOnUse(m_combo2, c, yearEntry, MinYear(c), MaxYear(c), CurDate(c, Year));
-    });
-    fillWhenUsed(m_combo3, [this] {
-        const int c = calendar();
-        fillOnUse(m_combo3, c, monthEntry, 1, Calc::MonthsInYear(c), CurDate(c, Month));
-    });
-    fillWhenUsed(m_combo4, [this] {
-        const int c = calendar();
-        fillOnUse(m_combo4, c, dayEntry, 1, YearDays(c, DaysInYear), CurDate(c, DayNumber));
-    });
-    fillWhenUsed(m_combo5, [this] {
-        const int c = calendar();
-        fillOnUse(m_combo5, c, weekEntry, 1, YearDays(c, WeeksInYear), CurDate(c, WeekNumber));
-    });
+    setFillers();
     connect(m_combo1, &ComboBox::Click, this, &Pane::Combo1_Click);
     connect(m_combo2, &ComboBox::Click, this, &Pane::Combo2_Click);
     connect(m_combo3, &ComboBox::Click, this, &Pane::Combo3_Click);
@@ -108,12 +87,21 @@ int Pane::Place(int top) {
     placeNext(m_combo1);
     placeNext(m_combo2);
     placeNext(m_combo3);
-    MSFlexGrid* grid = m_grid.Control();
-    grid->move(left + (width - grid->width()) / 2, top + gap);
-    top += grid->height() + 3 * gap;
+    m_grid->move(left + (width - m_grid->width()) / 2, top + gap);
+    top += m_grid->height() + 3 * gap;
     placeNext(m_combo4);
     placeNext(m_combo5);
     return top - gap;
+}
+
+void Pane::ShareLetterSizes(const Table<Pane*, paneCount>& panes) {
+    for (ComboBox* Pane::*list :
+         {&Pane::m_combo1, &Pane::m_combo2, &Pane::m_combo3, &Pane::m_combo4, &Pane::m_combo5}) {
+        std::vector<ComboBox*> row;
+        for (int pane = 1; pane <= paneCount; ++pane)
+            row.push_back(panes(pane)->*list);
+        ComboBox::ShareLetterSize(row);
+    }
 }
 
 void Pane::Reset() {
@@ -125,21 +113,21 @@ void Pane::Reset() {
 }
 
 void Pane::SetCal() {
-    Updating = true;
+    const UpdatingGuard updating;
     selectCalendar();
-    if (isCalendar(calendar()))
+    if (IsCalendar(calendar()))
         showOnlyChosenDay();
     setAvailable();
 }
 
 void Pane::SetTexts() {
     const auto setTip = [this](QWidget* control, int text) {
-        ChangeCals::SetTip(control, Text(StringTexts(text)), calendar());
+        Controls::SetTip(control, Text(StringTexts(text)), calendar());
     };
     setTip(m_combo1, CalendarText);
     setTip(m_combo2, YearText);
     setTip(m_combo3, MonthText);
-    setTip(m_grid.Control(), MonthGridText);
+    setTip(m_grid, MonthGridText);
     setTip(m_combo4, DayOfYearText);
     setTip(m_combo5, WeekOfYearText);
 }
@@ -151,12 +139,7 @@ void Pane::Combo1_Click() {
 }
 
 void Pane::Combo2_Click() {
-    const int c = calendar();
-    const int year = m_combo2->ListIndex() + MinYear(c);
-    if (Updating || m_combo2->ListCount() < 2 || year == CurDate(c, Year))
-        return;
-    CurDate(c, Year) = year;
-    ChangeCals::ChangeCal(c);
+    Controls::ChooseYearOf(*m_combo2, calendar(), 0);
 }
 
 void Pane::Combo3_Click() {
@@ -186,15 +169,16 @@ void Pane::Combo5_Click() {
     ChangeCals::ChangeJD();
 }
 
-// A list may get the focus in the middle of a refill, when the control before it
-// is hidden; it is then filled later, when it is used.
-void Pane::fillWhenUsed(ComboBox* list, const std::function<void()>& fill) {
-    const auto fillNow = [this, fill] {
-        if (!Updating && isCalendar(calendar()))
-            fill();
+void Pane::setFillers() {
+    const auto fill = [this](ComboBox* list, ListEntries (*entries)(int c)) {
+        list->SetFiller([this, entries] {
+            return IsCalendar(calendar()) ? entries(calendar()) : ListEntries();
+        });
     };
-    connect(list, &ComboBox::GotFocus, this, fillNow);
-    connect(list, &ComboBox::BeforeUse, this, fillNow);
+    fill(m_combo2, Controls::YearEntries);
+    fill(m_combo3, monthEntries);
+    fill(m_combo4, dayEntries);
+    fill(m_combo5, weekEntries);
 }
 
 int Pane::calendar() const {
@@ -202,12 +186,12 @@ int Pane::calendar() const {
 }
 
 void Pane::selectCalendar() {
-    m_combo1->SetListIndex(isCalendar(calendar()) ? calendar() - 1 : -1);
+    m_combo1->SetListIndex(IsCalendar(calendar()) ? calendar() - 1 : -1);
 }
 
 void Pane::showOnlyChosenDay() {
     const int c = calendar();
-    m_combo2->SetOnlyItem(yearEntry(c, CurDate(c, Year)));
+    m_combo2->SetOnlyItem(QString::number(CurDate(c, Year)));
     m_combo3->SetOnlyItem(monthEntry(c, CurDate(c, Month)));
     m_combo4->SetOnlyItem(dayEntry(c, CurDate(c, DayNumber)));
     m_combo5->SetOnlyItem(weekEntry(c, CurDate(c, WeekNumber)));
@@ -216,12 +200,10 @@ void Pane::showOnlyChosenDay() {
 // The chooser always stays, as the way to another calendar.
 void Pane::setAvailable() {
     const int c = calendar();
-    const bool visible = isCalendar(c) && !Calc::IsBeforeRange(c);
+    const bool visible = IsCalendar(c) && !Calc::IsBeforeRange(c);
     const bool enabled = visible && !Calc::IsAfterRange(c);
-    const std::initializer_list<QWidget*> controls{m_combo2, m_combo3, m_grid.Control(), m_combo4,
-                                                   m_combo5};
-    for (QWidget* control : controls) {
-        control->setVisible(visible);
-        control->setEnabled(enabled);
-    }
+    SetAvailable(*m_grid, visible, enabled, *m_combo1);
+    QWidget& heir = enabled ? static_cast<QWidget&>(*m_grid) : *m_combo1;
+    for (ComboBox* list : {m_combo2, m_combo3, m_combo4, m_combo5})
+        SetAvailable(*list, visible, enabled, heir);
 }

@@ -3,8 +3,11 @@
 
 #include "monthly/monthgrid.h"
 #include "platform/combobox.h"
+#include "shared/settings.h"
+#include "shared/table.h"
 
-#include <functional>
+/// Left edges of the panes, in twips.
+inline const Table<int, paneCount> PaneLeft{300, 2640, 4980, 7320};
 
 /// One of the four panes: the selectors of one calendar and its month grid. A
 /// list holds only the entry of the chosen day until it is used. What a choice
@@ -18,13 +21,16 @@ public:
     /// Places the pane's controls; returns the y of its lower edge, in pixels.
     int Place(int top);
 
+    /// Gives each row of lists of the panes one letter size.
+    static void ShareLetterSizes(const Table<Pane*, paneCount>& panes);
+
     /// Fills the chooser with the calendars' names and empties the month list.
     void Reset();
 
-    /// Refills the selectors. Sets Updating, which the grid's Fill clears.
+    /// Refills the selectors.
     void SetCal();
 
-    MonthGrid& Grid() { return m_grid; }
+    MonthGrid& Grid() { return *m_grid; }
 
     void SetTexts();
 
@@ -42,7 +48,7 @@ private:
     void Combo4_Click();
     void Combo5_Click();
 
-    void fillWhenUsed(ComboBox* list, const std::function<void()>& fill);
+    void setFillers();
     int calendar() const;
     void selectCalendar();
     void showOnlyChosenDay();
@@ -52,7 +58,7 @@ private:
     ComboBox* m_combo1; ///< calendar
     ComboBox* m_combo2; ///< year
     ComboBox* m_combo3; ///< month
-    MonthGrid m_grid;
+    MonthGrid* m_grid;
     ComboBox* m_combo4; ///< day of the year
     ComboBox* m_combo5; ///< week of the year
 };

@@ -2,9 +2,10 @@
 #include "moon/frmmoon.h"
 
 #include "calc/state.h"
-#include "changecals/controltexts.h"
 #include "changecals/opening.h"
-#include "changecals/placing.h"
+#include "changecals/positions.h"
+#include "controls/controltexts.h"
+#include "moon/moonfile.h"
 #include "moon/moonpicture.h"
 #include "platform/message.h"
 #include "platform/numbers.h"
@@ -39,6 +40,7 @@ void setBackground(QWidget* widget, const QColor& color) {
 
 frmMoon::frmMoon()
     : MoonWindow(QStringLiteral("frmMoon")),
+      m_commands(*this, 0, [this] { Hide(); }),
       m_label2(new QLabel(this)),
       m_picture1(new MoonPicture(QStringLiteral("Picture1"), this)),
       m_label1(new QLabel(m_picture1)) {
@@ -50,12 +52,17 @@ frmMoon::frmMoon()
 
 void frmMoon::SetTexts() {
     SetCaption(Text(LabelTexts(MoonLabel)));
-    ChangeCals::SetTip(m_picture1, Text(StringTexts(MoonPictureText)));
+    Controls::SetTip(m_picture1, Text(StringTexts(MoonPictureText)));
 }
 
 void frmMoon::ReSetForm() {
     m_picture1->SetShadow(ShadowOf(MoonAge, m_picture1->Width(), m_picture1->Height()));
-    m_label1->setText(FormatOneDecimal(MoonAge));
+    const QString age = FormatOneDecimal(MoonAge);
+    const QString spokenAge = Text(StringTexts(MoonAgeText)) + u' ' + age;
+    setAccessibleName(windowTitle() + QStringLiteral(", ") + spokenAge); // told as it opens
+    m_label1->setText(age);
+    m_label1->setAccessibleName(spokenAge);
+    m_picture1->setAccessibleDescription(spokenAge);
     m_label1->adjustSize();
     m_label1->move(ToPixels(labelMargin),
                    m_picture1->height() - m_label1->height() - ToPixels(labelMargin));
@@ -64,6 +71,8 @@ void frmMoon::ReSetForm() {
 void frmMoon::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape)
         Hide();
+    else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        ChangeCals::ShowMonthlyWindow();
     else
         MoonWindow::keyPressEvent(event);
 }

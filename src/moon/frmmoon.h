@@ -2,13 +2,14 @@
 #pragma once
 
 #include "changecals/windows.h"
+#include "controls/commands.h"
 
 class MoonPicture;
 class QLabel;
 
 /// The moon as it looks on the chosen day, with its age in days. When its
 /// picture file cannot be read, the window says so once as it is loaded and
-/// shows a plain disc.
+/// shows a plain disc. Esc hides it; Return does what a double click does.
 class frmMoon final : public MoonWindow {
     Q_OBJECT
 
@@ -26,6 +27,7 @@ private:
     void loadPicture();
     void placeControls();
 
+    Commands m_commands;
     QLabel* m_label2;        ///< a backdrop, a little larger than the picture
     MoonPicture* m_picture1; ///< holds the age
     QLabel* m_label1;        ///< the moon's age

@@ -6,42 +6,25 @@
 #include "shared/calendars.h"
 #include "shared/look.h"
 
-#include <QFileInfo>
-#include <QImageReader>
+#include <QAccessibleWidget>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QtEndian>
 
 namespace {
 
-constexpr int discMargin = 30;           // twips
-constexpr int largestSide = 4096;        // pixels
-constexpr qint64 largestFile = 64 << 20; // bytes
-constexpr qint64 fileSizeField = 2;      // offset in a bitmap's header
-constexpr int sky = 0x000000;            // also the colour of the unlit part
+constexpr int discMargin = 2; // pixels
 
-double pixels(double twips) {
-    return twips / twipsPerPixel;
-}
-
-QRectF pixelRect(const Shadow& shadow) {
-    return {pixels(shadow.left), pixels(shadow.top), pixels(shadow.width), pixels(shadow.height)};
-}
-
-// The reader itself takes a bitmap whose last rows are missing for a whole one.
-bool isWholeBitmap(const QString& path) {
-    QFile file(path);
-    const QFileInfo info(path);
-    if (!info.isFile() || info.size() > largestFile || !file.open(QIODevice::ReadOnly))
-        return false;
-    const QByteArray header = file.read(fileSizeField + 4);
-    return header.startsWith("BM") && header.size() == fileSizeField + 4 &&
-           qFromLittleEndian<quint32>(header.constData() + fileSizeField) <= info.size();
+// The toolkit would tell a widget that paints itself as a mere filler.
+QAccessibleInterface* newInterface(const QString& className, QObject* object) {
+    if (className != QLatin1String("MoonPicture"))
+        return nullptr;
+    return new QAccessibleWidget(qobject_cast<MoonPicture*>(object), QAccessible::Graphic);
 }
 
 } // namespace
 
 MoonPicture::MoonPicture(const QString& name, QWidget* parent) : QWidget(parent) {
+    QAccessible::installFactory(newInterface);
     setObjectName(name);
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
@@ -53,10 +36,7 @@ void MoonPicture::SetPicture(const QImage& picture) {
 }
 
 void MoonPicture::SetShadow(const Shadow& shadow) {
-    const std::optional<bool> formerFill = m_shadow ? m_shadow->solid : true;
     m_shadow = shadow;
-    if (!shadow.solid)
-        m_shadow->solid = formerFill;
     update();
 }
 
@@ -70,14 +50,14 @@ int MoonPicture::Height() const {
 
 void MoonPicture::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.fillRect(rect(), ToColor(sky));
+    painter.fillRect(rect(), ToColor(skyColor));
     painter.setRenderHint(QPainter::Antialiasing);
     if (m_picture.isNull())
         paintSubstitute(painter);
     else
         paintMoon(painter);
     if (m_shadow)
-        paintShadow(painter);
+        PaintShadow(painter, *m_shadow);
 }
 
 void MoonPicture::mouseDoubleClickEvent(QMouseEvent* event) {
@@ -96,31 +76,7 @@ void MoonPicture::paintMoon(QPainter& painter) {
 }
 
 void MoonPicture::paintSubstitute(QPainter& painter) const {
-    const double margin = pixels(discMargin);
     painter.setPen(QPen(Qt::black, 1));
     painter.setBrush(ToColor(CalendarColors(Jewish)));
-    painter.drawEllipse(QRectF(rect()).adjusted(margin, margin, -margin, -margin));
-}
-
-void MoonPicture::paintShadow(QPainter& painter) const {
-    const QRectF shape = pixelRect(*m_shadow);
-    if (shape.width() < 1 && shape.height() < 1)
-        return; // less than a pixel covers nothing
-    painter.setPen(QPen(ToColor(sky), m_shadow->border));
-    painter.setBrush(m_shadow->solid.value_or(true) ? QBrush(ToColor(sky)) : QBrush());
-    if (m_shadow->shape == Shadow::Shape::Circle)
-        painter.drawEllipse(shape);
-    else
-        painter.drawRect(shape);
-}
-
-QImage LoadMoonPicture(const QString& path) {
-    if (!isWholeBitmap(path))
-        return {};
-    QImageReader reader(path, "bmp");
-    const QSize size = reader.size();
-    if (size.isEmpty() || size.width() > largestSide || size.height() > largestSide)
-        return {};
-    // In full colours, which scaling would otherwise reduce to a few.
-    return reader.read().convertToFormat(QImage::Format_RGB32);
+    painter.drawEllipse(QRectF(rect()).adjusted(discMargin, discMargin, -discMargin, -discMargin));
 }

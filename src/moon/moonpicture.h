@@ -20,7 +20,6 @@ public:
     /// The picture of the full moon; a null image asks for the substitute disc.
     void SetPicture(const QImage& picture);
 
-    /// A shadow that leaves the fill as it was keeps the former shadow's.
     void SetShadow(const Shadow& shadow);
 
     /// In twips.
@@ -37,13 +36,8 @@ protected:
 private:
     void paintMoon(QPainter& painter);
     void paintSubstitute(QPainter& painter) const;
-    void paintShadow(QPainter& painter) const;
 
     QImage m_picture;
     QPixmap m_scaled;
     std::optional<Shadow> m_shadow;
 };
-
-/// A bitmap file as a picture; a null image when it is missing, cut off, no
-/// bitmap or larger than any moon needs to be.
-QImage LoadMoonPicture(const QString& path);

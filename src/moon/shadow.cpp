@@ -2,7 +2,11 @@
 #include "moon/shadow.h"
 
 #include "changecals/changecals.h"
+#include "platform/color.h"
 #include "platform/numbers.h"
+#include "platform/twips.h"
+
+#include <QPainter>
 
 namespace {
 
@@ -57,7 +61,7 @@ Shadow waxingGibbous(const Area& area, double age) {
 }
 
 Shadow fullMoon() {
-    return {Shadow::Shape::Rectangle, std::nullopt, 1, 0, 0, 1, 1};
+    return rectangle(0, 1, 1); // too small to cover anything
 }
 
 Shadow waningGibbous(const Area& area, double age) {
@@ -73,6 +77,11 @@ Shadow waningCrescent(const Area& area, double age) {
     Shadow shadow = crescent(area, bulge);
     shadow.left = area.width / 2 - bulge;
     return shadow;
+}
+
+QRectF pixelRect(const Shadow& shadow) {
+    return {shadow.left / twipsPerPixel, shadow.top / twipsPerPixel, shadow.width / twipsPerPixel,
+            shadow.height / twipsPerPixel};
 }
 
 } // namespace
@@ -97,4 +106,16 @@ Shadow ShadowOf(float age, double pictureWidth, double pictureHeight) {
     if (age <= 4 * quarter - nearPhase)
         return waningCrescent(area, age);
     return newMoon(area);
+}
+
+void PaintShadow(QPainter& painter, const Shadow& shadow) {
+    const QRectF shape = pixelRect(shadow);
+    if (shape.width() < 1 && shape.height() < 1)
+        return;
+    painter.setPen(QPen(ToColor(skyColor), shadow.border));
+    painter.setBrush(shadow.solid ? QBrush(ToColor(skyColor)) : QBrush());
+    if (shadow.shape == Shadow::Shape::Circle)
+        painter.drawEllipse(shape);
+    else
+        painter.drawRect(shape);
 }

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <optional>
+class QPainter;
+
+/// What is not lit: the sky, and the moon's shadow that cannot be told from it.
+inline constexpr int skyColor = 0x000000;
 
 /// The one shape that covers the unlit part of the moon's picture. Positions and
 /// sizes are in twips from the picture's upper left corner; a circle's height is
@@ -11,8 +14,8 @@ struct Shadow {
     enum class Shape { Rectangle, Circle };
 
     Shape shape;
-    std::optional<bool> solid; ///< nothing leaves the fill as it was
-    int border;                ///< width of the outline, in pixels of 15 twips, centred on it
+    bool solid;
+    int border; ///< width of the outline, in pixels of 15 twips, centred on it
     double left;
     double top;
     double width;
@@ -22,3 +25,7 @@ struct Shadow {
 /// The shadow at a moon age in days over a picture of the given size in twips.
 /// An age that no lunation has (negative, or near its end) is new moon.
 Shadow ShadowOf(float age, double pictureWidth, double pictureHeight);
+
+/// Paints it where the picture's upper left corner is the painter's origin. A
+/// shadow of less than a pixel covers nothing.
+void PaintShadow(QPainter& painter, const Shadow& shadow);

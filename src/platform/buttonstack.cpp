@@ -6,6 +6,7 @@ ButtonStack::ButtonStack(const QString& name, const QStringList& pictures, QWidg
         const QString number = QString::number(m_buttons.size());
         auto* button = new CommandButton(name + u'_' + number, picture, parent);
         button->SetTabStop(m_buttons.empty());
+        button->setVisible(m_buttons.empty());
         connect(button, &CommandButton::clicked, this, &ButtonStack::Click);
         m_buttons.push_back(button);
     }
@@ -20,11 +21,15 @@ void ButtonStack::Move(int x, int y) {
 void ButtonStack::BringToFront(int index) {
     if (index == m_front || index < 0 || index >= static_cast<int>(m_buttons.size()))
         return;
-    const bool hadFocus = Front()->hasFocus();
-    Front()->SetTabStop(false);
+    CommandButton* former = Front();
+    const bool hadFocus = former->window()->focusWidget() == former; // also behind other windows
+    former->SetTabStop(false);
     m_front = index;
     Front()->SetTabStop(true);
     Front()->raise();
+    QWidget::setTabOrder(former, Front());
+    Front()->show();
     if (hadFocus)
         Front()->setFocus();
+    former->hide();
 }

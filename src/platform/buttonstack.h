@@ -6,7 +6,7 @@
 #include <QStringList>
 #include <vector>
 
-/// Buttons that lie one over another; only the one in front is seen and reached
+/// Buttons that lie one over another; only the one in front is shown and reached
 /// by Tab. They are counted from 0 and named name_0, name_1, ...
 class ButtonStack : public QObject {
     Q_OBJECT

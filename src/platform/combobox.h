@@ -2,23 +2,47 @@
 #pragma once
 
 #include <QComboBox>
+#include <QTimer>
+#include <functional>
+#include <vector>
 
 class QStringListModel;
 
+/// The entries of a list and the position of the chosen one.
+struct ListEntries {
+    QStringList texts;
+    int chosen = -1;
+};
+
+/// An entry for each of the numbers first..last; none at all when `chosen` is not
+/// among them.
+ListEntries NumberedEntries(
+    int first, int last, int chosen,
+    const std::function<QString(int)>& entry = [](int number) { return QString::number(number); });
+
 /// A drop-down list in the classic terms. Click is raised for the user's choices
-/// only, also when the same entry is chosen again. A list may be filled on first
-/// use: GotFocus comes when the list gets the focus, BeforeUse whenever it is
-/// about to drop down or to take a key or a turn of the wheel. The wheel does
-/// nothing without the focus. A text too wide for the list is shown in a smaller
-/// font rather than cut.
+/// only, also when the same entry is chosen again. The wheel does nothing without
+/// the focus. A text too wide for the list is shown in a smaller font rather than
+/// cut. At most 15 entries drop down, the chosen one in their middle.
+///
+/// A number typed into the list is one choice. The first entry that begins with
+/// the digits so far is shown at once; it is chosen when no other begins so, on
+/// Return, when the list is left or used in another way, or after a pause.
+/// Backspace takes a digit back, Escape all of them.
 class ComboBox : public QComboBox {
     Q_OBJECT
 
 public:
+    using Filler = std::function<ListEntries()>;
+
     ComboBox(const QString& name, QWidget* parent);
 
+    /// Where a list of less than two entries takes its entries from when it gets
+    /// the focus or is about to be used. Without entries it stays as it is.
+    void SetFiller(Filler filler) { m_filler = std::move(filler); }
+
     void AddItem(const QString& text) { addItem(text); }
-    void Clear() { clear(); }
+    void Clear();
 
     /// Replaces the list by these entries and selects one by its position.
     void SetItems(const QStringList& texts, int position);
@@ -26,25 +50,58 @@ public:
     int ListIndex() const { return currentIndex(); }
 
     /// A position outside the list selects nothing.
-    void SetListIndex(int position) { setCurrentIndex(position); }
+    void SetListIndex(int position);
     QString Text() const { return currentText(); }
 
     /// Clears the list and makes `text` its only entry, selected.
     void SetOnlyItem(const QString& text) { SetItems({text}, 0); }
 
+    /// The width that shows `text` whole in the list's own font, in pixels.
+    int WidthFor(const QString& text) const;
+
+    /// Takes a font smaller than the parent's where `text` would not be shown whole
+    /// in `most` pixels: a smaller arrow goes with it. Returns the width that the
+    /// text needs, `most` at the most.
+    int FitWidth(const QString& text, int most);
+
+    /// From now on these lists show their texts in one letter size, the smallest
+    /// that one of them needs.
+    static void ShareLetterSize(const std::vector<ComboBox*>& lists);
+
     void showPopup() override;
 
 Q_SIGNALS:
-    void GotFocus();
-    void BeforeUse();
     void Click();
 
 protected:
     void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void fill();
+
+    bool takeTypedKey(const QKeyEvent& event);
+    bool takeTypedText(const QString& text);
+    bool showTyped(const QString& text);
+    void takeBack(qsizetype digits);
+    void choose();
+    void letGo();
+    void endTyping();
+
+    int chromeWidth() const;
+    QFont ownFittedFont() const;
+    QFont fittedFont() const;
+
     QStringListModel* m_items; ///< takes thousands of entries at once
+    Filler m_filler;
+    std::vector<ComboBox*> m_sharing; ///< of one letter size
+
+    QString m_typed;
+    bool m_pending = false; ///< what was typed is shown, but not yet chosen
+    int m_before = -1;      ///< the position before it was shown
+    QTimer m_pause;
 };

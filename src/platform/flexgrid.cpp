@@ -2,6 +2,7 @@
 #include "platform/flexgrid.h"
 
 #include "platform/color.h"
+#include "platform/gridmerging.h"
 #include "platform/gridpainter.h"
 #include "platform/twips.h"
 
@@ -24,6 +25,11 @@ bool movesCurrentCell(int key) {
 
 bool pressesCurrentCell(int key) {
     return key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space;
+}
+
+// Coming back from another window or from a popup is no arrival.
+bool isArrival(Qt::FocusReason reason) {
+    return reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason;
 }
 
 void setFixedSections(QHeaderView* header) {
@@ -101,6 +107,12 @@ void MSFlexGrid::SetAllCellColors(int back, int fore) {
     }
 }
 
+void MSFlexGrid::MoveTo(GridPlace cell) {
+    SetRow(cell.row);
+    SetCol(cell.column);
+    moveCurrent(m_model->index(cell.row, cell.column));
+}
+
 int MSFlexGrid::ColWidth(int column) const {
     return ToTwips(horizontalHeader()->sectionSize(column));
 }
@@ -131,14 +143,8 @@ void MSFlexGrid::SetRedraw(bool on) {
         announceChanges();
 }
 
-void MSFlexGrid::Refresh() {
-    if (m_redraw)
-        announceChanges();
-}
-
 void MSFlexGrid::SetSelectedColor(int color) {
     m_selectedColor = color;
-    m_painter->SetMarkColor(color);
 }
 
 void MSFlexGrid::SetFontPixelSize(int pixels) {
@@ -152,6 +158,12 @@ void MSFlexGrid::SetAccessibleText(std::function<QString(int, int)> text) {
     m_model->accessibleText = std::move(text);
 }
 
+void MSFlexGrid::PressCell(int row, int column) {
+    setFocus();
+    moveCurrent(m_model->index(row, column));
+    Q_EMIT MouseDown(Qt::LeftButton);
+}
+
 int MSFlexGrid::PaintedCells() const {
     return m_painter->PaintedCells();
 }
@@ -161,7 +173,6 @@ void MSFlexGrid::mousePressEvent(QMouseEvent* event) {
     event->accept();
     if (!pressed.isValid())
         return;
-    m_painter->SetOutlining(false);
     moveCurrent(pressed);
     Q_EMIT MouseDown(event->button());
 }
@@ -183,22 +194,58 @@ void MSFlexGrid::mouseDoubleClickEvent(QMouseEvent* event) {
 }
 
 void MSFlexGrid::keyPressEvent(QKeyEvent* event) {
-    if (movesCurrentCell(event->key())) {
-        m_painter->SetOutlining(true);
+    const bool doubled = event->modifiers().testFlag(Qt::ControlModifier);
+    if (movesCurrentCell(event->key()))
         QTableView::keyPressEvent(event);
-    } else if (pressesCurrentCell(event->key())) {
-        Q_EMIT MouseDown(Qt::LeftButton);
-    } else {
+    else if (!pressesCurrentCell(event->key()))
         event->ignore();
-    }
+    else if (doubled)
+        Q_EMIT DblClick();
+    else
+        Q_EMIT MouseDown(Qt::LeftButton);
+}
+
+// The frame of the grid that has the focus is in the desktop's highlight colour.
+void MSFlexGrid::initStyleOption(QStyleOptionFrame* option) const {
+    QTableView::initStyleOption(option);
+    if (hasFocus())
+        option->palette.setColor(QPalette::WindowText, palette().color(QPalette::Highlight));
+}
+
+void MSFlexGrid::focusOutEvent(QFocusEvent* event) {
+    QTableView::focusOutEvent(event);
+    update(); // the frame
+}
+
+// The toolkit tells that the grid has the focus when this is done; the cell comes
+// after it.
+void MSFlexGrid::focusInEvent(QFocusEvent* event) {
+    QTableView::focusInEvent(event);
+    update(); // the frame
+    m_speaker.BeginArrival();
+    const QModelIndexList selected = selectionModel()->selectedIndexes();
+    if (isArrival(event->reason()) && !selected.isEmpty())
+        moveCurrent(selected.first());
+    QMetaObject::invokeMethod(
+        this, [this] { m_speaker.EndArrival(); }, Qt::QueuedConnection);
 }
 
 void MSFlexGrid::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
-    QTableView::currentChanged(current, previous);
+    // The table view would tell of the focus also where the grid has none.
+    QAbstractItemView::currentChanged(current, previous); // NOLINT(bugprone-parent-virtual-call)
     if (current.isValid()) {
         m_row = current.row();
         m_column = current.column();
     }
+    m_speaker.TellCurrent();
+}
+
+void MSFlexGrid::selectionChanged(const QItemSelection& selected,
+                                  const QItemSelection& deselected) {
+    // The table view counts headers among the cells.
+    QAbstractItemView::selectionChanged( // NOLINT(bugprone-parent-virtual-call)
+        selected, deselected);
+    m_speaker.TellSelection(selected, deselected);
 }
 
 // All cells are always in view.
@@ -222,12 +269,13 @@ void MSFlexGrid::announceChanges() {
     for (const int row : m_mergeRows) {
         if (std::any_of(changed.begin(), changed.end(),
                         [row](QPoint cell) { return cell.y() == row; }))
-            mergeEqualTexts(row);
+            MergeEqualTexts(*this, row);
     }
     for (const QPoint cell : changed)
         showSelected(cell.y(), cell.x());
     repaintCells(changed);
     moveCurrent(m_model->index(m_row, m_column));
+    m_speaker.TellCurrent();
 }
 
 void MSFlexGrid::repaintCells(const std::vector<QPoint>& cells) {
@@ -248,38 +296,6 @@ void MSFlexGrid::showSelected(int row, int column) {
     if (selected != selectionModel()->isSelected(index))
         selectionModel()->select(index, selected ? QItemSelectionModel::Select
                                                  : QItemSelectionModel::Deselect);
-}
-
-// The number of cells from `column` on that show the same text; blank cells
-// stand alone.
-int MSFlexGrid::equalTexts(int row, int column) const {
-    const QString text = TextMatrix(row, column);
-    int end = column + 1;
-    while (!text.isEmpty() && end < Cols() && TextMatrix(row, end) == text)
-        ++end;
-    return end - column;
-}
-
-bool MSFlexGrid::isMerged(int row) const {
-    int column = 0;
-    while (column < Cols() && columnSpan(row, column) == equalTexts(row, column))
-        column += equalTexts(row, column);
-    return column == Cols();
-}
-
-void MSFlexGrid::mergeEqualTexts(int row) {
-    if (isMerged(row))
-        return;
-    for (int column = 0, span = 1; column < Cols(); column += span) {
-        span = columnSpan(row, column);
-        if (span > 1)
-            setSpan(row, column, 1, 1);
-    }
-    for (int column = 0, span = 1; column < Cols(); column += span) {
-        span = equalTexts(row, column);
-        if (span > 1)
-            setSpan(row, column, 1, span);
-    }
 }
 
 void MSFlexGrid::moveCurrent(const QModelIndex& index) {

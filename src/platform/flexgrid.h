@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/gridmodel.h"
+#include "platform/gridspeaker.h"
 
 #include <QRect>
 #include <QTableView>
@@ -18,7 +19,9 @@ class GridPainter;
 ///
 /// A press of a mouse button on a cell makes it current and then raises
 /// MouseDown; a press beside the cells raises nothing. The arrow keys move the
-/// current cell, Return and Space on it do what a left press does.
+/// current cell, Return and Space on it do what a left press does, with Ctrl what a
+/// double click does. When the focus
+/// comes to the grid, the selected cell becomes current.
 class MSFlexGrid : public QTableView {
     Q_OBJECT
 
@@ -59,7 +62,26 @@ public:
     void SetMergeRow(int row);
 
     void SetRedraw(bool on);
-    void Refresh();
+
+    /// Redraw off for as long as it lives, and then as it was before.
+    class DrawingOff {
+    public:
+        explicit DrawingOff(MSFlexGrid& grid) : m_grid(grid), m_former(grid.m_redraw) {
+            m_grid.SetRedraw(false);
+        }
+        ~DrawingOff() { m_grid.SetRedraw(m_former); }
+        DrawingOff(const DrawingOff&) = delete;
+        DrawingOff& operator=(const DrawingOff&) = delete;
+
+    private:
+        MSFlexGrid& m_grid;
+        bool m_former;
+    };
+
+    bool Contains(GridPlace cell) const { return m_model->Contains(cell.row, cell.column); }
+
+    /// Makes a cell current and shows it as that.
+    void MoveTo(GridPlace cell);
 
     /// A cell with this background is told to assistive tools as selected.
     void SetSelectedColor(int color);
@@ -68,6 +90,9 @@ public:
     void SetFontPixelSize(int pixels);
 
     void SetAccessibleText(std::function<QString(int row, int column)> text);
+
+    /// Gives the grid the focus, makes a cell current and presses it as Return does.
+    void PressCell(int row, int column);
 
     /// Cells painted since the grid was made.
     int PaintedCells() const;
@@ -82,7 +107,12 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void initStyleOption(QStyleOptionFrame* option) const override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+    void selectionChanged(const QItemSelection& selected,
+                          const QItemSelection& deselected) override;
     void scrollTo(const QModelIndex& index, ScrollHint hint) override;
 
 private:
@@ -91,13 +121,11 @@ private:
     void announceChanges();
     void repaintCells(const std::vector<QPoint>& cells);
     void showSelected(int row, int column);
-    int equalTexts(int row, int column) const;
-    bool isMerged(int row) const;
-    void mergeEqualTexts(int row);
     void moveCurrent(const QModelIndex& index);
 
     GridModel* m_model;
     GridPainter* m_painter;
+    GridSpeaker m_speaker{*this};
     int m_row = 0;
     int m_column = 0;
     int m_selectedColor = -1;

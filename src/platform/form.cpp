@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "platform/form.h"
 
-#include "platform/pictures.h"
 #include "platform/twips.h"
 
 #include <QCloseEvent>
 
 Form::Form(const QString& name) {
     setObjectName(name);
-    setWindowIcon(Picture(QStringLiteral("icon")));
+    setWindowRole(name); // by which a restored session tells the windows apart
     // Panes and columns keep their places whatever script the texts are in.
     setLayoutDirection(Qt::LeftToRight);
 }

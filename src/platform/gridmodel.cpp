@@ -20,8 +20,8 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
     const GridCell& cell = Cell(index.row(), index.column());
     if (role == Qt::DisplayRole)
         return cell.text;
-    if (role == Qt::AccessibleTextRole && accessibleText)
-        return accessibleText(index.row(), index.column());
+    if (role == Qt::AccessibleTextRole)
+        return accessibleText ? accessibleText(index.row(), index.column()) : cell.text;
     return {};
 }
 

@@ -5,6 +5,13 @@
 #include <functional>
 #include <vector>
 
+/// Where a cell stands in a grid, counted from 0.
+struct GridPlace {
+    int row;
+    int column;
+    bool operator==(const GridPlace& other) const = default;
+};
+
 /// What a grid cell shows, centred. Colours are 0x00BBGGRR numbers.
 struct GridCell {
     QString text;
@@ -40,7 +47,7 @@ public:
     /// Cells of this rectangle have changed.
     void Announce(int top, int left, int bottom, int right);
 
-    /// What an assistive tool says of a cell.
+    /// What an assistive tool says of a cell; its text where there is none.
     std::function<QString(int row, int column)> accessibleText;
 
 private:

@@ -13,6 +13,8 @@ namespace {
 // Enough for the numbers and titles of a grid; a change of language starts anew.
 constexpr std::size_t mostTexts = 500;
 
+constexpr double fadedOpacity = 0.5;
+
 bool isSingleDigit(const QString& text) {
     return text.size() == 1 && text.front().isDigit();
 }
@@ -33,11 +35,13 @@ void GridPainter::paint(QPainter* painter, const QStyleOptionViewItem& option,
     ++m_paintedCells;
     const GridCell& cell = m_model->Cell(index.row(), index.column());
     painter->fillRect(option.rect, ToColor(cell.back));
-    if (!cell.text.isEmpty())
+    if (!cell.text.isEmpty()) {
+        painter->setOpacity(option.state.testFlag(QStyle::State_Enabled) ? 1 : fadedOpacity);
         paintText(painter, cell, option.rect);
-    const bool current = option.state.testFlag(QStyle::State_HasFocus);
-    if (m_outlining && current && cell.back != m_markColor) {
-        painter->setPen(QPen(ToColor(cell.fore), 1, Qt::DotLine));
+        painter->setOpacity(1);
+    }
+    if (option.state.testFlag(QStyle::State_HasFocus)) {
+        painter->setPen(ToColor(cell.fore));
         painter->drawRect(option.rect.adjusted(0, 0, -1, -1));
     }
 }

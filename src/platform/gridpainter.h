@@ -9,8 +9,9 @@
 #include <unordered_map>
 
 /// Paints a grid cell: its ground, its text, and nothing of the desktop's theme.
-/// A text too wide for its cell is shown in a smaller font. While the user moves
-/// by keys, the current cell is outlined, unless it has the mark's colour.
+/// A text too wide for its cell is shown in a smaller font. The current cell of
+/// the grid that has the focus is outlined in the colour of its text; the texts of
+/// a disabled grid are faded to half.
 class GridPainter : public QAbstractItemDelegate {
     Q_OBJECT
 
@@ -18,8 +19,6 @@ public:
     GridPainter(const GridModel* model, QObject* parent);
 
     void SetFonts(const QFont& plain);
-    void SetMarkColor(int color) { m_markColor = color; }
-    void SetOutlining(bool on) { m_outlining = on; }
     int PaintedCells() const { return m_paintedCells; }
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
@@ -38,8 +37,6 @@ private:
 
     const GridModel* m_model;
     QFont m_fonts[2]; // plain, bold
-    int m_markColor = -1;
-    bool m_outlining = false;
     mutable std::unordered_map<QString, LaidOutText> m_texts;
     mutable int m_paintedCells = 0;
 };

@@ -3,8 +3,8 @@
 
 #include <QString>
 
-/// A message box with the exclamation icon and the product's title; returns when
-/// the user has closed it. The text is shown as it stands.
+/// A message box with the exclamation icon and the product's title, wide enough
+/// for the title to be read; returns when the user has closed it. The text is shown as it stands.
 void MsgBox(const QString& text);
 
 /// Two texts with an empty line between them.

@@ -95,10 +95,6 @@ double Fix(double value) {
     return std::trunc(value);
 }
 
-double Int(double value) {
-    return std::floor(value);
-}
-
 std::optional<int> CInt(double value) {
     return roundedTo<std::int16_t>(value);
 }
@@ -126,7 +122,7 @@ QString Str(int value) {
 }
 
 bool IsWholeNumber(const QString& text) {
-    static const QRegularExpression whole(QStringLiteral(R"(^ *[+-]?[0-9]+ *\z)"));
+    static const QRegularExpression whole(QStringLiteral(R"(^\s*[+-]?[0-9]+\s*\z)"));
     return whole.match(text).hasMatch();
 }
 

@@ -7,9 +7,8 @@
 // Numbers and their texts by the classic rules: every conversion of a real number
 // to a whole one rounds to the nearest, ties to even.
 
-/// Fix: truncation toward zero. Int: the floor.
+/// Truncation toward zero.
 double Fix(double value);
-double Int(double value);
 
 /// To 16 and to 32 bits; nothing when the rounded value does not fit.
 std::optional<int> CInt(double value);
@@ -30,7 +29,7 @@ double Val(const QString& text);
 QString Str(int value);
 
 /// Whether the text is a whole number in decimal digits, with or without a sign
-/// in front and blanks around.
+/// in front and blanks or line ends around.
 bool IsWholeNumber(const QString& text);
 
 /// The pattern "0.0": one decimal, rounded half away from zero on the value's

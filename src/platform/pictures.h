@@ -4,5 +4,7 @@
 #include <QIcon>
 
 /// A picture of assets/ by its path there without the ending: "buttons/today".
-/// Vector drawings, sharp at every size.
+/// Vector drawings, drawn anew for every size and device pixel ratio, and in
+/// the style's way for disabled controls. One that cannot be drawn is empty; a
+/// message names it, once as long as an icon of it is kept.
 QIcon Picture(const QString& name);

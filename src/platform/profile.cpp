@@ -5,6 +5,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QStringDecoder>
 #include <optional>
 
 namespace {
@@ -13,28 +14,29 @@ bool isBlank(char c) {
     return c == ' ' || c == '\t' || c == '\r';
 }
 
-QByteArray withoutBlanks(QByteArray text) {
-    while (!text.isEmpty() && isBlank(text.front()))
-        text.remove(0, 1);
-    while (!text.isEmpty() && isBlank(text.back()))
+QByteArrayView withoutBlanks(QByteArrayView text) {
+    while (!text.empty() && isBlank(text.front()))
+        text = text.sliced(1);
+    while (!text.empty() && isBlank(text.back()))
         text.chop(1);
     return text;
 }
 
-bool sameName(const QByteArray& a, const QByteArray& b) {
-    return a.compare(b, Qt::CaseInsensitive) == 0;
+// The form in which names are compared.
+QByteArray nameOf(QByteArrayView text) {
+    return withoutBlanks(text).toByteArray().toLower();
 }
 
 // The name in a header line, nothing when the line is none.
-std::optional<QByteArray> sectionName(const QByteArray& line) {
-    const QByteArray text = withoutBlanks(line);
+std::optional<QByteArray> sectionName(QByteArrayView line) {
+    const QByteArrayView text = withoutBlanks(line);
     const auto end = text.indexOf(']');
     if (!text.startsWith('[') || end < 0)
         return std::nullopt;
-    return withoutBlanks(text.mid(1, end - 1));
+    return nameOf(text.sliced(1, end - 1));
 }
 
-bool isQuoted(const QByteArray& value) {
+bool isQuoted(QByteArrayView value) {
     const bool quote = value.startsWith('"') || value.startsWith('\'');
     return value.size() >= 2 && quote && value.front() == value.back();
 }
@@ -49,62 +51,28 @@ QByteArray cutTo(const QByteArray& value, qsizetype size, bool utf8) {
 }
 
 // What stands after "=", up to a NUL and without the line's end.
-QByteArray rawValue(const QByteArray& line, qsizetype equals) {
-    QByteArray value = line.mid(equals + 1);
-    if (const auto end = value.indexOf('\0'); end >= 0)
-        value.truncate(end);
-    if (value.endsWith('\r'))
-        value.chop(1);
-    return value;
+QByteArrayView rawValue(QByteArrayView text) {
+    if (const auto end = text.indexOf('\0'); end >= 0)
+        text.truncate(end);
+    if (text.endsWith('\r'))
+        text.chop(1);
+    return text;
 }
 
-QByteArray valueOf(const QByteArray& raw) {
-    const QByteArray value = withoutBlanks(raw);
-    if (value.isEmpty())
-        return raw.isEmpty() ? QByteArray() : QByteArray(" ");
-    return isQuoted(value) ? value.mid(1, value.size() - 2) : value;
+QByteArray valueOf(QByteArrayView raw) {
+    const QByteArrayView value = withoutBlanks(raw);
+    if (value.empty())
+        return raw.empty() ? QByteArray() : QByteArray(" ");
+    return (isQuoted(value) ? value.sliced(1, value.size() - 2) : value).toByteArray();
 }
 
-/// Goes through the lines of a file.
-class Lines {
-public:
-    explicit Lines(const QByteArray& bytes) : m_bytes(bytes) {}
-
-    std::optional<QByteArray> next() {
-        if (m_at >= m_bytes.size())
-            return std::nullopt;
-        const auto newline = m_bytes.indexOf('\n', m_at);
-        const auto end = newline < 0 ? m_bytes.size() : newline;
-        const QByteArray line = m_bytes.mid(m_at, end - m_at);
-        m_at = end + 1;
-        return line;
-    }
-
-private:
-    const QByteArray& m_bytes;
-    qsizetype m_at = 0;
-};
-
-bool findSection(Lines& lines, const QByteArray& section) {
-    while (const auto line = lines.next()) {
-        const auto name = sectionName(*line);
-        if (name && sameName(*name, section))
-            return true;
-    }
-    return false;
-}
-
-// The raw value of a key in the section at hand.
-QByteArray findValue(Lines& lines, const QByteArray& key) {
-    while (const auto line = lines.next()) {
-        if (sectionName(*line))
-            break;
-        const auto equals = line->indexOf('=');
-        const bool comment = withoutBlanks(*line).startsWith(';');
-        if (!comment && equals >= 0 && sameName(withoutBlanks(line->left(equals)), key))
-            return rawValue(*line, equals);
-    }
-    return {};
+// A file that says by its mark that it is in UTF-16 or UTF-32 becomes UTF-8; the
+// mark of UTF-8 is taken off.
+QByteArray withoutMark(const QByteArray& bytes) {
+    const auto encoding = QStringConverter::encodingForData(bytes);
+    if (encoding == QStringConverter::Utf8)
+        return bytes.mid(3);
+    return encoding ? QString(QStringDecoder(*encoding).decode(bytes)).toUtf8() : bytes;
 }
 
 } // namespace
@@ -127,18 +95,39 @@ ProfileFile ProfileFile::FromBytes(const QByteArray& bytes) {
 }
 
 void ProfileFile::take(const QByteArray& bytes) {
-    const QByteArray utf8Mark("\xEF\xBB\xBF");
+    const QByteArray text = withoutMark(bytes);
     m_status = Status::Read;
-    m_isUtf8 = IsUtf8(bytes);
-    m_bytes = bytes.startsWith(utf8Mark) ? bytes.mid(utf8Mark.size()) : bytes;
+    m_isUtf8 = IsUtf8(text);
+    Section* section = nullptr;
+    for (QByteArrayView rest(text); !rest.empty();) {
+        const auto newline = rest.indexOf('\n');
+        const auto end = newline < 0 ? rest.size() : newline;
+        takeLine(rest.first(end), section);
+        rest = rest.sliced(std::min(end + 1, rest.size()));
+    }
+}
+
+// `section` is the one at hand, nullptr where entries do not count.
+void ProfileFile::takeLine(QByteArrayView line, Section*& section) {
+    if (const auto name = sectionName(line)) {
+        const auto [place, isFirst] = m_sections.try_emplace(*name);
+        section = isFirst ? &place->second : nullptr;
+        return;
+    }
+    const auto equals = line.indexOf('=');
+    const bool comment = withoutBlanks(line).startsWith(';');
+    if (section != nullptr && !comment && equals >= 0)
+        section->try_emplace(nameOf(line.first(equals)),
+                             valueOf(rawValue(line.sliced(equals + 1))));
 }
 
 QByteArray ProfileFile::GetPrivateProfileString(const QByteArray& section, const QByteArray& key,
                                                 int size) const {
-    Lines lines(m_bytes);
-    if (!findSection(lines, withoutBlanks(section)))
+    const auto entries = m_sections.find(nameOf(section));
+    if (entries == m_sections.end())
         return {};
-    return cutTo(valueOf(findValue(lines, withoutBlanks(key))), size - 1, m_isUtf8);
+    const auto entry = entries->second.find(nameOf(key));
+    return entry == entries->second.end() ? QByteArray() : cutTo(entry->second, size - 1, m_isUtf8);
 }
 
 QString ProfileFile::Decode(const QByteArray& bytes) const {

@@ -3,9 +3,10 @@
 
 #include <QByteArray>
 #include <QString>
+#include <map>
 
-/// A text file in initialisation-file form, sections of key=value lines, read as
-/// bytes. Section and key names are matched without regard to the case of Latin
+/// A text file in initialisation-file form, sections of key=value lines, read once
+/// into a table of bytes. Section and key names are matched without regard to the case of Latin
 /// letters; blanks around them and around values are ignored. Of sections of one
 /// name only the first is searched, of equal keys the first is taken. Lines that
 /// begin with ";", lines without "=", header lines without "]" and what stands
@@ -29,7 +30,8 @@ public:
     QByteArray GetPrivateProfileString(const QByteArray& section, const QByteArray& key,
                                        int size) const;
 
-    /// Bytes of this file as text: UTF-8 where the whole file is valid UTF-8,
+    /// Bytes of this file as text: UTF-8 where the whole file is valid UTF-8 or
+    /// begins with the mark of UTF-16, from which it is then brought to UTF-8;
     /// otherwise the 8-bit Windows code page of the user's language.
     QString Decode(const QByteArray& bytes) const;
 
@@ -38,9 +40,13 @@ public:
 
 private:
     ProfileFile() = default;
+
+    using Section = std::map<QByteArray, QByteArray>; // value by key
+
     void take(const QByteArray& bytes);
+    void takeLine(QByteArrayView line, Section*& section);
 
     Status m_status = Status::Unreadable;
     bool m_isUtf8 = false;
-    QByteArray m_bytes;
+    std::map<QByteArray, Section> m_sections;
 };

@@ -5,18 +5,18 @@
 #include <QFontMetrics>
 #include <QTextDocument>
 
-namespace {
-
-constexpr int smallestPixelSize = 7;
-
-} // namespace
-
 QString Caption(const std::string& text) {
     return Text(text).replace(u'&', QStringLiteral("&&"));
 }
 
 QString PlainTip(const QString& text) {
     return Qt::mightBeRichText(text) ? text.toHtmlEscaped() : text;
+}
+
+QString Isolated(const QString& name) {
+    constexpr QChar firstStrongIsolate(0x2068);
+    constexpr QChar popIsolate(0x2069);
+    return name.isRightToLeft() ? firstStrongIsolate + name + popIsolate : name;
 }
 
 QFont FittedFont(const QFont& font, const QString& text, int width) {

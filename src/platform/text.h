@@ -18,5 +18,12 @@ QString Caption(const std::string& text);
 /// text when it looks like it.
 QString PlainTip(const QString& text);
 
+/// A name for a line with numbers: isolated where it runs right to left, so that
+/// the numbers beside it neither join nor split it.
+QString Isolated(const QString& name);
+
+/// The least size that a font is made smaller to.
+inline constexpr int smallestPixelSize = 6;
+
 /// `font`, made smaller where `text` would not fit into `width` pixels.
 QFont FittedFont(const QFont& font, const QString& text, int width);

@@ -7,7 +7,7 @@ enum Calendar : int { Julian = 1, Gregorian = 2, Jewish = 3, Moslem = 4 };
 inline constexpr int calendarCount = 4;
 
 /// Whether c is one of the four calendar numbers; a stored number need not be.
-constexpr bool isCalendar(int c) {
+constexpr bool IsCalendar(int c) {
     return c >= Julian && c <= Moslem;
 }
 
@@ -20,10 +20,13 @@ enum YearLength : int { DaysInYear = 1, WeeksInYear = 2 };
 /// Fields of YearJD.
 enum YearBound : int { FirstDay = 1, LastDay = 2 };
 
-/// Rows of MonthDays: 1..13 hold the months' lengths; row weekdayRow + m holds
-/// the weekday of the first day of month m.
-inline constexpr int weekdayRow = 13;
+/// No year of any calendar has more months.
+inline constexpr int monthLimit = 13;
+
+/// Rows of MonthDays: 1..monthLimit hold the months' lengths; row weekdayRow + m
+/// holds the weekday of the first day of month m.
+inline constexpr int weekdayRow = monthLimit;
 
 /// Weekday numbers, 1..7 from Monday.
-enum Weekday : int { Monday = 1, Saturday = 6, Sunday = 7 };
+enum Weekday : int { Monday = 1, Tuesday, Wednesday, Thursday, Friday, Saturday, Sunday };
 inline constexpr int daysInWeek = 7;

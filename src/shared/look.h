@@ -19,6 +19,3 @@ inline const Table<int, 5> CalendarColors{0xFFFFFF, 0xFFFFC0, 0xC0FFFF, 0xC0FFC0
 
 /// Navy for ordinary text, brown for month titles, white for the chosen day.
 inline const Table<int, 3> TextColors{0x800000, 0x404080, 0xFFFFFF};
-
-/// Left edges of the four panes of the monthly window, in twips.
-inline const Table<int, 4> PaneLeft{300, 2640, 4980, 7320};

@@ -10,9 +10,12 @@
 // 16 bits, since that is how they are stored; their values are otherwise as the
 // store gave them and are checked where they are used.
 
-/// The calendar of panes 1..4 of the monthly window. Entry 1 may hold a number
+/// Panes of the monthly window; each calendar has one.
+inline constexpr int paneCount = calendarCount;
+
+/// The calendar of each pane of the monthly window. Entry 1 may hold a number
 /// that is no calendar: such a pane stands empty.
-inline Table<int, 4> CalendarOrder{Julian, Gregorian, Jewish, Moslem};
+inline Table<int, paneCount> CalendarOrder{Julian, Gregorian, Jewish, Moslem};
 
 /// The weekday that opens the week in each calendar, 1 Monday .. 7 Sunday; read
 /// it through Calc::WeekStart, which makes a weekday of any stored number.

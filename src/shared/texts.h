@@ -15,10 +15,11 @@ inline constexpr int monthlyCalendarsName = 5;
 /// MonthNames(c, m). Month 13 is Jewish only. The Jewish row is kept in the
 /// layout of the current Jewish year: in a leap year it reads Adar I, Adar II,
 /// Nisan .. Elul from month 6 on, in a common year month 13 is empty.
-inline Table<std::string, calendarCount, 13> MonthNames;
+inline Table<std::string, calendarCount, monthLimit> MonthNames;
 
-/// The plain name of Adar, to which a leap year appends " I" and " II".
+/// The plain name of Adar, and what a leap year appends to it in months 6 and 7.
 inline std::string AdarName;
+inline const Table<std::string, 2> AdarSuffixes{" I", " II"};
 
 inline Table<std::string, 7> WeekDayNames; ///< Monday first
 inline Table<std::string, 7> WeekDayAbbrs; ///< Monday first

@@ -7,17 +7,43 @@
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QScreen>
+#include <QScrollArea>
+#include <QVBoxLayout>
+
+Dialog::Dialog(const QString& name) : Form(name), m_commands(*this, 0, [this] { Unload(); }) {
+    setWindowFlags(Qt::Dialog);
+}
 
 void Dialog::Place() {
-    const QSize screen = QGuiApplication::primaryScreen()->size();
-    const double left = (ToTwips(screen.width()) - ToTwips(width())) / 2.0;
-    const double top = (ToTwips(screen.height()) - ToTwips(height())) / 3.0;
+    const QRect screen = QGuiApplication::primaryScreen()->geometry();
+    const double left = ToTwips(screen.x()) + (ToTwips(screen.width()) - ToTwips(width())) / 2.0;
+    const double top = ToTwips(screen.y()) + (ToTwips(screen.height()) - ToTwips(height())) / 3.0;
     Move(CLng(left).value_or(0), CLng(top).value_or(0));
+}
+
+int Dialog::Metric(QStyle::PixelMetric which) const {
+    return style()->pixelMetric(which, nullptr, this);
+}
+
+void Dialog::ScrollWhereTooHigh(QWidget* contents, QVBoxLayout& rows) {
+    const int screen = QGuiApplication::primaryScreen()->availableSize().height();
+    const QSize whole = contents->sizeHint();
+    const int others = sizeHint().height() - whole.height();
+    const int room = screen - others - 2 * Metric(QStyle::PM_TitleBarHeight);
+    if (whole.height() <= room)
+        return;
+    auto* area = new QScrollArea(this);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setFixedSize(whole.width() + Metric(QStyle::PM_ScrollBarExtent), room);
+    delete rows.replaceWidget(contents, area);
+    area->setWidget(contents);
 }
 
 void Dialog::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape)
         Unload();
+    else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        Accept();
     else
         Form::keyPressEvent(event);
 }

@@ -1,20 +1,38 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "controls/commands.h"
 #include "platform/form.h"
 
-/// A small window over the others: the options and the about box. Modeless; Esc
-/// closes it.
+#include <QStyle>
+
+class QVBoxLayout;
+
+/// A small window over the others: the options and the about box. Modeless;
+/// Return accepts it, Esc closes it.
 class Dialog : public Form {
     Q_OBJECT
 
 public:
-    using Form::Form;
+    explicit Dialog(const QString& name);
 
 protected:
-    /// Puts the dialog in the middle of the primary screen's width and at a third
+    /// Puts the dialog in the middle of the primary monitor's width and at a third
     /// of the height that it leaves free.
     void Place();
 
+    /// A measure of the style in use, in pixels.
+    int Metric(QStyle::PixelMetric which) const;
+
+    /// Gives `contents`, one of the dialog's `rows`, a scroll bar where the dialog
+    /// would be higher than the screen, so that the other rows stay in sight.
+    void ScrollWhereTooHigh(QWidget* contents, QVBoxLayout& rows);
+
+    /// What Return does where the control with the focus has no use for it.
+    virtual void Accept() = 0;
+
     void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    Commands m_commands;
 };

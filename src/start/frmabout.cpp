@@ -3,24 +3,23 @@
 
 #include "platform/color.h"
 #include "platform/image.h"
+#include "platform/line.h"
 #include "platform/message.h"
 #include "platform/text.h"
-#include "platform/twips.h"
 #include "shared/look.h"
 #include "shared/settings.h"
 #include "shared/texts.h"
 
-#include <QFrame>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
+#include <algorithm>
 
 namespace {
 
-// In pixels.
-constexpr int boxWidth = 430;
-constexpr int margin = 20;
-constexpr int pictureSide = 64;
-constexpr int gap = 10;
+constexpr int charactersOfLine = 66; // of the description
+constexpr int linesOfPicture = 4;    // its height
 
 /// The box's own texts; they are not among the translated ones.
 struct AboutTexts {
@@ -66,7 +65,9 @@ frmAbout::frmAbout() : Dialog(QStringLiteral("frmAbout")) {
 
 void frmAbout::BecomeSplash(int backColor) {
     const int lineY = m_line1->y();
+    setWindowFlags(Qt::SplashScreen | Qt::FramelessWindowHint);
     SetCaption(QString());
+    setAccessibleName(m_label1(1)->text()); // in the place of the caption
     setFixedHeight(lineY + (height() - lineY) / 4);
     m_line1->hide();
     m_cmdOK->hide();
@@ -85,8 +86,7 @@ void frmAbout::Form_Load() {
 }
 
 void frmAbout::createControls() {
-    auto* picture = new Image(QStringLiteral("Image1"), QStringLiteral("icon"), this);
-    picture->setGeometry(margin, margin, pictureSide, pictureSide);
+    m_image1 = new Image(QStringLiteral("Image1"), QStringLiteral("icon"), this);
     for (int index = 1; index <= 3; ++index) {
         auto* label = new QLabel(this);
         label->setObjectName(QStringLiteral("Label1_%1").arg(index));
@@ -98,9 +98,7 @@ void frmAbout::createControls() {
     large.setPointSizeF(large.pointSizeF() * 1.7);
     large.setBold(true);
     m_label1(1)->setFont(large);
-    m_line1 = new QFrame(this);
-    m_line1->setObjectName(QStringLiteral("Line1"));
-    m_line1->setFrameStyle(QFrame::HLine | QFrame::Sunken);
+    m_line1 = new Line(QStringLiteral("Line1"), this);
     m_cmdOK = new QPushButton(QStringLiteral("OK"), this);
     m_cmdOK->setObjectName(QStringLiteral("cmdOK"));
     m_cmdOK->setDefault(true);
@@ -116,19 +114,27 @@ void frmAbout::setTexts() {
     m_label1(3)->setText(description(texts));
 }
 
+// By hand, since the splash is cut where the line stands.
 void frmAbout::placeControls() {
-    const int textLeft = margin + pictureSide + margin;
-    const auto place = [](QLabel* label, int left, int top, int width) {
-        label->setGeometry(left, top, width, label->heightForWidth(width));
+    const int margin = Metric(QStyle::PM_LayoutLeftMargin);
+    const int gap = Metric(QStyle::PM_LayoutVerticalSpacing);
+    const int screenWidth = QGuiApplication::primaryScreen()->availableSize().width();
+    const int width =
+        std::min(charactersOfLine * fontMetrics().averageCharWidth() + 2 * margin, screenWidth);
+    const int side = linesOfPicture * fontMetrics().height();
+    const int textLeft = 2 * margin + side;
+    const auto place = [](QLabel* label, int left, int top, int right) {
+        const int labelWidth = right - left;
+        label->setGeometry(left, top, labelWidth, label->heightForWidth(labelWidth));
         return top + label->height();
     };
-    int y = place(m_label1(1), textLeft, margin, boxWidth - textLeft - margin);
-    y = place(m_label1(2), textLeft, y + gap, boxWidth - textLeft - margin);
-    y = std::max(y, margin + pictureSide) + gap;
-    y = place(m_label1(3), margin, y, boxWidth - 2 * margin) + gap;
-    m_line1->setGeometry(margin, y, boxWidth - 2 * margin, 2);
+    m_image1->setGeometry(margin, margin, side, side);
+    int y = place(m_label1(1), textLeft, margin, width - margin);
+    y = place(m_label1(2), textLeft, y + gap, width - margin);
+    y = std::max(y, margin + side) + margin;
+    y = place(m_label1(3), margin, y, width - margin) + margin;
+    m_line1->setGeometry(margin, y, width - 2 * margin, 2);
     const QSize button = m_cmdOK->sizeHint();
-    m_cmdOK->setGeometry((boxWidth - button.width()) / 2, y + gap + 2, button.width(),
-                         button.height());
-    setFixedSize(boxWidth, m_cmdOK->geometry().bottom() + margin);
+    m_cmdOK->setGeometry((width - button.width()) / 2, y + margin, button.width(), button.height());
+    setFixedSize(width, m_cmdOK->geometry().bottom() + 1 + margin);
 }

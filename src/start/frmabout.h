@@ -4,8 +4,8 @@
 #include "shared/table.h"
 #include "start/dialog.h"
 
-class CommandButton;
-class QFrame;
+class Image;
+class Line;
 class QLabel;
 class QPushButton;
 
@@ -17,9 +17,13 @@ class frmAbout : public Dialog {
 public:
     frmAbout();
 
-    /// Before the first showing: cuts the box below its line, takes line and
-    /// button away and puts it on a background (0x00BBGGRR).
+    /// Before the first showing: makes it a splash window of the desktop, cuts it
+    /// below its line, takes line and button away and puts it on a background
+    /// (0x00BBGGRR).
     void BecomeSplash(int backColor);
+
+protected:
+    void Accept() override { Unload(); }
 
 private:
     void Form_Load();
@@ -27,7 +31,8 @@ private:
     void setTexts();
     void placeControls();
 
+    Image* m_image1;
     Table<QLabel*, 3> m_label1; ///< title, version, description
-    QFrame* m_line1;
+    Line* m_line1;
     QPushButton* m_cmdOK;
 };

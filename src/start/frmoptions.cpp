@@ -2,52 +2,42 @@
 #include "start/frmoptions.h"
 
 #include "calc/calc.h"
-#include "changecals/controltexts.h"
 #include "changecals/opening.h"
-#include "changecals/saving.h"
 #include "changecals/windows.h"
+#include "controls/controltexts.h"
 #include "platform/combobox.h"
 #include "platform/commandbutton.h"
 #include "platform/message.h"
 #include "platform/pointer.h"
-#include "platform/settingsstore.h"
 #include "platform/text.h"
+#include "settings/storedsettings.h"
 #include "shared/settings.h"
 #include "shared/texts.h"
+#include "start/dialogframe.h"
 #include "start/language.h"
 #include "start/rebuilding.h"
-#include "yearcals/yearcals.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
-#include <QGroupBox>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QRadioButton>
+#include <QScreen>
 #include <QVBoxLayout>
+#include <algorithm>
 
 namespace {
 
-constexpr int textWidth = 430; // pixels, at which the longest label wraps
-
-QString frameCaption(int label) {
-    return Caption(LabelTexts(label));
-}
+constexpr int greatestWidth = 640; // pixels
+constexpr int charactersOfLine = 70;
 
 // The era and the leap years of a variant, the latter alone where the language
 // has no text for the era.
 QString variantCaption(int era, int leapYears) {
-    const std::string& text = LabelTexts(era);
-    return text.empty() ? Caption(LabelTexts(leapYears))
-                        : Caption(text) + LineBreak() + Caption(LabelTexts(leapYears));
-}
-
-void saveNumber(const QString& section, const QString& key, int value) {
-    SaveSetting(section, key, QString::number(value));
-}
-
-QString startup() {
-    return QStringLiteral("Startup");
+    const QString text = Text(LabelTexts(era));
+    return text.isEmpty() ? Text(LabelTexts(leapYears))
+                          : text + u'\n' + Text(LabelTexts(leapYears));
 }
 
 } // namespace
@@ -68,32 +58,15 @@ void frmOptions::Form_Load() {
     setLayoutDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
 
     // Created in the order in which Tab goes through them.
-    QGroupBox* moslem = moslemFrame();
-    QGroupBox* weekdays = weekdaysFrame();
-    QGroupBox* language = languageFrame();
-    QGroupBox* startupWindow = startupFrame();
-    m_check1 = new QCheckBox(Caption(LabelTexts(ShowTipsLabel)), this);
-    m_check1->setObjectName(QStringLiteral("Check1"));
-    m_check1->setChecked(ShowTips != 0);
-
-    auto* columns = new QHBoxLayout;
-    auto* right = new QVBoxLayout;
-    columns->addWidget(weekdays);
-    columns->addLayout(right, 1);
-    right->addWidget(language);
-    right->addWidget(startupWindow);
-
-    auto* commands = new QHBoxLayout;
-    commands->addWidget(m_check1);
-    commands->addStretch();
-    commands->addWidget(newCommand(Apply, QStringLiteral("buttons/apply"), ApplyText));
-    commands->addWidget(newCommand(Close, QStringLiteral("buttons/close"), CloseText));
-
+    measure();
+    auto* frames = new QWidget(this);
+    placeFrames(frames);
+    QHBoxLayout* commands = commandRow();
     auto* rows = new QVBoxLayout(this);
     rows->setSizeConstraint(QLayout::SetFixedSize);
-    rows->addWidget(moslem);
-    rows->addLayout(columns);
+    rows->addWidget(frames);
     rows->addLayout(commands);
+    ScrollWhereTooHigh(frames, *rows);
     adjustSize();
     Place();
 }
@@ -114,80 +87,124 @@ void frmOptions::Combo1_Click(int pane) {
     m_firstWeekDay(m_paneCalendar(pane)) = m_combo1(pane)->ListIndex() + 1;
 }
 
-QGroupBox* frmOptions::moslemFrame() {
-    auto* frame = new QGroupBox(frameCaption(MoslemCalendarLabel), this);
-    auto* rows = new QVBoxLayout(frame);
-    auto* explanation = new QLabel(Text(LabelTexts(MoslemTypesLabel)));
-    explanation->setTextFormat(Qt::PlainText);
-    explanation->setWordWrap(true);
-    explanation->setMinimumWidth(textWidth);
-    rows->addWidget(explanation);
+// Lines are as long as the font asks for and the greatest width allows.
+void frmOptions::measure() {
+    const int screen = QGuiApplication::primaryScreen()->availableSize().width();
+    const int margins = 5 * Metric(QStyle::PM_LayoutLeftMargin);
+    const int scrollBar = Metric(QStyle::PM_ScrollBarExtent);
+    m_textWidth = std::min(charactersOfLine * fontMetrics().averageCharWidth(),
+                           std::min(greatestWidth, screen) - margins - scrollBar);
+    m_columnWidth = m_textWidth / 2 - Metric(QStyle::PM_LayoutLeftMargin);
+}
+
+// Two columns below the first frame; where they are too wide they stand one
+// below the other.
+void frmOptions::placeFrames(QWidget* frames) {
+    auto* rows = new QVBoxLayout(frames);
+    rows->setContentsMargins({});
+    rows->addWidget(moslemFrame(frames));
+    auto* columns = new QHBoxLayout;
+    rows->addLayout(columns);
+    columns->addWidget(weekdaysFrame(frames));
+    auto* right = new QVBoxLayout;
+    columns->addLayout(right, 1);
+    right->addWidget(languageFrame(frames));
+    right->addWidget(startupFrame(frames));
+    if (columns->minimumSize().width() > m_textWidth + 3 * Metric(QStyle::PM_LayoutLeftMargin))
+        columns->setDirection(QBoxLayout::TopToBottom);
+}
+
+DialogFrame* frmOptions::moslemFrame(QWidget* parent) {
+    auto* frame = new DialogFrame(Text(LabelTexts(MoslemCalendarLabel)), m_textWidth, parent);
+    frame->Rows()->addWidget(
+        NewDialogLabel(Text(LabelTexts(MoslemTypesLabel)), m_textWidth, frame));
+    const int captionWidth = m_textWidth - Metric(QStyle::PM_ExclusiveIndicatorWidth) -
+                             Metric(QStyle::PM_RadioButtonLabelSpacing);
     const Table<QString, 2> captions{variantCaption(MoslemEra1Label, MoslemLeapYears1Label),
                                      variantCaption(MoslemEra2Label, MoslemLeapYears2Label)};
     for (int type = 1; type <= 2; ++type) {
-        auto* option = new QRadioButton(captions(type));
+        auto* option = new QRadioButton(WrappedCaption(captions(type), font(), captionWidth));
         option->setObjectName(QStringLiteral("Option1_%1").arg(type));
         option->setChecked((MoslemType == 1) == (type == 1));
         connect(option, &QRadioButton::clicked, this, [this, type] { Option1_Click(type); });
-        rows->addWidget(option);
+        frame->Rows()->addWidget(option);
     }
     return frame;
 }
 
-QGroupBox* frmOptions::weekdaysFrame() {
-    auto* frame = new QGroupBox(frameCaption(FirstWeekDayLabel), this);
-    auto* grid = new QGridLayout(frame);
-    for (int pane = 1; pane <= 4; ++pane) {
+DialogFrame* frmOptions::weekdaysFrame(QWidget* parent) {
+    auto* frame = new DialogFrame(Text(LabelTexts(FirstWeekDayLabel)), m_columnWidth, parent);
+    auto* grid = new QGridLayout;
+    frame->Rows()->addLayout(grid);
+    for (int pane = 1; pane <= paneCount; ++pane) {
         const int c = m_paneCalendar(pane);
-        auto* label = new QLabel;
-        label->setTextFormat(Qt::PlainText);
-        auto* list = new ComboBox(QStringLiteral("Combo1_%1").arg(pane), frame);
-        list->setMinimumContentsLength(4);
-        m_combo1(pane) = list;
-        if (isCalendar(c)) {
-            label->setText(Text(CalendarNames(c)));
-            for (int weekday = Monday; weekday <= Sunday; ++weekday)
-                list->AddItem(Text(WeekDayAbbrs(weekday)));
-            list->SetListIndex(Calc::WeekStart(c) - 1);
-        }
-        list->setEnabled(isCalendar(c));
-        list->setAccessibleName(label->text());
-        connect(list, &ComboBox::Click, this, [this, pane] { Combo1_Click(pane); });
-        grid->addWidget(label, pane - 1, 0);
-        grid->addWidget(list, pane - 1, 1);
+        const QString name = IsCalendar(c) ? Text(CalendarNames(c)) : QString();
+        m_combo1(pane) = newWeekdayList(pane, frame);
+        m_combo1(pane)->setAccessibleName(name);
+        grid->addWidget(NewDialogLabel(name, m_columnWidth * 2 / 3, frame), pane - 1, 0);
+        grid->addWidget(m_combo1(pane), pane - 1, 1);
     }
     return frame;
 }
 
-QGroupBox* frmOptions::languageFrame() {
-    auto* frame = new QGroupBox(frameCaption(LanguageLabel), this);
-    auto* rows = new QVBoxLayout(frame);
-    m_combo2 = new ComboBox(QStringLiteral("Combo2"), frame);
-    m_combo2->setMinimumContentsLength(18);
-    m_combo2->setAccessibleName(Text(LabelTexts(LanguageLabel)));
+ComboBox* frmOptions::newWeekdayList(int pane, QWidget* parent) {
+    auto* list = new ComboBox(QStringLiteral("Combo1_%1").arg(pane), parent);
+    list->setMinimumContentsLength(4);
+    const int c = m_paneCalendar(pane);
+    list->setEnabled(IsCalendar(c));
+    if (IsCalendar(c)) {
+        for (int weekday = Monday; weekday <= Sunday; ++weekday)
+            list->AddItem(Text(WeekDayAbbrs(weekday)));
+        list->SetListIndex(Calc::WeekStart(c) - 1);
+    }
+    connect(list, &ComboBox::Click, this, [this, pane] { Combo1_Click(pane); });
+    return list;
+}
+
+DialogFrame* frmOptions::languageFrame(QWidget* parent) {
+    auto* frame = new DialogFrame(Text(LabelTexts(LanguageLabel)), m_columnWidth, parent);
+    m_combo2 = newWideList(QStringLiteral("Combo2"), LanguageLabel, frame);
     m_combo2->SetItems(LanguageList(), -1);
     selectLanguage();
-    rows->addWidget(m_combo2);
     return frame;
 }
 
-QGroupBox* frmOptions::startupFrame() {
-    auto* frame = new QGroupBox(frameCaption(StartupWindowLabel), this);
-    auto* rows = new QVBoxLayout(frame);
-    m_combo3 = new ComboBox(QStringLiteral("Combo3"), frame);
-    m_combo3->setMinimumContentsLength(18);
-    m_combo3->setAccessibleName(Text(LabelTexts(StartupWindowLabel)));
+DialogFrame* frmOptions::startupFrame(QWidget* parent) {
+    auto* frame = new DialogFrame(Text(LabelTexts(StartupWindowLabel)), m_columnWidth, parent);
+    m_combo3 = newWideList(QStringLiteral("Combo3"), StartupWindowLabel, frame);
     m_combo3->AddItem(Text(CalendarNames(monthlyCalendarsName)));
     for (int c = 1; c <= calendarCount; ++c)
         m_combo3->AddItem(Text(CalendarNames(c)));
     m_combo3->SetListIndex(StartupWindow);
-    rows->addWidget(m_combo3);
     return frame;
+}
+
+ComboBox* frmOptions::newWideList(const QString& name, int label, DialogFrame* frame) {
+    auto* list = new ComboBox(name, frame);
+    list->setMinimumContentsLength(18);
+    list->setAccessibleName(Text(LabelTexts(label)));
+    frame->Rows()->addWidget(list);
+    return list;
+}
+
+QHBoxLayout* frmOptions::commandRow() {
+    const int captionWidth = m_textWidth - Metric(QStyle::PM_IndicatorWidth) -
+                             Metric(QStyle::PM_CheckBoxLabelSpacing) - 2 * CommandButton::side;
+    m_check1 =
+        new QCheckBox(WrappedCaption(Text(LabelTexts(ShowTipsLabel)), font(), captionWidth), this);
+    m_check1->setObjectName(QStringLiteral("Check1"));
+    m_check1->setChecked(ShowTips != 0);
+    auto* commands = new QHBoxLayout;
+    commands->addWidget(m_check1);
+    commands->addStretch();
+    commands->addWidget(newCommand(Apply, QStringLiteral("buttons/apply"), ApplyText));
+    commands->addWidget(newCommand(Close, QStringLiteral("buttons/close"), CloseText));
+    return commands;
 }
 
 CommandButton* frmOptions::newCommand(int index, const QString& picture, int tip) {
     auto* button = new CommandButton(QStringLiteral("Command1_%1").arg(index), picture, this);
-    ChangeCals::SetTip(button, Text(StringTexts(tip)));
+    Controls::SetTip(button, Text(StringTexts(tip)));
     connect(button, &CommandButton::clicked, this, [this, index] { Command1_Click(index); });
     return button;
 }
@@ -196,8 +213,9 @@ CommandButton* frmOptions::newCommand(int index, const QString& picture, int tip
 // nothing is proposed in its place.
 void frmOptions::selectLanguage() {
     const QString name = Text(m_language);
-    const int exact = m_combo2->findText(name, Qt::MatchExactly | Qt::MatchCaseSensitive);
-    m_combo2->SetListIndex(exact >= 0 ? exact : m_combo2->findText(name, Qt::MatchFixedString));
+    const auto match = Qt::MatchExactly | Qt::MatchCaseSensitive;
+    const int exact = m_combo2->findText(name, match);
+    m_combo2->SetListIndex(exact >= 0 ? exact : m_combo2->findText(ListedName(name), match));
 }
 
 void frmOptions::apply() {
@@ -213,7 +231,7 @@ void frmOptions::apply() {
             StartupWindow = m_combo3->ListIndex();
         save();
         ChangeCals::UnloadAbout();
-        YearCals::ForgetShownYears();
+        ForgetFilledYears();
         if (m_language != LanguageName)
             applyNewLanguage();
         else
@@ -224,14 +242,11 @@ void frmOptions::apply() {
 
 // Stored before anything is applied, so that it is kept even if that fails.
 void frmOptions::save() const {
-    saveNumber(ChangeCals::SettingsSection(Moslem), QStringLiteral("Type"), m_moslemType);
-    for (int c = 1; c <= calendarCount; ++c)
-        saveNumber(ChangeCals::SettingsSection(c), QStringLiteral("FirstWeekDay"),
-                   m_firstWeekDay(c));
-    SaveSetting(startup(), QStringLiteral("Language"), Text(m_language));
-    saveNumber(startup(), QStringLiteral("Window"), StartupWindow);
-    saveNumber(startup(), QStringLiteral("ShowTips"), m_check1->isChecked() ? 1 : 0);
-    ChangeCals::FlushSettingsOrTell();
+    SaveOptions({.moslemType = m_moslemType,
+                 .firstWeekDay = m_firstWeekDay,
+                 .languageName = m_language,
+                 .startupWindow = StartupWindow,
+                 .showTips = m_check1->isChecked() ? 1 : 0});
 }
 
 // Also when the file turns out to be missing: the texts have then been read anew

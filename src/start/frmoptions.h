@@ -2,6 +2,7 @@
 #pragma once
 
 #include "shared/calendars.h"
+#include "shared/settings.h"
 #include "shared/table.h"
 #include "start/dialog.h"
 
@@ -9,11 +10,9 @@
 
 class ComboBox;
 class CommandButton;
+class DialogFrame;
 class QCheckBox;
-class QGroupBox;
-class QLabel;
-class QRadioButton;
-class QVBoxLayout;
+class QHBoxLayout;
 
 /// The options dialog. What is chosen in it takes effect with Apply.
 class frmOptions : public Dialog {
@@ -21,6 +20,9 @@ class frmOptions : public Dialog {
 
 public:
     frmOptions();
+
+protected:
+    void Accept() override { apply(); }
 
 private:
     /// Command1 by index.
@@ -31,10 +33,15 @@ private:
     void Option1_Click(int type);
     void Combo1_Click(int pane);
 
-    QGroupBox* moslemFrame();
-    QGroupBox* weekdaysFrame();
-    QGroupBox* languageFrame();
-    QGroupBox* startupFrame();
+    void measure();
+    void placeFrames(QWidget* frames);
+    DialogFrame* moslemFrame(QWidget* parent);
+    DialogFrame* weekdaysFrame(QWidget* parent);
+    ComboBox* newWeekdayList(int pane, QWidget* parent);
+    DialogFrame* languageFrame(QWidget* parent);
+    DialogFrame* startupFrame(QWidget* parent);
+    ComboBox* newWideList(const QString& name, int label, DialogFrame* frame);
+    QHBoxLayout* commandRow();
     CommandButton* newCommand(int index, const QString& picture, int tip);
     void selectLanguage();
 
@@ -48,13 +55,16 @@ private:
     Table<bool, calendarCount> applyFirstWeekDays() const;
     bool setShowTips() const;
 
+    int m_textWidth;   ///< of a line, in pixels
+    int m_columnWidth; ///< of a line in one of two columns
+
     int m_moslemType;                         ///< pending
     Table<int, calendarCount> m_firstWeekDay; ///< pending, by calendar
     std::string m_language;                   ///< pending
 
-    Table<ComboBox*, 4> m_combo1; ///< first weekdays, by pane
-    Table<int, 4> m_paneCalendar; ///< the calendar of each of them, as loaded
-    ComboBox* m_combo2;           ///< language
-    ComboBox* m_combo3;           ///< start-up window
+    Table<ComboBox*, paneCount> m_combo1; ///< first weekdays, by pane
+    Table<int, paneCount> m_paneCalendar; ///< the calendar of each of them, as loaded
+    ComboBox* m_combo2;                   ///< language
+    ComboBox* m_combo3;                   ///< start-up window
     QCheckBox* m_check1;
 };

@@ -6,11 +6,12 @@
 #include "platform/profile.h"
 #include "platform/program.h"
 #include "platform/text.h"
+#include "shared/english.h"
 #include "shared/settings.h"
 #include "shared/texts.h"
-#include "start/english.h"
 
 #include <QDir>
+#include <QMap>
 
 namespace {
 
@@ -20,23 +21,33 @@ QString suffix() {
     return QStringLiteral(".lng");
 }
 
-QStringList languageFiles() {
-    return QDir(ProgramFolder())
-        .entryList({u'*' + suffix()}, QDir::Files, QDir::Name | QDir::IgnoreCase);
+// The one large letter whose small form is two, i and a dot: the i alone is taken.
+constexpr char32_t largeDottedI = U'\u0130';
+
+char32_t smallLetter(char32_t letter) {
+    return letter == largeDottedI ? U'i' : QChar::toLower(letter);
 }
 
-// The file of a language: the one of exactly this name, else one that differs in
-// case only. Empty when there is none.
-QString languageFile(const QString& name) {
-    QString wanted = name + suffix();
-    const QStringList files = languageFiles();
-    if (files.contains(wanted))
-        return wanted;
-    for (const QString& file : files) {
-        if (file.compare(wanted, Qt::CaseInsensitive) == 0)
-            return file;
+// The files by the names under which they are listed. Of several that would share
+// a name the one that is written like it stands for it, else the first.
+QMap<QString, QString> listedFiles() {
+    QMap<QString, QString> files;
+    for (const QString& file :
+         QDir(ProgramFolder()).entryList({u'*' + suffix()}, QDir::Files, QDir::Name)) {
+        const QString name = file.chopped(suffix().size());
+        const QString listed = ListedName(name);
+        if (name == listed || !files.contains(listed))
+            files.insert(listed, file);
     }
-    return {};
+    return files;
+}
+
+// The file of a language: the one of exactly this name, else the one that is
+// listed under it. Empty when there is none.
+QString languageFile(const QString& name) {
+    const QString exact = name + suffix();
+    const bool exists = QDir(ProgramFolder()).entryList(QDir::Files).contains(exact);
+    return exists ? exact : listedFiles().value(ListedName(name));
 }
 
 template <int size>
@@ -106,11 +117,17 @@ std::string ReadLngString(const ProfileFile& file, const char* section, int key,
     return text.toStdString();
 }
 
+// Letter by letter and by no language's own rules, so that a name is the same
+// wherever it is read.
+QString ListedName(const QString& name) {
+    std::u32string letters = name.toStdU32String();
+    for (char32_t& letter : letters)
+        letter = smallLetter(letter);
+    if (!letters.empty())
+        letters.front() = QChar::toUpper(letters.front());
+    return QString::fromStdU32String(letters);
+}
+
 QStringList LanguageList() {
-    QStringList languages{Text(englishLanguage)};
-    for (const QString& file : languageFiles()) {
-        const QString name = file.chopped(suffix().size());
-        languages.append(name.left(1).toUpper() + name.mid(1).toLower());
-    }
-    return languages;
+    return QStringList(Text(englishLanguage)) + listedFiles().keys();
 }

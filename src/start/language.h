@@ -16,6 +16,11 @@ void LoadLanguage(std::string& name);
 std::string ReadLngString(const ProfileFile& file, const char* section, int key,
                           const std::string& standard);
 
-/// englishLanguage, then the languages of the files in the program's folder: the
-/// names of the files without ".lng", first letter large, the others small.
+/// The name under which a language's file is listed: the first letter large, the
+/// others small.
+QString ListedName(const QString& name);
+
+/// englishLanguage, then the listed names of the files in the program's folder,
+/// each once, in the order of their letters' numbers. LoadLanguage finds a file
+/// for each of them.
 QStringList LanguageList();

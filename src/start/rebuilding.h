@@ -4,6 +4,9 @@
 #include "shared/calendars.h"
 #include "shared/table.h"
 
+/// What the year windows are filled with is out of date.
+void ForgetFilledYears();
+
 /// Refills every visible window; the others are refilled when they are shown.
 void RebuildVisibleWindows();
 

@@ -2,7 +2,6 @@
 #include "start/start.h"
 
 #include "calc/calc.h"
-#include "calc/state.h"
 #include "changecals/changecals.h"
 #include "changecals/closing.h"
 #include "changecals/opening.h"
@@ -10,14 +9,14 @@
 #include "monthly/frmmonthlycal.h"
 #include "moon/frmmoon.h"
 #include "platform/clock.h"
+#include "settings/storedsettings.h"
 #include "shared/flags.h"
 #include "shared/look.h"
 #include "shared/settings.h"
 #include "start/frmabout.h"
 #include "start/frmoptions.h"
 #include "start/language.h"
-#include "start/storedsettings.h"
-#include "yearcals/yearwindow.h"
+#include "yearcals/frmyearcal.h"
 
 #include <QCoreApplication>
 #include <QThread>
@@ -31,8 +30,8 @@ constexpr double splashDays = 0.000012;
 constexpr int standardSplashColor = 2;
 constexpr auto exposeLimit = std::chrono::milliseconds(500);
 
-void setFactories() {
-    ChangeCals::SetFactories({
+void beginRun() {
+    ChangeCals::BeginRun({
         [] { return new frmMonthlyCal; },
         [](int c) { return new frmYearCal(c); },
         [] { return new frmMoon; },
@@ -62,23 +61,11 @@ void showSplash(frmAbout& splash) {
     letWindowsPaint();
 }
 
-void chooseToday() {
-    const SystemDate today = Today();
-    CurDate(Gregorian, Day) = today.day;
-    CurDate(Gregorian, Month) = today.month;
-    CurDate(Gregorian, Year) = today.year;
-    Calc::GregorianToJD();
-    Calc::JDToJulian();
-    Calc::JDToJewish();
-    Calc::JDToMoslem();
-    ChangeCals::SetMoonAge();
-}
-
 void loadWindows() {
-    ChangeCals::Monthly();
+    ChangeCals::LoadMonthly();
     for (int c = 1; c <= calendarCount; ++c)
-        ChangeCals::Year(c);
-    ChangeCals::Moon();
+        ChangeCals::LoadYear(c);
+    ChangeCals::LoadMoon();
 }
 
 void waitUntil(Clock::time_point release) {
@@ -91,33 +78,33 @@ void waitUntil(Clock::time_point release) {
 void showStartupWindow() {
     CurrentWindow = StartupWindow;
     if (StartupWindow == 0) {
-        ChangeCals::Monthly().ReSetForm();
-        ChangeCals::Monthly().Show();
-    } else if (isCalendar(StartupWindow)) {
-        ChangeCals::Year(StartupWindow).ShowYear();
-        ChangeCals::Year(StartupWindow).Show();
+        ChangeCals::LoadMonthly().ReSetForm();
+        ChangeCals::LoadMonthly().Show();
+    } else if (IsCalendar(StartupWindow)) {
+        ChangeCals::LoadYear(StartupWindow).ShowYear();
+        ChangeCals::LoadYear(StartupWindow).Show();
     }
 }
 
 } // namespace
 
 bool Start::Main() {
-    ChangeCals::BeginRun();
-    setFactories();
+    beginRun();
     if (!ReadSettings())
         return false;
-    showSplash(static_cast<frmAbout&>(ChangeCals::About()));
+    frmAbout splash;
+    showSplash(splash);
     const auto release =
         Clock::now() + std::chrono::duration_cast<Clock::duration>(Days(splashDays));
     Calc::FillConstantRows();
     LoadLanguage(LanguageName);
     Calc::SetMoslemType();
-    chooseToday();
+    ChangeCals::GoToToday(0);
     loadWindows();
     ChangeCals::SetAllTexts();
     waitUntil(release);
     showStartupWindow();
-    ChangeCals::UnloadAbout();
+    splash.Hide();
     ChangeCals::RefreshCloseTips();
     return true;
 }

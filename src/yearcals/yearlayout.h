@@ -1,36 +1,30 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-/// Where the days of a year stand in the year grid. Rows and columns count from
-/// 0; month blocks are 8 rows (a title and seven weekdays) by 6 columns; column 0
-/// holds the weekdays' names. In a Jewish leap year the second band has a fourth
-/// block, Adar II, in columns 19..24, and the months after it stand one place
-/// earlier than their number says.
+#include "controls/daygrid.h"
+#include "shared/calendars.h"
+
+/// Where the months of a year stand in the year grid: in bands of three, each
+/// band a title row above seven weekday rows. In a Jewish leap year the second
+/// band has a fourth month, Adar II, behind the third, and the months after it
+/// stand one place earlier than their number says.
 namespace YearLayout {
 
-inline constexpr int rows = 32;
-inline constexpr int bandRows = 8;
-inline constexpr int monthColumns = 6;
+inline constexpr int bands = 4;
+inline constexpr int titleRows = 1;
+inline constexpr int bandRows = titleRows + daysInWeek;
 inline constexpr int monthsInBand = 3;
-inline constexpr int adarTwo = 7;
-inline constexpr int adarTwoColumn = 19;
 
-struct Cell {
-    int row;
-    int column;
-    bool operator==(const Cell& other) const = default;
-};
+/// Week columns without and with the fourth month of a band, which begins at
+/// adarTwoColumn. Column 0 holds the weekdays' names.
+inline constexpr int commonColumns = monthsInBand * DayGrid::monthColumns;
+inline constexpr int leapColumns = commonColumns + DayGrid::monthColumns;
+inline constexpr int adarTwoColumn = 1 + commonColumns;
 
-/// The first weekday row and first column of a month's block.
-Cell BlockOf(int c, int month);
-
-/// The cell of a day of the current year of calendar c.
-Cell CellOf(int c, int month, int day);
+/// The upper left cell of a month's days, below its title.
+GridPlace BlockOf(int c, int month);
 
 /// The month whose block holds a cell.
-int MonthOf(int c, Cell cell);
-
-/// Whether a cell can hold a day: neither weekday name nor title.
-bool IsDayCell(Cell cell);
+int MonthOf(int c, GridPlace cell);
 
 } // namespace YearLayout

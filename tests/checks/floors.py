@@ -7,17 +7,18 @@ import re
 import subprocess
 import sys
 
-# A room may include from itself and from the rooms named.
-ROOMS = {
-    "shared": set(),
-    "platform": set(),
-    "calc": {"shared"},
-    "changecals": {"calc", "shared", "platform"},
-    "monthly": {"changecals", "calc", "shared", "platform"},
-    "yearcals": {"changecals", "calc", "shared", "platform"},
-    "moon": {"changecals", "calc", "shared", "platform"},
-    "start": {"monthly", "yearcals", "moon", "changecals", "calc", "shared", "platform"},
-}
+# From the ground up. A room may include from itself and from the floors below.
+FLOORS = [
+    {"shared", "platform"},
+    {"calc", "settings"},
+    {"changecals"},
+    {"controls"},
+    {"monthly", "yearcals", "moon"},
+    {"start"},
+]
+ROOMS = {room: set().union(*FLOORS[:floor])
+         for floor, rooms in enumerate(FLOORS) for room in rooms}
+ROOMS["calc"] = {"shared"}  # the arithmetic knows no desktop
 WITHOUT_QT = {"shared", "calc"}
 INCLUDE = re.compile(r'^\s*#\s*include\s*(["<])([^">]+)[">]', re.M)
 
@@ -50,11 +51,17 @@ def circle_from(graph, start, trail=()):
     return None
 
 
+def unit_of(name):
+    """A source and its header are one unit."""
+    return name.rsplit(".", 1)[0]
+
+
 def circles(source, files):
-    graph = {
-        path.relative_to(source).as_posix(): [n for mark, n in includes(path) if mark == '"']
-        for path in files
-    }
+    graph = {}
+    for path in files:
+        unit = unit_of(path.relative_to(source).as_posix())
+        others = {unit_of(name) for mark, name in includes(path) if mark == '"'} - {unit}
+        graph.setdefault(unit, set()).update(others)
     for name in graph:
         circle = circle_from(graph, name)
         if circle:

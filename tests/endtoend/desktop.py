@@ -24,8 +24,9 @@ ManagedWindow = collections.namedtuple("ManagedWindow", "number title kind state
 
 
 class Desktop:
-    def __init__(self, folder):
+    def __init__(self, folder, width=SCREEN_WIDTH, height=SCREEN_HEIGHT):
         self._folder = pathlib.Path(folder)
+        self._screen = f"{width}x{height}x24"
         self._display = None
         self._processes = []
 
@@ -38,6 +39,10 @@ class Desktop:
             process.terminate()
             process.wait()
         self._processes = []
+
+    def kill_server(self):
+        """Takes the screen from everybody who uses it."""
+        self._processes[0].kill()
 
     def environment(self):
         """What a program on this desktop needs, nothing of the user's own."""
@@ -100,9 +105,8 @@ class Desktop:
 
     def _start_server(self):
         reading, writing = os.pipe()
-        screen = f"{SCREEN_WIDTH}x{SCREEN_HEIGHT}x24"
-        self._launch(["Xvfb", "-displayfd", str(writing), "-screen", "0", screen, "-dpi", "96",
-                      "-nolisten", "tcp", "-noreset"], pass_fds=[writing])
+        self._launch(["Xvfb", "-displayfd", str(writing), "-screen", "0", self._screen,
+                      "-dpi", "96", "-nolisten", "tcp", "-noreset"], pass_fds=[writing])
         os.close(writing)
         with open(reading, "rb", buffering=0) as pipe:
             self._display = f":{_read_line(pipe, START_SECONDS)}"

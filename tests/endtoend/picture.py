@@ -4,6 +4,7 @@
 import re
 
 RED = b"\xff\x00\x00"
+SUBSTITUTE_MOON = b"\xff\xff\xc0"
 
 
 class Picture:
@@ -14,6 +15,11 @@ class Picture:
     def count(self, color, left, top, width, height):
         """The number of pixels of exactly this colour in a rectangle."""
         return sum(self._row(y, left, width).count(color) for y in range(top, top + height))
+
+    def count_lighter(self, level, left, top, width, height):
+        """The number of pixels in a rectangle of which each colour is above a level."""
+        return sum(min(pixel) > level
+                   for y in range(top, top + height) for pixel in self._row(y, left, width))
 
     def _row(self, y, left, width):
         start = 3 * (y * self._width + left)

@@ -2,7 +2,6 @@
 """The program in a folder, with settings and a home of its own."""
 
 import os
-import pathlib
 import shutil
 import subprocess
 
@@ -15,25 +14,39 @@ from windows import (ABOUT_TITLE, MONTHLY_TITLE, MOON_TITLE, OPTIONS_TITLE, PROG
 EXECUTABLE = "orvalen-years-calendar"
 
 
+def copy_program(built, folder):
+    """The program with its files in a folder of its own, where tests may change them."""
+    folder.mkdir()
+    _link_or_copy(built / EXECUTABLE, folder / EXECUTABLE)
+    for file in [built / "Moon.bmp", *built.glob("*.lng")]:
+        shutil.copy(file, folder)
+    return folder / EXECUTABLE
+
+
 class Program:
-    def __init__(self, desktop, built, folder):
+    def __init__(self, desktop, executable, folder):
         self.desktop = desktop
-        self.folder = folder / "program"
+        self.folder = executable.parent
         self.config = folder / "config"
         self.settings = SettingsFile(self.config / PROGRAM_TITLE / "settings.ini")
+        self._command = [str(executable)]
+        self.more_environment = {}
         self._home = folder / "home"
         self._output = folder / "output.txt"
         self._process = None
         self._boxes = set()
         self._make_folders()
-        self._copy(pathlib.Path(built))
 
     def start(self):
         self._boxes = set()
         with open(self._output, "wb") as output:
-            self._process = subprocess.Popen([str(self.folder / EXECUTABLE)], cwd=self._home,
+            self._process = subprocess.Popen(self._command, cwd=self._home,
                                              env=self._environment(), stdin=subprocess.DEVNULL,
                                              stdout=output, stderr=output)
+
+    def run_by(self, command):
+        """From now on the program is started by a command that gives way to it."""
+        self._command = [*command, *self._command]
 
     def pid(self):
         return self._process.pid
@@ -87,8 +100,8 @@ class Program:
     def year_window(self, calendar):
         return YearWindow(self, self._wait_for(YEAR_TITLES[calendar]), calendar)
 
-    def moon_window(self):
-        return MoonWindow(self, self._wait_for(MOON_TITLE))
+    def moon_window(self, title=MOON_TITLE):
+        return MoonWindow(self, self._wait_for(title))
 
     def options_window(self):
         return OptionsWindow(self, self._wait_for(OPTIONS_TITLE))
@@ -126,7 +139,7 @@ class Program:
         return f"program {state}, its output: {output or 'none'}"
 
     def _make_folders(self):
-        for folder in (self.folder, self.config, self._home, self._runtime_folder()):
+        for folder in (self.config, self._home, self._runtime_folder()):
             folder.mkdir(mode=0o700)
 
     def _runtime_folder(self):
@@ -138,12 +151,7 @@ class Program:
             "HOME": str(self._home),
             "XDG_CONFIG_HOME": str(self.config),
             "XDG_RUNTIME_DIR": str(self._runtime_folder()),
-        }
-
-    def _copy(self, built):
-        _link_or_copy(built / EXECUTABLE, self.folder / EXECUTABLE)
-        for file in [built / "Moon.bmp", *built.glob("*.lng")]:
-            shutil.copy(file, self.folder)
+        } | self.more_environment
 
 
 def _link_or_copy(source, target):
@@ -162,4 +170,4 @@ def _is_message_box(window):
 
 
 def _is_splash(window):
-    return not window.title.strip() and window.kind == "NORMAL"
+    return window.kind == "SPLASH"

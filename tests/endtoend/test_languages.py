@@ -2,10 +2,9 @@
 """Choosing a language, and language files of every condition."""
 
 import random
-import re
 import time
 
-from testcase import EndToEndTest
+from testcase import EndToEndTest, monthly_title_of
 from windows import MONTHLY_TITLE
 
 LONGEST_START = 10  # seconds
@@ -16,15 +15,15 @@ class German(EndToEndTest):
     def setUp(self):
         super().setUp()
         self.file = self.program.folder / "German.lng"
-        self.title = self._title_of_monthly_window()
+        self.title = monthly_title_of(self.file)
 
     def test_choosing_it_in_the_options_changes_the_titles(self):
-        self._choose(self.start_monthly())
+        self.start_monthly().choose_language("German")
         self.program.monthly_window(title=self.title)
         self.assertEqual(self.settings.read()["Startup/Language"], "German")
 
     def test_it_is_kept_over_a_restart(self):
-        self._choose(self.start_monthly())
+        self.start_monthly().choose_language("German")
         self.program.monthly_window(title=self.title).press("close")
         self.assert_ends_well()
         self.start_monthly(title=self.title)
@@ -51,19 +50,6 @@ class German(EndToEndTest):
         self.file.rename(self.file.with_name("GERMAN.LNG"))
         self.start_monthly(title=self.title)
         self.assertEqual(self.program.message_boxes_seen(), 0)
-
-    def _title_of_monthly_window(self):
-        text = self.file.read_text(encoding="utf-8")
-        calendars = text.split("[CALENDARS]")[1].split("[")[0]
-        return re.search(r"^5=(.+)$", calendars, re.MULTILINE).group(1).strip()
-
-    def _choose(self, monthly):
-        monthly.press("options")
-        options = self.program.options_window()
-        options.wait_until_in_front()
-        options.choose_language("German")
-        options.apply()
-        options.wait_until_gone()
 
 
 class UnusualLanguageFile(EndToEndTest):

@@ -24,7 +24,7 @@ class FirstStart(EndToEndTest):
         self.start_monthly().press("close")
         self.assert_ends_well()
 
-    def test_close_button_stores_the_twelve_positions_and_nothing_else(self):
+    def test_close_button_stores_every_position_and_nothing_else(self):
         self.start_monthly().press("close")
         self.assert_ends_well()
         self.assertEqual(set(self.settings.read()), position_names())

@@ -2,12 +2,20 @@
 """What every end-to-end test starts from."""
 
 import pathlib
+import re
 import shutil
 import tempfile
 import unittest
 
-from program import Program
+from program import Program, copy_program
 from windows import CALENDARS
+
+
+def monthly_title_of(language_file):
+    """The monthly window's title in a language."""
+    text = language_file.read_text(encoding="utf-8")
+    calendars = text.split("[CALENDARS]")[1].split("[")[0]
+    return re.search(r"^5=(.+)$", calendars, re.MULTILINE).group(1).strip()
 
 
 class EndToEndTest(unittest.TestCase):
@@ -20,10 +28,14 @@ class EndToEndTest(unittest.TestCase):
     def setUp(self):
         folder = pathlib.Path(tempfile.mkdtemp(prefix="orvalen-test-"))
         self.addCleanup(shutil.rmtree, folder, ignore_errors=True)
-        self.program = Program(self.desktop, self.built, folder)
+        self.program = Program(self.desktop, self.install(folder), folder)
         self.addCleanup(self.program.kill)
         self.settings = self.program.settings
         self.desktop.xdotool("mousemove", 0, 0)
+
+    def install(self, folder):
+        """Puts the program somewhere below a folder; returns what is started."""
+        return copy_program(self.built, folder / "program")
 
     def start_monthly(self, **title):
         """Starts the program and returns its monthly window."""

@@ -135,10 +135,19 @@ class MonthlyWindow(Window):
     COMMANDS_RIGHT = 636
     COMMAND_GAP = 6
     ROW_ABOVE_BOTTOM = 28  # middle of the row of commands
-    MOON_MIDDLE = 255
+    MOON_MIDDLE = 200
 
     def press(self, command):
         self.click(self.command_place(command))
+
+    def choose_language(self, name):
+        """In the options, and applies them."""
+        self.press("options")
+        options = self.program.options_window()
+        options.wait_until_in_front()
+        options.choose_language(name)
+        options.apply()
+        options.wait_until_gone()
 
     def exit_by_right_press(self):
         return self.press_right_button_until_exit(self.command_place("close"))
@@ -205,8 +214,9 @@ class YearWindow(Window):
 
     CONTROLS = ("previous", "next", "today", "moon", "other1", "other2", "other3", "options",
                 "about", "close")
-    FIRST_CONTROL_LEFT = 73
-    CONTROL_STEP = 31
+    FIRST_CONTROL_LEFT = 72
+    GROUP_STARTS = (3, 7)  # of CONTROLS, behind a gap
+    GROUP_GAP = 6
     CONTROLS_HEIGHT = 52
     GRID_LEFT = 2
     GRID_TOP = 52
@@ -245,7 +255,9 @@ class YearWindow(Window):
         return [cell for cell in cells if self._is_marked(picture, *cell)]
 
     def control_place(self, control):
-        left = self.FIRST_CONTROL_LEFT + self.CONTROLS.index(control) * self.CONTROL_STEP
+        index = self.CONTROLS.index(control)
+        gaps = sum(index >= start for start in self.GROUP_STARTS)
+        left = self.FIRST_CONTROL_LEFT + index * BUTTON_SIDE + gaps * self.GROUP_GAP
         return left + BUTTON_SIDE // 2, self.CONTROLS_HEIGHT // 2
 
     def _is_marked(self, picture, row, column):

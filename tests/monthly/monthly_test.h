@@ -23,15 +23,15 @@ protected:
         useRecordingWindows();
         auto factories = recordingFactories();
         factories.monthly = [] { return new frmMonthlyCal; };
-        ChangeCals::SetFactories(factories);
+        ChangeCals::BeginRun(factories);
         ChangeCals::ShowMonthlyWindow();
-        ChangeCals::Monthly().activateWindow();
-        EXPECT_TRUE(waitUntil([] { return ChangeCals::Monthly().isActiveWindow(); }));
+        ChangeCals::LoadMonthly().activateWindow();
+        EXPECT_TRUE(waitUntil([] { return ChangeCals::LoadMonthly().isActiveWindow(); }));
         findControls();
         calls.clear();
     }
 
-    static MonthlyWindow& window() { return ChangeCals::Monthly(); }
+    static MonthlyWindow& window() { return ChangeCals::LoadMonthly(); }
 
     static ComboBox& combo(int kind, int pane) { return *m_paneCombos(kind, pane); }
     static ComboBox& combo(int kind) { return *m_combos(kind - 5); }
@@ -82,28 +82,21 @@ protected:
         return days;
     }
 
-    static void goTo(int julianDay) {
-        CurJD = julianDay;
-        ChangeCals::ChangeJD();
-        calls.clear();
-    }
-
     static QString text(int number, int of) { return QStringLiteral("%1/%2").arg(number).arg(of); }
 
     /// Every pane shows the state.
     static void expectPanesShowTheState() {
-        for (int pane = 1; pane <= 4; ++pane)
+        for (int pane = 1; pane <= paneCount; ++pane)
             expectPaneShowsTheState(pane);
         EXPECT_EQ(combo(6).ListIndex(), WeekDayNo - 1);
         EXPECT_EQ(combo(8).Text(), QString::number(CurJD));
         EXPECT_FALSE(Updating);
-        EXPECT_EQ(SourcePane, 0);
     }
 
     static void expectPaneShowsTheState(int pane) {
         const int c = CalendarOrder(pane);
-        const bool shown = !Calc::IsBeforeRange(c);
-        const bool enabled = shown && !Calc::IsAfterRange(c);
+        const bool shown = !isBeforeRange(c);
+        const bool enabled = shown && !isAfterRange(c);
         EXPECT_EQ(combo(1, pane).ListIndex(), c - 1);
         for (const int kind : {2, 3, 4, 5}) {
             EXPECT_EQ(combo(kind, pane).isVisible(), shown) << kind;
@@ -147,7 +140,7 @@ private:
 
     // Once: the long walk looks at every control after every action.
     static void findControls() {
-        for (int pane = 1; pane <= 4; ++pane) {
+        for (int pane = 1; pane <= paneCount; ++pane) {
             m_grids(pane) = control<MSFlexGrid>(QStringLiteral("MSFlexGrid1_%1"), pane);
             for (int kind = 1; kind <= 5; ++kind)
                 m_paneCombos(kind, pane) = control<ComboBox>(
@@ -161,9 +154,9 @@ private:
             m_moonButtons(phase + 1) = control<CommandButton>(QStringLiteral("Command2_%1"), phase);
     }
 
-    static inline Table<ComboBox*, 5, 4> m_paneCombos;
+    static inline Table<ComboBox*, 5, paneCount> m_paneCombos;
     static inline Table<ComboBox*, 3> m_combos;
-    static inline Table<MSFlexGrid*, 4> m_grids;
+    static inline Table<MSFlexGrid*, paneCount> m_grids;
     static inline Table<CommandButton*, 5> m_commands;
     static inline Table<CommandButton*, 9> m_moonButtons;
 };

@@ -26,7 +26,7 @@ enum class Case {
 Case caseOf(const Shadow& shadow) {
     const bool circle = shadow.shape == Shadow::Shape::Circle;
     const double middle = shadow.left + shadow.width / 2;
-    if (circle && shadow.solid.value_or(true))
+    if (circle && shadow.solid)
         return middle < width / 2 ? Case::WaxingCrescent : Case::WaningCrescent;
     if (circle)
         return middle > width / 2 ? Case::WaxingGibbous : Case::WaningGibbous;
@@ -112,13 +112,13 @@ TEST(MoonShadow, RectanglesCoverAllHalfOrNothing) {
         EXPECT_DOUBLE_EQ(shadow.top, 0);
         EXPECT_DOUBLE_EQ(shadow.width, row.width);
         EXPECT_DOUBLE_EQ(shadow.height, row.height);
-        EXPECT_EQ(shadow.solid, row.age == 14.8F ? std::nullopt : std::optional(true));
+        EXPECT_EQ(shadow.solid, true);
     }
 }
 
 // Where the shadow's edge crosses the horizontal middle line.
 double terminator(const Shadow& shadow) {
-    const double ring = shadow.solid.value_or(true) ? 0 : width / 4;
+    const double ring = shadow.solid ? 0 : width / 4;
     const bool fromRight =
         caseOf(shadow) == Case::WaxingCrescent || caseOf(shadow) == Case::WaningGibbous;
     return fromRight ? shadow.left + shadow.width - ring : shadow.left + ring;

@@ -1,69 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "platform/combobox.h"
+#include "platform/combobox_test.h"
 
-#include "support/widget_test.h"
-
-#include <QAbstractItemView>
-#include <QLineEdit>
-#include <QWheelEvent>
+#include <functional>
 
 namespace {
-
-class Combo : public WidgetTest {
-protected:
-    Combo() : other(new QLineEdit(&window)), list(new ComboBox(QStringLiteral("Combo1"), &window)) {
-        window.resize(300, 200);
-        list->setGeometry(10, 50, 80, 24);
-        list->SetItems({QStringLiteral("one"), QStringLiteral("two"), QStringLiteral("three")}, 0);
-        QObject::connect(list, &ComboBox::Click, list, [this] { ++clicks; });
-        QObject::connect(list, &ComboBox::GotFocus, list, [this] { ++arrivals; });
-        QObject::connect(list, &ComboBox::BeforeUse, list, [this] { ++uses; });
-    }
-
-    ~Combo() override { list->hidePopup(); }
-
-    void show() {
-        window.show();
-        window.activateWindow();
-        other->setFocus();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-        ASSERT_TRUE(waitUntil([this] { return other->hasFocus(); }));
-        arrivals = 0;
-    }
-
-    void focusList() {
-        list->setFocus();
-        ASSERT_TRUE(waitUntil([this] { return list->hasFocus(); }));
-    }
-
-    bool isOpen() const { return list->view()->isVisible(); }
-
-    void openByKey() {
-        QTest::keyClick(list, Qt::Key_F4);
-        ASSERT_TRUE(waitUntil([this] { return isOpen(); }));
-    }
-
-    void chooseByMouse(int position) {
-        QAbstractItemView* view = list->view();
-        const QRect entry = view->visualRect(view->model()->index(position, 0));
-        QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, entry.center());
-        ASSERT_TRUE(waitUntil([this] { return !isOpen(); }));
-    }
-
-    void turnWheel() {
-        const QPointF middle = list->rect().center();
-        QWheelEvent event(middle, list->mapToGlobal(middle), {}, {0, -120}, Qt::NoButton, {},
-                          Qt::NoScrollPhase, false);
-        QCoreApplication::sendEvent(list, &event);
-    }
-
-    QWidget window;
-    QLineEdit* other;
-    ComboBox* list;
-    int clicks = 0;
-    int arrivals = 0;
-    int uses = 0;
-};
 
 TEST_F(Combo, HoldsItsTexts) {
     EXPECT_EQ(list->objectName(), QStringLiteral("Combo1"));
@@ -120,7 +60,6 @@ TEST_F(Combo, TheProgramsChoicesAreNoClicks) {
     list->SetItems({QStringLiteral("six"), QStringLiteral("seven")}, 1);
     list->SetListIndex(0);
     EXPECT_EQ(clicks, 0);
-    EXPECT_EQ(uses, 0);
 }
 
 TEST_F(Combo, ChoosingByKeyIsAClick) {
@@ -166,82 +105,81 @@ TEST_F(Combo, ClosingTheListWithoutAChoiceIsNoClick) {
     EXPECT_EQ(clicks, 0);
 }
 
-TEST_F(Combo, TheFocusIsToldWhenItComes) {
+TEST_F(Combo, TheWheelWithoutTheFocusChangesNothing) {
+    show();
+    turnWheel();
+    EXPECT_EQ(list->ListIndex(), 0);
+    EXPECT_EQ(clicks, 0);
+    EXPECT_FALSE(list->hasFocus());
+}
+
+// Filling
+
+TEST_F(Combo, NumbersBecomeEntries) {
+    const ListEntries entries = NumberedEntries(3, 5, 4);
+    EXPECT_EQ(entries.texts, QStringLiteral("3 4 5").split(u' '));
+    EXPECT_EQ(entries.chosen, 1);
+    EXPECT_TRUE(NumberedEntries(3, 5, 2).texts.isEmpty());
+    EXPECT_TRUE(NumberedEntries(3, 5, 6).texts.isEmpty());
+}
+
+TEST_F(Combo, AShortListIsFilledWhenTheFocusComes) {
+    offerYears(2026);
+    show();
+    EXPECT_EQ(fillings, 0);
+    focusList();
+    EXPECT_EQ(fillings, 1);
+    EXPECT_EQ(list->ListCount(), 3000);
+    EXPECT_EQ(list->Text(), QStringLiteral("2026"));
+    EXPECT_EQ(clicks, 0);
+    other->setFocus();
+    focusList();
+    EXPECT_EQ(fillings, 1) << "a full list stays";
+}
+
+TEST_F(Combo, AShortListIsFilledBeforeEveryUse) {
     show();
     focusList();
-    EXPECT_EQ(arrivals, 1);
-    other->setFocus();
-    EXPECT_EQ(arrivals, 1);
+    const std::vector<std::function<void()>> uses{[this] { QTest::keyClick(list, Qt::Key_Down); },
+                                                  [this] { turnWheel(); }, [this] { type("2027"); },
+                                                  [this] {
+                                                      list->showPopup();
+                                                      list->hidePopup();
+                                                  }};
+    for (const auto& use : uses) {
+        offerYears(2026);
+        use();
+        EXPECT_EQ(list->ListCount(), 3000);
+    }
+    EXPECT_EQ(fillings, 4);
+}
+
+TEST_F(Combo, AListThatIsPressedOpensFull) {
+    offerYears(2026);
+    show();
     QTest::mouseClick(list, Qt::LeftButton);
-    EXPECT_EQ(arrivals, 2);
+    ASSERT_TRUE(waitUntil([this] { return isOpen(); }));
+    EXPECT_EQ(list->view()->model()->rowCount(), 3000);
+}
+
+TEST_F(Combo, WithoutEntriesAListStaysAsItIs) {
+    list->SetOnlyItem(QStringLiteral("3001"));
+    list->SetFiller([] { return NumberedEntries(1, 3000, 3001); });
+    show();
+    focusList();
+    EXPECT_EQ(list->ListCount(), 1);
+    EXPECT_EQ(list->Text(), QStringLiteral("3001"));
 }
 
 TEST_F(Combo, TheFocusGivenBackByTheListIsNoArrival) {
     show();
     focusList();
-    arrivals = 0;
     openByKey();
-    chooseByMouse(1);
-    EXPECT_TRUE(waitUntil([this] { return list->hasFocus(); }));
-    EXPECT_EQ(arrivals, 0);
-}
-
-TEST_F(Combo, AListThatIsFilledOnFocusOpensFull) {
     list->SetOnlyItem(QStringLiteral("2026"));
-    QObject::connect(list, &ComboBox::BeforeUse, list, [this] {
-        if (list->ListCount() == 1)
-            list->AddItem(QStringLiteral("2027"));
-    });
-    show();
-    QTest::mouseClick(list, Qt::LeftButton);
-    ASSERT_TRUE(waitUntil([this] { return isOpen(); }));
-    EXPECT_EQ(list->view()->model()->rowCount(), 2);
-}
-
-TEST_F(Combo, EveryUseIsToldBefore) {
-    show();
-    focusList();
-    EXPECT_EQ(uses, 0);
-    list->showPopup();
-    EXPECT_EQ(uses, 1);
-    list->hidePopup();
-    QTest::keyClick(list, Qt::Key_Down);
-    EXPECT_EQ(uses, 2);
-    turnWheel();
-    EXPECT_EQ(uses, 3);
-}
-
-TEST_F(Combo, BeforeUseComesBeforeTheChoice) {
-    show();
-    focusList();
-    std::vector<int> chosen;
-    QObject::connect(list, &ComboBox::BeforeUse, list,
-                     [&] { chosen.push_back(list->ListIndex()); });
-    QTest::keyClick(list, Qt::Key_Down);
-    turnWheel();
-    EXPECT_EQ(chosen, (std::vector<int>{0, 1}));
-    EXPECT_EQ(list->ListIndex(), 2);
-    EXPECT_EQ(clicks, 2);
-}
-
-TEST_F(Combo, TheWheelWithoutTheFocusChangesNothing) {
-    show();
-    turnWheel();
-    EXPECT_EQ(list->ListIndex(), 0);
-    EXPECT_EQ(uses, 0);
-    EXPECT_EQ(clicks, 0);
-    EXPECT_FALSE(list->hasFocus());
-}
-
-TEST_F(Combo, TextsTooWideAreShownSmaller) {
-    show();
-    list->SetOnlyItem(QStringLiteral("W"));
-    const QImage fitting = list->grab().toImage();
-    list->SetOnlyItem(QString(60, u'W'));
-    const QImage wide = list->grab().toImage();
-    EXPECT_FALSE(wide.isNull());
-    EXPECT_EQ(wide.size(), fitting.size());
-    EXPECT_NE(wide, fitting);
+    offerYears(2026);
+    QTest::keyClick(list->view(), Qt::Key_Escape);
+    ASSERT_TRUE(waitUntil([this] { return !isOpen() && list->hasFocus(); }));
+    EXPECT_EQ(fillings, 0);
 }
 
 } // namespace

@@ -1,14 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/form.h"
 
-#include "platform/image.h"
-#include "platform/message.h"
-#include "platform/pointer.h"
-#include "platform/program.h"
-#include "support/widget_test.h"
+#include "support/platform_test.h"
 
-#include <QDir>
-#include <QMessageBox>
+#include <QAccessible>
 #include <QPointer>
 
 namespace {
@@ -26,7 +21,7 @@ protected:
     }
 };
 
-class Forms : public WidgetTest {
+class Forms : public PlatformTest {
 protected:
     Forms() : form(new RecordingForm(QStringLiteral("frmTest"))) { form->SetSize(3000, 1500); }
     ~Forms() override { delete form; }
@@ -79,6 +74,22 @@ TEST_F(Forms, CaptionsAreShownAsTheyStand) {
     EXPECT_EQ(form->objectName(), QStringLiteral("frmTest"));
     EXPECT_EQ(form->layoutDirection(), Qt::LeftToRight);
     EXPECT_FALSE(form->windowIcon().isNull());
+}
+
+TEST_F(Forms, AreWindowsAndDialogsForAssistiveTools) {
+    form->SetCaption(QStringLiteral("Test window"));
+    show();
+    QAccessibleInterface* window = QAccessible::queryAccessibleInterface(form);
+    ASSERT_NE(window, nullptr);
+    EXPECT_EQ(window->role(), QAccessible::Window);
+    EXPECT_EQ(window->text(QAccessible::Name), QStringLiteral("Test window"));
+    RecordingForm dialog(QStringLiteral("frmDialog"));
+    dialog.setWindowFlags(Qt::Dialog);
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(&dialog)->role(), QAccessible::Dialog);
+}
+
+TEST_F(Forms, HaveTheirNameAsTheirRoleInASession) {
+    EXPECT_EQ(form->windowRole(), QStringLiteral("frmTest"));
 }
 
 TEST_F(Forms, StatesAreNormalMinimisedMaximised) {
@@ -142,84 +153,6 @@ TEST_F(Forms, HidingDoesNotUnload) {
     ASSERT_FALSE(form.isNull());
     EXPECT_EQ(form->unloads, 0);
     EXPECT_FALSE(form->IsUnloaded());
-}
-
-TEST_F(Forms, PicturesFillTheirControl) {
-    Image image(QStringLiteral("Image1"), QStringLiteral("icon"), nullptr);
-    image.resize(64, 64);
-    QWidget blank;
-    blank.resize(64, 64);
-    EXPECT_NE(image.grab().toImage(), blank.grab().toImage());
-}
-
-/// Keeps what the message boxes look like as they are shown.
-class BoxWatch : public QObject {
-public:
-    BoxWatch() { qApp->installEventFilter(this); }
-
-    bool eventFilter(QObject* object, QEvent* event) override {
-        auto* box = qobject_cast<QMessageBox*>(object);
-        if (box != nullptr && event->type() == QEvent::Show) {
-            titles.append(box->windowTitle());
-            buttons = box->standardButtons();
-        }
-        return false;
-    }
-
-    QStringList titles;
-    QMessageBox::StandardButtons buttons;
-};
-
-class Messages : public WidgetTest {};
-
-TEST_F(Messages, ShowTheirTextAsItStands) {
-    const QString text = QStringLiteral("<b>bold</b> & more\r\n\r\nline");
-    MsgBox(text);
-    EXPECT_EQ(m_messages.take(), QStringList{text});
-}
-
-TEST_F(Messages, HaveTheProductsTitleAndOneButton) {
-    BoxWatch watch;
-    MsgBox(QStringLiteral("text"));
-    EXPECT_EQ(watch.titles, QStringList{QStringLiteral("Orvalen Years Calendar")});
-    EXPECT_EQ(watch.buttons, QMessageBox::Ok);
-    m_messages.take();
-}
-
-TEST_F(Messages, AreWindowsOfTheOneInFront) {
-    Form form(QStringLiteral("frmTest"));
-    form.Show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
-    MsgBox(QStringLiteral("text"));
-    EXPECT_EQ(m_messages.take().size(), 1);
-    EXPECT_TRUE(form.Visible());
-}
-
-class Pointer : public WidgetTest {};
-
-TEST_F(Pointer, TheHourglassIsShownForAsLongAsItLives) {
-    {
-        const HourglassPointer outer;
-        ASSERT_NE(QGuiApplication::overrideCursor(), nullptr);
-        { const HourglassPointer inner; }
-        ASSERT_NE(QGuiApplication::overrideCursor(), nullptr);
-        EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::WaitCursor);
-    }
-    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
-}
-
-class Program : public WidgetTest {};
-
-TEST_F(Program, ItsFilesLieInItsFolder) {
-    const QString name = QStringLiteral("Moon.bmp");
-    EXPECT_EQ(ProgramFile(name), QDir::toNativeSeparators(programPath(name)));
-    SetProgramFolder({});
-    EXPECT_EQ(ProgramFolder(), QCoreApplication::applicationDirPath());
-}
-
-TEST_F(Program, ItsEndHasAStatus) {
-    EndProgram(1);
-    EXPECT_EQ(m_exitStatus, 1);
 }
 
 } // namespace

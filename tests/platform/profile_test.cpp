@@ -1,16 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "platform/profile.h"
 
-#include "support/widget_test.h"
+#include "support/platform_test.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 
 namespace {
 
 constexpr int bufferSize = 255;
 
-class Profile : public WidgetTest {};
+class Profile : public PlatformTest {};
 
 QByteArray read(const QByteArray& bytes, const QByteArray& section = "S",
                 const QByteArray& key = " 1") {
@@ -129,6 +130,24 @@ TEST_F(Profile, AByteOrderMarkIsSkipped) {
     EXPECT_EQ(file.Decode("\xC3\xA4"), QString::fromUtf8("ä"));
 }
 
+TEST_F(Profile, AMarkOfUtf16IsBelieved) {
+    using namespace std::string_literals;
+    const std::string little("\xFF\xFE[\0S\0]\0\n\0001\0=\0\x2F\x04\x14 x\0"s);
+    const std::string big("\xFE\xFF\0[\0S\0]\0\r\0\n\0001\0=\x04\x2F\x20\x14\0x"s);
+    for (const std::string& bytes : {little, big}) {
+        const ProfileFile file = ProfileFile::FromBytes(QByteArray::fromStdString(bytes));
+        EXPECT_EQ(file.Decode(file.GetPrivateProfileString("S", "1", bufferSize)),
+                  QString::fromUtf8("Я—x"));
+    }
+}
+
+TEST_F(Profile, HalfACharacterOfUtf16DoesNoHarm) {
+    using namespace std::string_literals;
+    const std::string bytes("\xFF\xFE[\0S\0]\0\n\0001\0=\0x\0\x00\xD8y"s);
+    EXPECT_TRUE(read(QByteArray::fromStdString(bytes)).startsWith('x'));
+    EXPECT_EQ(read("\xFF\xFE"), "");
+}
+
 TEST_F(Profile, ANulEndsAValue) {
     using namespace std::string_literals;
     EXPECT_EQ(read(QByteArray::fromStdString("[S]\n1=ab\0cd\n"s)), "ab");
@@ -206,6 +225,20 @@ TEST_F(Profile, FilesAreReadUpToTheLargestSize) {
     const ProfileFile tooLarge(path);
     EXPECT_EQ(tooLarge.ReadStatus(), ProfileFile::Status::TooLarge);
     EXPECT_EQ(tooLarge.GetPrivateProfileString("S", "1", bufferSize), "");
+}
+
+// A search through the whole file for each entry would take a minute.
+TEST_F(Profile, ManyEntriesOfALargeFileAreFoundAtOnce) {
+    QByteArray lines("[S]\n");
+    for (int i = 0; lines.size() < ProfileFile::largestSize - 20; ++i)
+        lines += QByteArray::number(i) + "=x\n";
+    const ProfileFile file = ProfileFile::FromBytes(lines);
+    QElapsedTimer watch;
+    watch.start();
+    for (int i = 0; i < 10000; ++i)
+        ASSERT_EQ(file.GetPrivateProfileString("S", QByteArray::number(90000 + i % 10), bufferSize),
+                  "x");
+    EXPECT_LT(watch.elapsed(), 5000);
 }
 
 TEST_F(Profile, WhatIsNoFileCannotBeRead) {

@@ -1,16 +1,24 @@
 // SPDX-License-Identifier: MIT
 #include "platform/settingsstore.h"
 
-#include "support/widget_test.h"
+#include "support/platform_test.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
+#include <QSettings>
+#include <csignal>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
 const QString startup = QStringLiteral("Startup");
 
-class SettingsStore : public WidgetTest {
+class SettingsStore : public PlatformTest {
 protected:
     QString get(const char* key, const char* standard = "none") const {
         return GetSetting(startup, QLatin1String(key), QLatin1String(standard));
@@ -24,6 +32,23 @@ protected:
         const QString folder = m_folder.filePath(QStringLiteral("copy"));
         writeFile(folder + QStringLiteral("/Orvalen Years Calendar/settings.ini"), bytes);
         qputenv("XDG_CONFIG_HOME", QFile::encodeName(folder));
+        EXPECT_TRUE(LoadSettings());
+    }
+
+    /// Loads a file of these lines.
+    void load(const QByteArray& lines) {
+        writeFile(settingsPath(), lines);
+        ASSERT_TRUE(LoadSettings());
+    }
+
+    static void save(const char* key, const char* value) {
+        SaveSetting(startup, QLatin1String(key), QString::fromUtf8(value));
+    }
+
+    QStringList filesBeside() const {
+        return QFileInfo(settingsPath())
+            .dir()
+            .entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden | QDir::System);
     }
 };
 
@@ -39,14 +64,14 @@ TEST_F(SettingsStore, ReadingWritesNothing) {
 
 TEST_F(SettingsStore, ReadingLeavesAFileAsItIs) {
     const QByteArray bytes("; by hand\n[Startup]\nWindow = 1,5\n");
-    writeFile(settingsPath(), bytes);
+    load(bytes);
     EXPECT_EQ(get("Window"), QStringLiteral("1,5"));
     EXPECT_TRUE(FlushSettings());
     EXPECT_EQ(readFile(settingsPath()), bytes);
 }
 
 TEST_F(SettingsStore, AbsentKeysReadAsTheStandard) {
-    writeFile(settingsPath(), "[Startup]\nEmpty=\n");
+    load("[Startup]\nEmpty=\n");
     EXPECT_EQ(get("Window", "7"), QStringLiteral("7"));
     EXPECT_EQ(get("Empty", "7"), QString()) << "an empty text is not an absent one";
 }
@@ -94,7 +119,7 @@ TEST_F(SettingsStore, TextsSavedAreReadBeforeTheyAreWritten) {
 }
 
 TEST_F(SettingsStore, OtherKeysSurviveASave) {
-    writeFile(settingsPath(), "[Startup]\nWindow=1\nUnknown=x\n[Other]\nKey=\"a, b\"\n");
+    load("[Startup]\nWindow=1\nUnknown=x\n[Other]\nKey=\"a, b\"\n");
     SaveSetting(startup, QStringLiteral("Window"), QStringLiteral("2"));
     ASSERT_TRUE(FlushSettings());
     reopen();
@@ -109,8 +134,6 @@ TEST_F(SettingsStore, AFileThatCannotBeWrittenIsTold) {
     SaveSetting(startup, QStringLiteral("Window"), QStringLiteral("3"));
     EXPECT_FALSE(FlushSettings());
     EXPECT_EQ(get("Window"), QStringLiteral("3")) << "kept for the rest of the run";
-    EXPECT_TRUE(QFile::remove(configFolder())); // what is pending must not be written later
-    FlushSettings();
 }
 
 TEST_F(SettingsStore, AFileThatCanBeWrittenAgainIsWrittenAndSaidToBe) {
@@ -123,13 +146,167 @@ TEST_F(SettingsStore, AFileThatCanBeWrittenAgainIsWrittenAndSaidToBe) {
 }
 
 TEST_F(SettingsStore, ADamagedFileCanBeWritten) {
-    writeFile(settingsPath(), "no section and no key\n[Startup]\nWindow=4\n]=[\n");
+    load("no section and no key\n[Startup]\nWindow=4\n]=[\n");
     EXPECT_EQ(get("Window"), QStringLiteral("4"));
     SaveSetting(startup, QStringLiteral("ShowTips"), QStringLiteral("0"));
     EXPECT_TRUE(FlushSettings());
     reopen();
     EXPECT_EQ(get("Window"), QStringLiteral("4"));
     EXPECT_EQ(get("ShowTips"), QStringLiteral("0"));
+}
+
+TEST_F(SettingsStore, WhatNobodyChangesStaysAsItWritten) {
+    load("; by hand\n\n[Startup]\nWindow = 1 ; first\nUnknown=x\n\n[Other]\nKey=\"a, b\"\n");
+    save("Window", "2");
+    save("ShowTips", "0");
+    SaveSetting(QStringLiteral("Moon"), QStringLiteral("Top"), QStringLiteral("15"));
+    EXPECT_TRUE(FlushSettings());
+    EXPECT_EQ(readFile(settingsPath()), "; by hand\n\n[Startup]\nWindow=2\nUnknown=x\nShowTips=0\n"
+                                        "\n[Other]\nKey=\"a, b\"\n\n[Moon]\nTop=15\n");
+}
+
+TEST_F(SettingsStore, TheToolkitReadsWhatIsWritten) {
+    for (const char* text : {"3", "English (Default)", "a, b;c", "\"q\"", "Русский", " x ", "@x",
+                             "back\\slash", "two\r\nlines"}) {
+        save("Language", text);
+        ASSERT_TRUE(FlushSettings());
+        EXPECT_EQ(QSettings(settingsPath(), QSettings::IniFormat)
+                      .value(QStringLiteral("Startup/Language"))
+                      .toString(),
+                  QString::fromUtf8(text));
+    }
+}
+
+TEST_F(SettingsStore, WhatTheToolkitWroteIsRead) {
+    for (const char* text : {"3", "English (Default)", "a, b;c", "\"q\"", "Русский", " x ", "@x",
+                             "back\\slash", "two\r\nlines", "\x01 1", "tab\t", "a\x07\x0B", ""}) {
+        {
+            QSettings toolkit(settingsPath(), QSettings::IniFormat);
+            toolkit.setValue(QStringLiteral("Startup/Language"), QString::fromUtf8(text));
+        }
+        ASSERT_TRUE(LoadSettings());
+        EXPECT_EQ(get("Language"), QString::fromUtf8(text)) << text;
+    }
+}
+
+TEST_F(SettingsStore, OfSeveralPlacesOfAKeyTheLastCounts) {
+    load("[Startup]\nWindow=1\n[Moon]\nWindow=9\n[Startup]\nWindow=2\n");
+    EXPECT_EQ(get("Window"), QStringLiteral("2"));
+    save("Window", "3");
+    EXPECT_TRUE(FlushSettings());
+    reopen();
+    EXPECT_EQ(get("Window"), QStringLiteral("3"));
+}
+
+TEST_F(SettingsStore, ForeignFormsAreRead) {
+    load("\xEF\xBB\xBF[ Startup ]\r\nWindow = \"3\"\r\nShowTips=1;on\r\nLanguage=\"unclosed\r\n");
+    EXPECT_EQ(get("Window"), QStringLiteral("3"));
+    EXPECT_EQ(get("ShowTips"), QStringLiteral("1"));
+    EXPECT_TRUE(get("Language").startsWith(QStringLiteral("unclosed")));
+}
+
+TEST_F(SettingsStore, WhatAnotherProgramSavedMeanwhileIsKept) {
+    load("[Startup]\nWindow=1\nShowTips=1\n");
+    save("Window", "2");
+    writeFile(settingsPath(), "[Startup]\nWindow=1\nShowTips=0\n[Moon]\nTop=15\n");
+    EXPECT_TRUE(FlushSettings());
+    EXPECT_EQ(readFile(settingsPath()), "[Startup]\nWindow=2\nShowTips=0\n[Moon]\nTop=15\n");
+}
+
+TEST_F(SettingsStore, ARelativeConfigurationFolderIsNone) {
+    qputenv("XDG_CONFIG_HOME", "relative");
+    EXPECT_EQ(SettingsFile(),
+              QDir::homePath() + QStringLiteral("/.config/Orvalen Years Calendar/settings.ini"));
+}
+
+TEST_F(SettingsStore, NothingIsLeftBesideTheFile) {
+    save("Window", "2");
+    EXPECT_TRUE(FlushSettings());
+    EXPECT_EQ(filesBeside(), QStringList{QStringLiteral("settings.ini")});
+}
+
+TEST_F(SettingsStore, WhatStandsInTheFilesPlaceIsToldAndLeftAlone) {
+    const QByteArray path = QFile::encodeName(settingsPath());
+    ASSERT_TRUE(QDir().mkpath(QFileInfo(settingsPath()).path()));
+    ASSERT_EQ(mkfifo(path.constData(), 0600), 0);
+    EXPECT_FALSE(LoadSettings()) << "a pipe, for which one would wait";
+    save("Window", "2");
+    EXPECT_FALSE(FlushSettings());
+    EXPECT_TRUE(QFile::remove(settingsPath()));
+    ASSERT_TRUE(QDir().mkdir(settingsPath()));
+    EXPECT_FALSE(LoadSettings()) << "a folder";
+    EXPECT_EQ(get("Window", "7"), QStringLiteral("7"));
+    save("Window", "2");
+    EXPECT_FALSE(FlushSettings());
+    EXPECT_TRUE(QFileInfo(settingsPath()).isDir());
+}
+
+TEST_F(SettingsStore, AFileTooLargeForSettingsIsToldAndLeftAlone) {
+    writeFile(settingsPath(), QByteArray((1 << 20) + 1, '\n'));
+    EXPECT_FALSE(LoadSettings());
+    save("Window", "2");
+    EXPECT_FALSE(FlushSettings());
+    EXPECT_EQ(QFileInfo(settingsPath()).size(), (1 << 20) + 1);
+}
+
+/// Lets this process write files of so many bytes only, as a full disk would.
+class FullDisk {
+public:
+    explicit FullDisk(rlim_t bytes) {
+        std::signal(SIGXFSZ, SIG_IGN);
+        getrlimit(RLIMIT_FSIZE, &m_former);
+        const rlimit limit{bytes, m_former.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FullDisk() {
+        setrlimit(RLIMIT_FSIZE, &m_former);
+        std::signal(SIGXFSZ, SIG_DFL);
+    }
+    FullDisk(const FullDisk&) = delete;
+    FullDisk& operator=(const FullDisk&) = delete;
+
+private:
+    rlimit m_former{};
+};
+
+TEST_F(SettingsStore, AFullDiskLeavesTheFileWholeAndIsTold) {
+    const QByteArray lines("[Startup]\nWindow=1\nLanguage=German\n");
+    load(lines);
+    save("Window", "2");
+    for (const rlim_t bytes : {0, 1, 20, 34}) {
+        const FullDisk disk(bytes);
+        EXPECT_FALSE(FlushSettings()) << bytes;
+        EXPECT_EQ(readFile(settingsPath()), lines) << bytes;
+        EXPECT_EQ(filesBeside(), QStringList{QStringLiteral("settings.ini")}) << bytes;
+    }
+    EXPECT_TRUE(FlushSettings()) << "once there is room again";
+    EXPECT_EQ(readFile(settingsPath()), "[Startup]\nWindow=2\nLanguage=German\n");
+}
+
+TEST_F(SettingsStore, ALockThatIsNeverFreeHoldsForASecondAtMost) {
+    load("[Startup]\nWindow=1\n");
+    save("Window", "2");
+    const int folder = open(QFile::encodeName(QFileInfo(settingsPath()).path()).constData(),
+                            O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    ASSERT_EQ(flock(folder, LOCK_EX), 0);
+    QElapsedTimer watch;
+    watch.start();
+    EXPECT_FALSE(FlushSettings());
+    EXPECT_LT(watch.elapsed(), 2000) << "on a busy machine";
+    EXPECT_EQ(readFile(settingsPath()), "[Startup]\nWindow=1\n");
+    close(folder);
+    EXPECT_TRUE(FlushSettings());
+}
+
+TEST_F(SettingsStore, LockFilesOfKilledProgramsHoldNobody) {
+    load("[Startup]\nWindow=1\n");
+    writeFile(settingsPath() + QStringLiteral(".lock"), "");
+    ASSERT_TRUE(QDir().mkdir(QFileInfo(settingsPath()).path() + QStringLiteral("/lock")));
+    save("Window", "2");
+    QElapsedTimer watch;
+    watch.start();
+    EXPECT_TRUE(FlushSettings());
+    EXPECT_LT(watch.elapsed(), 1000);
 }
 
 } // namespace

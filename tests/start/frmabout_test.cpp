@@ -156,6 +156,43 @@ TEST_F(About, EscClosesIt) {
     EXPECT_TRUE(box->IsUnloaded());
 }
 
+TEST_F(About, CtrlWClosesIt) {
+    load();
+    show();
+    QTest::keyClick(ok(), Qt::Key_W, Qt::ControlModifier);
+    EXPECT_TRUE(box->IsUnloaded());
+}
+
+TEST_F(About, GrowsWithTheFont) {
+    load();
+    const QSize usual = box->size();
+    const QFont former = QApplication::font();
+    for (const int points : {14, 18, 22}) {
+        QFont font = former;
+        font.setPointSize(points);
+        QApplication::setFont(font);
+        load();
+        show();
+        EXPECT_GT(box->width(), usual.width());
+        EXPECT_GT(box->height(), usual.height());
+        EXPECT_LE(box->width(), box->screen()->geometry().width());
+        for (const QLabel* label : box->findChildren<QLabel*>())
+            EXPECT_GE(label->height(), label->heightForWidth(label->width())) << points;
+        EXPECT_GT(ok()->y(), line()->geometry().bottom());
+        EXPECT_LT(ok()->geometry().bottom(), box->height());
+    }
+    QApplication::setFont(former);
+}
+
+TEST_F(About, TheSplashIsASplashWindowOfTheDesktop) {
+    load();
+    EXPECT_EQ(box->windowType(), Qt::Dialog);
+    box->BecomeSplash(CalendarColors(Gregorian));
+    EXPECT_EQ(box->windowType(), Qt::SplashScreen);
+    EXPECT_TRUE(box->windowFlags().testFlag(Qt::FramelessWindowHint));
+    EXPECT_EQ(box->accessibleName(), QStringLiteral("Orvalen Years Calendar"));
+}
+
 TEST_F(About, TheSplashIsCutBelowTheLine) {
     load();
     const QPoint place = box->pos();

@@ -2,8 +2,8 @@
 #include "start/language.h"
 
 #include "platform/profile.h"
-#include "start/english.h"
-#include "start/texttables.h"
+#include "shared/english.h"
+#include "support/texttables.h"
 #include "support/widget_test.h"
 
 #include <QDir>
@@ -163,7 +163,7 @@ TEST_F(Language, OfFilesThatDifferInCaseTheExactOneIsTaken) {
     writeLanguage("RUSSIAN.LNG", "[STRINGS]\n1=large\n");
     writeLanguage("Russian.lng", "[STRINGS]\n1=exact\n");
     writeLanguage("russian.lng", "[STRINGS]\n1=small\n");
-    EXPECT_EQ(LanguageList().count(QStringLiteral("Russian")), 3);
+    EXPECT_EQ(LanguageList().count(QStringLiteral("Russian")), 1) << "one name, one entry";
     load("Russian");
     EXPECT_EQ(StringTexts(1), "exact");
     load("russian");
@@ -184,6 +184,44 @@ TEST_F(Language, ListedNamesBeginWithALargeLetterInEveryScript) {
     EXPECT_TRUE(LanguageList().contains(QString::fromUtf8("Русский")));
     EXPECT_TRUE(LanguageList().contains(QString::fromUtf8("Élève")));
     EXPECT_EQ(load("Русский"), "Русский");
+}
+
+// Where letters change their number in the other case, or have none, or depend
+// on the language of the one who asks.
+TEST_F(Language, EveryListedNameOpens) {
+    const struct {
+        const char* file;
+        const char* listed;
+    } rows[] = {{"TÜRKİYE", "Türkiye"}, {"DİL", "Dil"},         {"ßeta", "ßeta"},
+                {"ﬁn", "ﬁn"},           {"ISIK", "Isik"},       {"ışık", "Işık"},
+                {"ΛΌΓΟΣ", "Λόγοσ"},     {"ŉdebele", "ŉdebele"}, {"𐐨𐐀", "𐐀𐐨"},
+                {"עברית", "עברית"},     {"STRAẞE", "Straße"}};
+    for (const auto& row : rows)
+        writeLanguage((std::string(row.file) + ".lng").c_str(),
+                      "[STRINGS]\n1=" + QByteArray(row.file) + "\n");
+    QLocale::setDefault(QLocale(QLocale::Turkish));
+    const QStringList listed = LanguageList();
+    EXPECT_EQ(listed.size(), 1 + static_cast<int>(std::size(rows)));
+    for (const auto& row : rows) {
+        EXPECT_TRUE(listed.contains(QString::fromUtf8(row.listed))) << row.listed;
+        EXPECT_EQ(load(row.listed), row.listed);
+        EXPECT_EQ(StringTexts(1), row.file);
+    }
+    QLocale::setDefault(QLocale::c());
+}
+
+TEST_F(Language, FilesThatWouldShareANameAreListedOnce) {
+    writeLanguage("DİL.lng", "[STRINGS]\n1=large\n");
+    writeLanguage("dil.lng", "[STRINGS]\n1=small\n");
+    EXPECT_EQ(LanguageList(),
+              (QStringList{QStringLiteral("English (Default)"), QStringLiteral("Dil")}));
+    load("Dil");
+    EXPECT_EQ(StringTexts(1), "large") << "the first by name";
+    writeLanguage("Dil.lng", "[STRINGS]\n1=exact\n");
+    load("Dil");
+    EXPECT_EQ(StringTexts(1), "exact");
+    load("dil");
+    EXPECT_EQ(StringTexts(1), "small");
 }
 
 TEST_F(Language, WhatIsNoFileIsNotListedAndNotFound) {

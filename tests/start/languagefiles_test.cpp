@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// The language files that come with the program.
+// The language files that come with the program: whatever lies in languages/.
 #include "platform/profile.h"
-#include "start/english.h"
+#include "shared/english.h"
 #include "support/state.h"
 
 #include <QDir>
@@ -11,36 +11,68 @@
 #include <QJsonObject>
 #include <map>
 #include <set>
+#include <tuple>
+#include <vector>
 
 namespace {
 
-const QStringList languages{
-    QStringLiteral("Arabic"),  QStringLiteral("French"),     QStringLiteral("German"),
-    QStringLiteral("Hebrew"),  QStringLiteral("Indonesian"), QStringLiteral("Italian"),
-    QStringLiteral("Persian"), QStringLiteral("Polish"),     QStringLiteral("Russian"),
-    QStringLiteral("Spanish"), QStringLiteral("Turkish"),    QStringLiteral("Ukrainian")};
+struct Entry {
+    QString section;
+    int key;
 
-const std::map<QString, int> sectionSizes{
-    {QStringLiteral("CALENDARS"), 5}, {QStringLiteral("JGMONTHS"), 12},
-    {QStringLiteral("JMONTHS"), 12},  {QStringLiteral("MMONTHS"), 12},
-    {QStringLiteral("WEEKDAYS"), 7},  {QStringLiteral("WEEKDAYSABBR"), 7},
-    {QStringLiteral("LABELS"), 12},   {QStringLiteral("STRINGS"), 25}};
+    bool operator==(const Entry& other) const = default;
+    bool operator<(const Entry& other) const {
+        return std::tie(section, key) < std::tie(other.section, other.key);
+    }
 
-/// Texts by section and key.
-using Texts = std::map<std::pair<QString, int>, QString>;
+    friend std::ostream& operator<<(std::ostream& out, const Entry& entry) {
+        return out << entry.section.toStdString() << ' ' << entry.key;
+    }
+};
 
-QByteArray bytesOf(const QString& language) {
-    QFile file(QStringLiteral(LANGUAGES_DIR "/") + language + QStringLiteral(".lng"));
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << language.toStdString();
+using Texts = std::map<Entry, QString>;
+
+QStringList languages() {
+    return QDir(QStringLiteral(LANGUAGES_DIR))
+        .entryList({QStringLiteral("*.lng")}, QDir::Files, QDir::Name)
+        .replaceInStrings(QStringLiteral(".lng"), QString());
+}
+
+std::vector<std::string> languageNames() {
+    std::vector<std::string> names;
+    for (const QString& language : languages())
+        names.push_back(language.toStdString());
+    return names;
+}
+
+QByteArray bytesOf(const QString& path) {
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
     return file.readAll();
+}
+
+QJsonObject dataOf(const QString& name) {
+    const QByteArray bytes = bytesOf(QStringLiteral(TEST_DATA_DIR "/") + name);
+    QJsonObject data = QJsonDocument::fromJson(bytes).object();
+    EXPECT_FALSE(data.isEmpty()) << name.toStdString();
+    return data;
+}
+
+QJsonObject cldrNames() {
+    return dataOf(QStringLiteral("cldr-names.json"));
+}
+
+/// Texts that are as they are on purpose, where a rule asks for others.
+QJsonObject deliberateTexts() {
+    return dataOf(QStringLiteral("deliberate-texts.json"));
 }
 
 /// Every entry of a file, read without the program's reader; entries that stand
 /// twice fail.
-Texts textsOf(const QString& language) {
+Texts textsOf(const QByteArray& bytes) {
     Texts texts;
     QString section;
-    for (const QString& line : QString::fromUtf8(bytesOf(language)).split(u'\n')) {
+    for (const QString& line : QString::fromUtf8(bytes).split(u'\n')) {
         if (line.startsWith(u'['))
             section = line.chopped(1).mid(1);
         if (line.isEmpty() || line.startsWith(u';') || line.startsWith(u'['))
@@ -48,7 +80,7 @@ Texts textsOf(const QString& language) {
         const auto equals = line.indexOf(u'=');
         const int key = line.left(equals).toInt();
         EXPECT_TRUE(texts.insert({{section, key}, line.mid(equals + 1)}).second)
-            << language.toStdString() << ": " << line.toStdString();
+            << line.toStdString();
     }
     return texts;
 }
@@ -59,18 +91,19 @@ void addTable(Texts& texts, const QString& section, const Table<std::string, siz
         texts[{section, i}] = QString::fromStdString(table(i));
 }
 
+// A calendar's months end at the first that has no name.
+void addMonths(Texts& texts, const QString& section, int calendar) {
+    for (int month = 1; month <= weekdayRow && !MonthNames(calendar, month).empty(); ++month)
+        texts[{section, month}] = QString::fromStdString(MonthNames(calendar, month));
+}
+
 Texts englishTexts() {
     SetEnglishTexts();
     Texts texts;
-    for (int month = 1; month <= 12; ++month) {
-        texts[{QStringLiteral("JGMONTHS"), month}] =
-            QString::fromStdString(MonthNames(Gregorian, month));
-        texts[{QStringLiteral("JMONTHS"), month}] =
-            QString::fromStdString(MonthNames(Jewish, month));
-        texts[{QStringLiteral("MMONTHS"), month}] =
-            QString::fromStdString(MonthNames(Moslem, month));
-    }
     addTable(texts, QStringLiteral("CALENDARS"), CalendarNames);
+    addMonths(texts, QStringLiteral("JGMONTHS"), Gregorian);
+    addMonths(texts, QStringLiteral("JMONTHS"), Jewish);
+    addMonths(texts, QStringLiteral("MMONTHS"), Moslem);
     addTable(texts, QStringLiteral("WEEKDAYS"), WeekDayNames);
     addTable(texts, QStringLiteral("WEEKDAYSABBR"), WeekDayAbbrs);
     addTable(texts, QStringLiteral("LABELS"), LabelTexts);
@@ -78,198 +111,142 @@ Texts englishTexts() {
     return texts;
 }
 
-class LanguageFiles : public StateTest {};
-
-TEST_F(LanguageFiles, AllOfThemAreThere) {
-    const QStringList found = QDir(QStringLiteral(LANGUAGES_DIR))
-                                  .entryList({QStringLiteral("*.lng")}, QDir::Files, QDir::Name)
-                                  .replaceInStrings(QStringLiteral(".lng"), QString());
-    EXPECT_EQ(found, languages);
+/// Every entry of `from` is among `texts`; what is not is named.
+void expectEntries(const Texts& texts, const Texts& from) {
+    for (const auto& [entry, text] : from)
+        EXPECT_EQ(texts.count(entry), 1U) << entry;
 }
 
-TEST_F(LanguageFiles, HoldEveryEntryAndNoOther) {
-    for (const QString& language : languages) {
-        Texts texts = textsOf(language);
-        for (const auto& [section, size] : sectionSizes) {
-            for (int key = 1; key <= size; ++key)
-                EXPECT_EQ(texts.erase({section, key}), 1U)
-                    << language.toStdString() << section.toStdString() << key;
-        }
-        for (const auto& [entry, text] : texts)
-            ADD_FAILURE() << language.toStdString() << ": unknown " << entry.first.toStdString()
-                          << ' ' << entry.second;
+QString at(const Texts& texts, const QString& section, int key) {
+    const auto found = texts.find({section, key});
+    return found == texts.end() ? QString() : found->second;
+}
+
+class LanguageFiles : public StateTest, public testing::WithParamInterface<std::string> {
+protected:
+    QByteArray bytes() const {
+        return bytesOf(QStringLiteral(LANGUAGES_DIR "/%1.lng").arg(m_language));
     }
-}
+    Texts texts() const { return textsOf(bytes()); }
 
-TEST_F(LanguageFiles, AreUtf8WithoutAMarkAndWithSimpleLineEnds) {
-    for (const QString& language : languages) {
-        const QByteArray bytes = bytesOf(language);
-        EXPECT_EQ(QString::fromUtf8(bytes).toUtf8(), bytes) << language.toStdString();
-        EXPECT_FALSE(bytes.contains('\r') || bytes.contains('\0')) << language.toStdString();
-        EXPECT_LE(bytes.size(), ProfileFile::largestSize) << language.toStdString();
-        EXPECT_TRUE(bytes.startsWith("; SPDX-License-Identifier: MIT\n")) << language.toStdString();
+    /// CLDR's names for a section, none where CLDR is no judge of it.
+    QJsonArray cldr(const QString& section) const {
+        return m_cldr[m_language].toObject()[section].toArray();
     }
-}
 
-TEST_F(LanguageFiles, TheReaderTakesEveryTextWhole) {
-    for (const QString& language : languages) {
-        const ProfileFile file = ProfileFile::FromBytes(bytesOf(language));
-        for (const auto& [entry, text] : textsOf(language)) {
-            const QByteArray value = file.GetPrivateProfileString(
-                entry.first.toUtf8(), QByteArray::number(entry.second), 255);
-            EXPECT_EQ(file.Decode(value), text)
-                << language.toStdString() << entry.first.toStdString() << entry.second;
-            EXPECT_FALSE(value.isEmpty() || text.trimmed() != text)
-                << language.toStdString() << entry.first.toStdString() << entry.second;
-        }
+    /// The text that an entry has on purpose, empty where the rules hold.
+    QString deliberate(const QString& section, int key) const {
+        return m_deliberate[section].toObject()[QString::number(key)].toString();
     }
-}
 
-// Names of months that the languages share with English, and the weekdays'
-// letters that happen to be equal.
-const std::map<QString, std::set<std::string>> equalToEnglish{
-    {QStringLiteral("French"),
-     {"Kislev", "Adar", "Iyar", "Sivan", "Av", "Safar", "Rajab", "Ramadan", "Sa"}},
-    {QStringLiteral("German"),
-     {"April", "August", "September", "November", "Adar", "Nisan", "Elul", "Muharram", "Safar",
-      "Ramadan", "Mo", "Fr", "Sa"}},
-    {QStringLiteral("Indonesian"),
-     {"April", "September", "November", "Adar", "Nisan", "Iyar", "Elul", "Safar", "Rajab",
-      "Ramadan"}},
-    {QStringLiteral("Italian"),
-     {"Tishri",    "Heshvan", "Kislev",  "Tevet",   "Shevat",   "Adar",  "Nisan",
-      "Iyar",      "Sivan",   "Av",      "Elul",    "Muharram", "Safar", "Jumada I",
-      "Jumada II", "Rajab",   "Sha‘ban", "Ramadan", "Shawwal",  "Sa"}},
-    {QStringLiteral("Polish"),
-     {"Adar", "Nisan", "Elul", "Muharram", "Safar", "Rabi I", "Rabi II", "Ramadan"}},
-    {QStringLiteral("Spanish"),
-     {"Kislev", "Tevet", "Shevat", "Adar", "Iyar", "Av", "Elul", "Muharram", "Safar", "Shawwal"}},
-    {QStringLiteral("Turkish"), {"Kislev", "Tevet", "Adar", "Nisan", "Sivan", "Av", "Elul"}}};
-
-TEST_F(LanguageFiles, LeaveNothingInEnglish) {
-    const Texts english = englishTexts();
-    for (const QString& language : languages) {
-        std::set<std::string> equal;
-        for (const auto& [entry, text] : textsOf(language)) {
-            const auto same = english.find(entry);
-            if (same != english.end() && same->second == text)
-                equal.insert(text.toStdString());
-        }
-        const auto expected = equalToEnglish.find(language);
-        EXPECT_EQ(equal,
-                  expected != equalToEnglish.end() ? expected->second : std::set<std::string>())
-            << language.toStdString();
+    /// Whether the language writes a section's names as in a heading, where CLDR
+    /// has them as inside a sentence.
+    bool isHeading(const QString& section) const {
+        return m_deliberate[QStringLiteral("with a large first letter")].toArray().contains(
+            section);
     }
-}
 
-TEST_F(LanguageFiles, WeekdaysAreShortenedToTwoCharacters) {
-    for (const QString& language : languages) {
-        std::set<QString> different;
-        Texts texts = textsOf(language);
-        for (int weekday = 1; weekday <= 7; ++weekday) {
-            const QString text = texts[{QStringLiteral("WEEKDAYSABBR"), weekday}];
-            EXPECT_LE(text.toUcs4().size(), 2) << language.toStdString() << weekday;
-            different.insert(text);
-        }
-        EXPECT_EQ(different.size(), 7U) << language.toStdString();
+    /// A name as the file should have it, by CLDR.
+    QString expectedName(const QString& section, int key) const {
+        const QString name = cldr(section)[key - 1].toString();
+        return isHeading(section) ? name.left(1).toUpper() + name.mid(1) : name;
     }
-}
 
-TEST_F(LanguageFiles, NameTheLeapYearsOfTheirVariant) {
-    for (const QString& language : languages) {
-        Texts texts = textsOf(language);
-        const QString first = texts[{QStringLiteral("LABELS"), MoslemLeapYears1Label}];
-        const QString second = texts[{QStringLiteral("LABELS"), MoslemLeapYears2Label}];
-        EXPECT_EQ(first.count(QStringLiteral("15")), 1) << language.toStdString();
-        EXPECT_EQ(QString(first).replace(QStringLiteral("15"), QStringLiteral("16")), second)
-            << language.toStdString();
-        const QString firstEra = texts[{QStringLiteral("LABELS"), MoslemEra1Label}];
-        const QString secondEra = texts[{QStringLiteral("LABELS"), MoslemEra2Label}];
-        EXPECT_EQ(QString(firstEra).replace(QStringLiteral("15"), QStringLiteral("16")), secondEra)
-            << language.toStdString();
-        EXPECT_NE(firstEra, secondEra) << language.toStdString();
-    }
-}
-
-/// Where the program's language differs from CLDR on purpose.
-struct Difference {
-    const char* language;
-    const char* section;
-    int key;
-    const char* text;
+private:
+    const QString m_language = QString::fromStdString(GetParam());
+    const QJsonObject m_cldr = cldrNames();
+    const QJsonObject m_deliberate = deliberateTexts()[m_language].toObject();
 };
 
-// Numbered months in place of long names that no grid has room for; the sign in
-// Sha‘ban as everywhere in the program; one way of transliterating per language.
-constexpr Difference differences[] = {
-    {"French", "MMONTHS", 3, "Rabia I"},        {"French", "MMONTHS", 4, "Rabia II"},
-    {"French", "MMONTHS", 5, "Joumada I"},      {"French", "MMONTHS", 6, "Joumada II"},
-    {"French", "MMONTHS", 11, "Dhou al-qi‘da"}, {"German", "JMONTHS", 4, "Tewet"},
-    {"German", "JMONTHS", 5, "Schewat"},        {"German", "MMONTHS", 3, "Rabi‘ I"},
-    {"German", "MMONTHS", 4, "Rabi‘ II"},       {"German", "MMONTHS", 8, "Scha‘ban"},
-    {"German", "MMONTHS", 10, "Schawwal"},      {"German", "MMONTHS", 11, "Dhu l-Qa‘da"},
-    {"Hebrew", "MMONTHS", 3, "רביע א׳"},        {"Hebrew", "MMONTHS", 4, "רביע ב׳"},
-    {"Hebrew", "MMONTHS", 5, "ג׳ומאדא א׳"},     {"Hebrew", "MMONTHS", 6, "ג׳ומאדא ב׳"},
-    {"Indonesian", "JMONTHS", 1, "Tisyri"},     {"Indonesian", "JMONTHS", 2, "Hesywan"},
-    {"Indonesian", "JMONTHS", 3, "Kislew"},     {"Indonesian", "JMONTHS", 4, "Tebet"},
-    {"Indonesian", "JMONTHS", 5, "Syebat"},     {"Indonesian", "JMONTHS", 9, "Siwan"},
-    {"Indonesian", "JMONTHS", 10, "Tamus"},     {"Indonesian", "JMONTHS", 11, "Ab"},
-    {"Italian", "MMONTHS", 3, "Rabi‘ I"},       {"Italian", "MMONTHS", 4, "Rabi‘ II"},
-    {"Italian", "MMONTHS", 8, "Sha‘ban"},       {"Italian", "MMONTHS", 11, "Dhu l-Qa‘da"},
-    {"Italian", "MMONTHS", 12, "Dhu l-Hijja"},  {"Persian", "JMONTHS", 6, "آذار"},
-    {"Polish", "MMONTHS", 3, "Rabi I"},         {"Polish", "MMONTHS", 4, "Rabi II"},
-    {"Russian", "MMONTHS", 3, "Раби I"},        {"Russian", "MMONTHS", 4, "Раби II"},
-    {"Russian", "MMONTHS", 5, "Джумада I"},     {"Russian", "MMONTHS", 6, "Джумада II"},
-    {"Spanish", "JMONTHS", 1, "Tishrei"},       {"Spanish", "JMONTHS", 2, "Jeshván"},
-    {"Spanish", "JMONTHS", 7, "Nisán"},         {"Spanish", "JMONTHS", 9, "Siván"},
-    {"Spanish", "MMONTHS", 3, "Rabí I"},        {"Spanish", "MMONTHS", 4, "Rabí II"},
-    {"Spanish", "MMONTHS", 5, "Yumada I"},      {"Spanish", "MMONTHS", 6, "Yumada II"},
-    {"Spanish", "MMONTHS", 7, "Rayab"},         {"Spanish", "MMONTHS", 8, "Shaabán"},
-    {"Spanish", "MMONTHS", 11, "Du l-qaada"},   {"Spanish", "MMONTHS", 12, "Du l-hiyya"},
-    {"Ukrainian", "JMONTHS", 1, "Тішрей"},      {"Ukrainian", "JMONTHS", 2, "Хешван"},
-    {"Ukrainian", "JMONTHS", 3, "Кіслев"},      {"Ukrainian", "JMONTHS", 4, "Тевет"},
-    {"Ukrainian", "JMONTHS", 8, "Іяр"},         {"Ukrainian", "JMONTHS", 11, "Ав"},
-    {"Ukrainian", "MMONTHS", 10, "Шавваль"},    {"Ukrainian", "WEEKDAYS", 5, "П’ятниця"}};
-
-/// The differing text of an entry, empty when it is to be as in CLDR.
-QString differenceOf(const QString& language, const QString& section, int key) {
-    for (const Difference& row : differences) {
-        if (language == QLatin1String(row.language) && section == QLatin1String(row.section) &&
-            key == row.key)
-            return QString::fromUtf8(row.text);
-    }
-    return {};
+TEST(LanguageFolder, EveryLanguageHasItsNamesFromCldr) {
+    for (const QString& language : languages())
+        EXPECT_TRUE(cldrNames().contains(language)) << language.toStdString();
+    for (const QString& language : cldrNames().keys())
+        EXPECT_TRUE(languages().contains(language)) << language.toStdString();
 }
 
-QJsonObject cldrNames() {
-    QFile file(QStringLiteral(TEST_DATA_DIR "/cldr-names.json"));
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-    return QJsonDocument::fromJson(file.readAll()).object();
+TEST(LanguageFolder, NothingIsDeliberateInALanguageThatIsNotThere) {
+    for (const QString& language : deliberateTexts().keys())
+        EXPECT_TRUE(languages().contains(language)) << language.toStdString();
 }
 
-TEST_F(LanguageFiles, NamesOfMonthsAndWeekdaysAreThoseOfCldr) {
-    const std::pair<QString, QString> tables[] = {
-        {QStringLiteral("JGMONTHS"), QStringLiteral("gregorian")},
-        {QStringLiteral("JMONTHS"), QStringLiteral("jewish_common")},
-        {QStringLiteral("MMONTHS"), QStringLiteral("moslem")},
-        {QStringLiteral("WEEKDAYS"), QStringLiteral("weekdays")}};
-    const QJsonObject cldr = cldrNames();
-    for (const QString& language : languages) {
-        Texts texts = textsOf(language);
-        for (const auto& [section, table] : tables) {
-            const QJsonArray names = cldr[language].toObject()[table].toArray();
-            ASSERT_EQ(names.size(), sectionSizes.at(section)) << language.toStdString();
-            for (int key = 1; key <= names.size(); ++key) {
-                const QString text = texts[{section, key}];
-                const QString name = names[key - 1].toString();
-                const QString difference = differenceOf(language, section, key);
-                EXPECT_EQ(text.toLower(), (difference.isEmpty() ? name : difference).toLower())
-                    << language.toStdString() << ": " << text.toStdString();
-                EXPECT_NE(difference.toLower(), name.toLower())
-                    << language.toStdString() << ": " << text.toStdString() << " is no difference";
-            }
-        }
+TEST_P(LanguageFiles, HoldEveryEntryAndNoOther) {
+    expectEntries(texts(), englishTexts());
+    expectEntries(englishTexts(), texts());
+}
+
+TEST_P(LanguageFiles, AreUtf8WithoutAMarkAndWithSimpleLineEnds) {
+    EXPECT_EQ(QString::fromUtf8(bytes()).toUtf8(), bytes());
+    EXPECT_FALSE(bytes().contains('\r') || bytes().contains('\0'));
+    EXPECT_LE(bytes().size(), ProfileFile::largestSize);
+    EXPECT_TRUE(bytes().startsWith("; SPDX-License-Identifier: MIT\n"));
+}
+
+TEST_P(LanguageFiles, TheReaderTakesEveryTextWhole) {
+    const ProfileFile file = ProfileFile::FromBytes(bytes());
+    for (const auto& [entry, text] : texts()) {
+        const QByteArray value = file.GetPrivateProfileString(entry.section.toUtf8(),
+                                                              QByteArray::number(entry.key), 255);
+        EXPECT_EQ(file.Decode(value).toStdString(), text.toStdString()) << entry;
+        EXPECT_FALSE(value.isEmpty() || text.trimmed() != text) << entry;
     }
 }
+
+// A weekday may well begin with the same letters as in English.
+TEST_P(LanguageFiles, LeaveNothingInEnglish) {
+    const Texts own = texts();
+    for (const auto& [entry, english] : englishTexts()) {
+        const auto& [section, key] = entry;
+        const QString text = at(own, section, key);
+        const bool beginsItsName =
+            section == QLatin1String("WEEKDAYSABBR") &&
+            at(own, QStringLiteral("WEEKDAYS"), key).startsWith(text, Qt::CaseInsensitive);
+        const bool mayBeTheSame = !cldr(section).isEmpty() || beginsItsName;
+        EXPECT_TRUE(mayBeTheSame || text != english || text == deliberate(section, key)) << entry;
+    }
+}
+
+TEST_P(LanguageFiles, WeekdaysAreShortenedToTwoCharacters) {
+    std::set<QString> different;
+    for (const auto& [entry, text] : texts()) {
+        if (entry.section != QLatin1String("WEEKDAYSABBR"))
+            continue;
+        EXPECT_LE(text.toUcs4().size(), 2) << entry;
+        different.insert(text);
+    }
+    EXPECT_EQ(different.size(), daysInWeek);
+}
+
+TEST_P(LanguageFiles, NameTheLeapYearsOfTheirVariant) {
+    const Texts own = texts();
+    const auto label = [&own](int key) { return at(own, QStringLiteral("LABELS"), key); };
+    const auto with16 = [&label](int key) {
+        return label(key).replace(QStringLiteral("15"), QStringLiteral("16"));
+    };
+    EXPECT_EQ(label(MoslemLeapYears1Label).count(QStringLiteral("15")), 1);
+    EXPECT_EQ(with16(MoslemLeapYears1Label).toStdString(),
+              label(MoslemLeapYears2Label).toStdString());
+    EXPECT_EQ(with16(MoslemEra1Label).toStdString(), label(MoslemEra2Label).toStdString());
+    EXPECT_NE(label(MoslemEra1Label), label(MoslemEra2Label));
+}
+
+TEST_P(LanguageFiles, NamesOfMonthsAndWeekdaysAreThoseOfCldr) {
+    std::map<QString, qsizetype> named;
+    for (const auto& [entry, text] : texts()) {
+        const auto& [section, key] = entry;
+        if (cldr(section).isEmpty())
+            continue;
+        ++named[section];
+        const std::string name = expectedName(section, key).toStdString();
+        const std::string own = deliberate(section, key).toStdString();
+        EXPECT_EQ(text.toStdString(), own.empty() ? name : own) << entry;
+        EXPECT_NE(own, name) << entry << " is not deliberate";
+    }
+    for (const char* section : {"JGMONTHS", "JMONTHS", "MMONTHS", "WEEKDAYS"})
+        EXPECT_EQ(named[QLatin1String(section)], cldr(QLatin1String(section)).size()) << section;
+}
+
+INSTANTIATE_TEST_SUITE_P(Shipped, LanguageFiles, testing::ValuesIn(languageNames()),
+                         [](const auto& language) { return language.param; });
 
 } // namespace

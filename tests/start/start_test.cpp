@@ -8,9 +8,8 @@
 #include "platform/commandbutton.h"
 #include "platform/flexgrid.h"
 #include "shared/look.h"
-#include "start/texttables.h"
+#include "support/texttables.h"
 #include "support/widget_test.h"
-#include "yearcals/yearcals.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -49,7 +48,6 @@ protected:
     Starting() {
         clearTexts();
         SetClock([] { return SystemDate{20, 11, 2026}; });
-        YearCals::ForgetShownYears();
         QImage moon(16, 16, QImage::Format_RGB32);
         moon.fill(Qt::yellow);
         EXPECT_TRUE(moon.save(moonPath(), "BMP"));
@@ -197,6 +195,45 @@ TEST_F(Starting, WindowsStandWhereTheSettingsPutThem) {
     EXPECT_EQ(monthly->Left(), 750);
     EXPECT_NE(ChangeCals::LoadedWindow(MoonWindowNumber)->Left(), 300) << "half a place is none";
 }
+
+// A session that ends asks the toolkit, which asks each window.
+TEST_F(Starting, TheSessionsEndClosesEveryWindowAndSavesNothing) {
+    ASSERT_TRUE(Start::Main());
+    ChangeCals::OpenYearWindowsOfPanes();
+    ChangeCals::ShowMoonWindow();
+    ChangeCals::ShowOptions();
+    ChangeCals::ShowAbout();
+    QEvent end(QEvent::Quit);
+    QCoreApplication::sendEvent(qApp, &end);
+    EXPECT_EQ(m_exitStatus, 0);
+    EXPECT_EQ(visibleWindows(), QStringList());
+    EXPECT_FALSE(QFile::exists(settingsPath()));
+}
+
+class Clocks : public Starting, public testing::WithParamInterface<SystemDate> {};
+
+TEST_P(Clocks, TheDayOfTheClockIsChosen) {
+    const SystemDate today = GetParam();
+    SetClock([today] { return today; });
+    ASSERT_TRUE(Start::Main());
+    EXPECT_EQ(visibleWindows(), QStringList{QStringLiteral("frmMonthlyCal")});
+    EXPECT_EQ(dateIn(Gregorian), (Date{today.day, today.month, today.year}));
+    // Days from 1 January 1970, which is Julian Day 2440588.
+    const std::chrono::sys_days day{std::chrono::year(today.year) / today.month / today.day};
+    EXPECT_EQ(CurJD, 2440588 + day.time_since_epoch().count());
+    for (const int c : {int{Julian}, int{Gregorian}, int{Jewish}, int{Moslem}}) {
+        ChangeCals::OpenYearWindow(c);
+        ChangeCals::LoadYear(c).Hide();
+    }
+    EXPECT_FALSE(Updating);
+}
+
+INSTANTIATE_TEST_SUITE_P(Years, Clocks,
+                         testing::Values(SystemDate{1, 1, 1}, SystemDate{31, 12, 3000},
+                                         SystemDate{1, 1, 3001}, SystemDate{31, 12, 9999}),
+                         [](const testing::TestParamInfo<SystemDate>& today) {
+                             return "Year" + std::to_string(today.param.year);
+                         });
 
 TEST_F(Starting, GridsShowAllTheirCells) {
     ASSERT_TRUE(Start::Main());

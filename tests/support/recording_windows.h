@@ -1,11 +1,17 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "calc/state.h"
+#include "changecals/changecals.h"
 #include "changecals/windows.h"
+#include "platform/text.h"
 #include "shared/flags.h"
+#include "shared/settings.h"
+#include "shared/texts.h"
 
 #include <QString>
 #include <string>
+#include <utility>
 #include <vector>
 
 /// What was asked of the recording windows, in order: "monthly.SetCal 1".
@@ -19,25 +25,66 @@ inline std::vector<std::string> takeCalls() {
     return std::exchange(calls, {});
 }
 
+/// What one recording window was asked to do.
+struct Record {
+    int texts = 0;
+    int rebuilt = 0;
+    int refilled = 0; ///< one part of it
+    int forgotten = 0;
+    QString tip; ///< as it was to be at the last SetTexts
+    QString closeTip;
+};
+
+inline void recordTexts(MainWindow& window, Record& record, const std::string& caption) {
+    ++record.texts;
+    window.SetCaption(Text(caption));
+    record.tip = ShowTips != 0 ? Text(StringTexts(TodayText)) : QString();
+    record.closeTip.clear();
+}
+
 class RecordingMonthly : public MonthlyWindow {
 public:
     RecordingMonthly() : MonthlyWindow(QStringLiteral("frmMonthlyCal")) {}
-    void SetTexts() override { record("monthly.SetTexts"); }
-    void SetCloseTip(const QString& tip) override { closeTip = tip; }
-    void SetCal(int pane) override { record("monthly.SetCal " + std::to_string(pane)); }
-    void SetGrid(int pane) override { record("monthly.SetGrid " + std::to_string(pane)); }
-    void SetCommonInfo() override { record("monthly.SetCommonInfo"); }
-    void ReSetForm() override { record("monthly.ReSetForm"); }
-    QString closeTip;
+    void SetTexts() override {
+        ::record("monthly.SetTexts");
+        recordTexts(*this, record, CalendarNames(monthlyCalendarsName));
+    }
+    void SetCloseTip(const QString& tip) override { record.closeTip = tip; }
+    void SetCal(int pane) override { refill("SetCal", pane); }
+    void SetGrid(int pane) override { refill("SetGrid", pane); }
+    void SetCommonInfo() override {
+        ::record("monthly.SetCommonInfo");
+        ++record.refilled;
+    }
+    void ReSetForm() override {
+        ::record("monthly.ReSetForm");
+        ++record.rebuilt;
+    }
+
+    Record record;
+
+private:
+    void refill(const std::string& part, int pane) {
+        ::record("monthly." + part + " " + std::to_string(pane));
+        ++record.refilled;
+    }
 };
 
 class RecordingYear : public YearWindow {
 public:
     explicit RecordingYear(int c) : YearWindow(QStringLiteral("frmYear")), m_calendar(c) {}
-    void SetTexts() override { record(name() + ".SetTexts"); }
-    void SetCloseTip(const QString& tip) override { closeTip = tip; }
-    void ShowYear() override { record(name() + ".ShowYear"); }
-    QString closeTip;
+    void SetTexts() override {
+        ::record(name() + ".SetTexts");
+        recordTexts(*this, record, CalendarNames(m_calendar));
+    }
+    void SetCloseTip(const QString& tip) override { record.closeTip = tip; }
+    void ShowYear() override {
+        ::record(name() + ".ShowYear");
+        ++record.rebuilt;
+    }
+    void ForgetYear() override { ++record.forgotten; }
+
+    Record record;
 
 private:
     std::string name() const { return "year" + std::to_string(m_calendar); }
@@ -47,10 +94,16 @@ private:
 class RecordingMoon : public MoonWindow {
 public:
     RecordingMoon() : MoonWindow(QStringLiteral("frmMoon")) {}
-    void SetTexts() override { record("moon.SetTexts"); }
-    void ReSetForm() override {
-        record("moon.ReSetForm, CurrentWindow " + std::to_string(CurrentWindow));
+    void SetTexts() override {
+        ::record("moon.SetTexts");
+        recordTexts(*this, record, LabelTexts(MoonLabel));
     }
+    void ReSetForm() override {
+        ::record("moon.ReSetForm, CurrentWindow " + std::to_string(CurrentWindow));
+        ++record.rebuilt;
+    }
+
+    Record record;
 };
 
 inline ChangeCals::WindowFactories recordingFactories() {
@@ -65,5 +118,12 @@ inline ChangeCals::WindowFactories recordingFactories() {
 
 inline void useRecordingWindows() {
     calls.clear();
-    ChangeCals::SetFactories(recordingFactories());
+    ChangeCals::BeginRun(recordingFactories());
+}
+
+/// Chooses a day by its number; what that asks of the windows is not kept.
+inline void goTo(int julianDay) {
+    CurJD = julianDay;
+    ChangeCals::ChangeJD();
+    calls.clear();
 }

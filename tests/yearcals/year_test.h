@@ -3,13 +3,14 @@
 
 #include "changecals/changecals.h"
 #include "changecals/opening.h"
+#include "platform/combobox.h"
+#include "platform/commandbutton.h"
+#include "platform/flexgrid.h"
 #include "platform/text.h"
 #include "shared/look.h"
 #include "support/recording_windows.h"
 #include "support/widget_test.h"
-#include "yearcals/yearcals.h"
-#include "yearcals/yearlayout.h"
-#include "yearcals/yearwindow.h"
+#include "yearcals/frmyearcal.h"
 
 /// The four year windows, the others recording; 20 November 2026 is chosen.
 class YearTest : public WidgetTest {
@@ -18,12 +19,37 @@ protected:
         startToday();
         auto factories = recordingFactories();
         factories.year = [](int c) { return new frmYearCal(c); };
-        ChangeCals::SetFactories(factories);
-        YearCals::ForgetShownYears();
+        ChangeCals::BeginRun(factories);
         calls.clear();
     }
 
-    static frmYearCal& year(int c) { return static_cast<frmYearCal&>(ChangeCals::Year(c)); }
+    static YearWindow& year(int c) { return ChangeCals::LoadYear(c); }
+    static MSFlexGrid& grid(int c) { return *child<MSFlexGrid>(year(c), "MSFlexGrid1"); }
+    static ComboBox& selector(int c) { return *child<ComboBox>(year(c), "Combo1"); }
+    static CommandButton& command(int c, int index) {
+        return *child<CommandButton>(year(c), qPrintable(QStringLiteral("Command1_%1").arg(index)));
+    }
+
+    /// Command1 by index.
+    enum Button : int {
+        PreviousYear = 1,
+        NextYear,
+        TodayButton,
+        OptionsButton,
+        AboutButton,
+        CloseButton,
+        FirstOtherCalendar
+    };
+
+    /// Where a day of a month stands, worked out from the month's place in the
+    /// sheet and not by the layout's own rules.
+    static GridPlace cellOf(int c, int month, int day) {
+        const bool leap = c == Jewish && JewishLeap;
+        const int place = month - 1 - (leap && month >= 7 ? 1 : 0);
+        const int left = leap && month == 7 ? 19 : place % 3 * 6 + 1;
+        const int lead = (MonthDays(c, 13 + month) - Calc::WeekStart(c) + 7) % 7;
+        return {place / 3 * 8 + 1 + (lead + day - 1) % 7, left + (lead + day - 1) / 7};
+    }
 
     static void open(int c) {
         ChangeCals::OpenYearWindow(c);
@@ -31,30 +57,23 @@ protected:
         ASSERT_TRUE(waitUntil([c] { return year(c).isActiveWindow(); }));
     }
 
-    static void goTo(int julianDay) {
-        CurJD = julianDay;
-        ChangeCals::ChangeJD();
-        calls.clear();
-    }
-
-    static QPoint centreOf(MSFlexGrid& grid, YearLayout::Cell cell) {
+    static QPoint centreOf(MSFlexGrid& grid, GridPlace cell) {
         return grid.visualRect(grid.model()->index(cell.row, cell.column)).center();
     }
 
-    static void press(int c, YearLayout::Cell cell, Qt::MouseButton button = Qt::LeftButton) {
-        MSFlexGrid& grid = year(c).Grid();
-        QTest::mouseClick(grid.viewport(), button, {}, centreOf(grid, cell));
+    static void press(int c, GridPlace cell, Qt::MouseButton button = Qt::LeftButton) {
+        QTest::mouseClick(grid(c).viewport(), button, {}, centreOf(grid(c), cell));
     }
 
     static const GridCell& cellAt(int c, int row, int column) {
-        return static_cast<GridModel*>(year(c).Grid().model())->Cell(row, column);
+        return static_cast<GridModel*>(grid(c).model())->Cell(row, column);
     }
 
     /// Checks each cell of a filled grid against the state.
     static void expectEveryCellRight(int c) {
         const int columns = c == Jewish && JewishLeap ? 25 : 19;
         int marked = 0;
-        for (int row = 0; row < YearLayout::rows; ++row) {
+        for (int row = 0; row < 32; ++row) {
             for (int column = 0; column < columns; ++column)
                 marked += checkCell(c, {row, column}) ? 1 : 0;
         }
@@ -63,13 +82,13 @@ protected:
 
 private:
     // Whether the cell is the marked one.
-    static bool checkCell(int c, YearLayout::Cell at) {
+    static bool checkCell(int c, GridPlace at) {
         const GridCell& cell = cellAt(c, at.row, at.column);
         EXPECT_EQ(cell.text, expectedText(c, at)) << at.row << " " << at.column;
         const bool chosen = cell.back == CalendarColors(ChosenDayBackground);
         if (chosen) {
             EXPECT_EQ(cell.text, QString::number(CurDate(c, Day)));
-            EXPECT_EQ(YearLayout::MonthOf(c, at), CurDate(c, Month));
+            EXPECT_EQ(at, cellOf(c, CurDate(c, Month), CurDate(c, Day)));
             EXPECT_EQ(cell.fore, TextColors(ChosenDayText));
         } else {
             EXPECT_EQ(cell.back, CalendarColors(c));
@@ -78,7 +97,7 @@ private:
     }
 
     // Worked out from the band, not by the layout's own rules.
-    static QString expectedText(int c, YearLayout::Cell at) {
+    static QString expectedText(int c, GridPlace at) {
         const int band = at.row / 8;
         if (at.column == 0)
             return at.row % 8 == 0

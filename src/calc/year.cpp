@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#include "calc/year.h"
+
+#include "calc/calc.h"
+#include "calc/state.h"
+
+#include <algorithm>
+
+int Calc::NumberDay(int c) {
+    int& day = CurDate(c, Day);
+    const int month = CurDate(c, Month);
+    day = std::min(day, MonthDays(c, month));
+    return CurDate(c, DayNumber) = DayOfYear(c, month, day);
+}
+
+void Calc::DateDay(int c, int dayNumber) {
+    CurDate(c, DayNumber) = dayNumber;
+    CurDate(c, Day) = dayNumber;
+    DayToMonth(c, CurDate(c, Month), CurDate(c, Day));
+}
+
+void Calc::SetYear(int c, int newYear) {
+    YearJD(c, FirstDay) = newYear;
+    YearJD(c, LastDay) = newYear + YearDays(c, DaysInYear) - 1;
+    SetMonthStarts(c);
+}
+
+void Calc::DateToJD(int c, int newYear) {
+    CurJD = newYear + NumberDay(c) - 1;
+    SetYear(c, newYear);
+}

@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: MIT
+#include "changecals/positions.h"
+
+#include "changecals/firstplaces.h"
+#include "changecals/windows.h"
+#include "platform/numbers.h"
+#include "platform/program.h"
+#include "platform/twips.h"
+#include "shared/settings.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+#include <optional>
+
+namespace {
+
+struct Positions {
+    Table<int, mainWindowCount> top = FormTop;
+    Table<int, mainWindowCount> left = FormLeft;
+};
+
+bool isOnDesktop(int left, int top) {
+    const QRect desktop = QGuiApplication::primaryScreen()->virtualGeometry();
+    return left < ToTwips(desktop.x() + desktop.width()) &&
+           top < ToTwips(desktop.y() + desktop.height());
+}
+
+// The first monitor on which windows stand near enough to be stored; the primary
+// one comes first, and is taken as well when none is wide enough.
+QRect deskOfFirstPlaces() {
+    for (const QScreen* screen : QGuiApplication::screens()) {
+        const QRect desk = screen->availableGeometry() & storableDesk;
+        if (desk.width() >= monthlyFrameWidth)
+            return desk;
+    }
+    const QRect narrow = QGuiApplication::primaryScreen()->availableGeometry() & storableDesk;
+    return narrow.isEmpty() ? storableDesk : narrow;
+}
+
+ChangeCals::Position firstPlace(int number) {
+    const MainWindow* monthly = ChangeCals::LoadedWindow(MonthlyWindowNumber);
+    const int height = monthly != nullptr ? monthly->height() : 0;
+    const QPoint place = FirstPlaces(deskOfFirstPlaces(), height)(number);
+    return {ToTwips(place.x()), ToTwips(place.y())};
+}
+
+ChangeCals::Position placeNow(int number, const MainWindow* window) {
+    return window != nullptr ? ChangeCals::Position{window->Left(), window->Top()}
+                             : ChangeCals::PlaceOf(number);
+}
+
+// False when the position does not fit in 16 bits.
+bool readPosition(int number, const MainWindow* window, Positions& positions) {
+    if (window != nullptr && window->WindowState() == Form::Minimised)
+        return true;
+    const ChangeCals::Position place = placeNow(number, window);
+    const std::optional<int> left = CInt(place.left);
+    const std::optional<int> top = CInt(place.top);
+    positions.left(number) = left.value_or(0);
+    positions.top(number) = top.value_or(0);
+    return left && top;
+}
+
+} // namespace
+
+ChangeCals::Position ChangeCals::PlaceOf(int number) {
+    const int top = FormTop(number);
+    const int left = FormLeft(number);
+    const bool stored = top != noPosition && left != noPosition;
+    return stored && isOnDesktop(left, top) ? Position{left, top} : firstPlace(number);
+}
+
+void ChangeCals::PlaceForm(Form& form, int number) {
+    const Position place = PlaceOf(number);
+    form.Move(place.left, place.top);
+}
+
+const MainWindow* ChangeCals::ReadPositions() {
+    if (!HasWindowPositions())
+        return nullptr;
+    Positions positions;
+    for (int number = 1; number <= mainWindowCount; ++number) {
+        const MainWindow* window = LoadedWindow(number);
+        if (!readPosition(number, window, positions))
+            return window;
+    }
+    FormTop = positions.top;
+    FormLeft = positions.left;
+    return nullptr;
+}

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+#include <functional>
+
+class Form;
+
+/// What a window can be told to do, by a button or by a key.
+enum class Command {
+    Today,           ///< Ctrl+T
+    MonthlyCalendar, ///< Ctrl+M
+    YearCalendars,   ///< Ctrl+Y, of the four panes
+    Options,         ///< Ctrl+comma
+    About,           ///< F1
+    CopyDay,         ///< Ctrl+C, the chosen day in words
+    Close,           ///< Ctrl+W
+    Exit,            ///< Ctrl+Q
+};
+
+/// The commands as one window carries them out.
+class Commands {
+public:
+    /// `number` is the window's as CurrentWindow has it, 0 for a window that shows
+    /// no calendar; `close` is what Close does there.
+    Commands(Form& window, int number, std::function<void()> close);
+
+    Commands(const Commands&) = delete;
+    Commands& operator=(const Commands&) = delete;
+
+    void Run(Command command) const;
+
+    /// A mouse button went down on the command's button: the right one on Close
+    /// ends the program.
+    void MouseDown(Command command, Qt::MouseButton button) const;
+
+    /// The picture of a command's button and the entry of StringTexts that names
+    /// it; for the commands that have a button.
+    static QString PictureOf(Command command);
+    static int TextOf(Command command);
+
+private:
+    void addKeys(Form& window);
+
+    int m_number;
+    std::function<void()> m_close;
+};

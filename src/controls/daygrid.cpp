@@ -1,0 +1,143 @@
+// SPDX-License-Identifier: MIT
+#include "controls/daygrid.h"
+
+#include "calc/calc.h"
+#include "calc/state.h"
+#include "controls/controltexts.h"
+#include "platform/numbers.h"
+#include "platform/text.h"
+#include "shared/look.h"
+#include "shared/texts.h"
+
+#include <QKeyEvent>
+
+namespace {
+
+constexpr int noCalendarColor = 0xFFFFFF;
+
+int backgroundOf(int c) {
+    return IsCalendar(c) ? CalendarColors(c) : noCalendarColor;
+}
+
+// One cell in the direction of an arrow key, nothing for another key.
+std::optional<GridPlace> arrowStep(int key) {
+    switch (key) {
+    case Qt::Key_Left:
+        return GridPlace{0, -1};
+    case Qt::Key_Right:
+        return GridPlace{0, 1};
+    case Qt::Key_Up:
+        return GridPlace{-1, 0};
+    case Qt::Key_Down:
+        return GridPlace{1, 0};
+    default:
+        return std::nullopt;
+    }
+}
+
+} // namespace
+
+DayGrid::DayGrid(const QString& name, int bands, int titleRows, int columns, QWidget* parent)
+    : MSFlexGrid(name, bands * (titleRows + daysInWeek), columns, parent), m_titleRows(titleRows) {
+    SetSelectedColor(CalendarColors(ChosenDayBackground));
+    SetAccessibleText([this](int row, int column) { return spokenText({row, column}); });
+}
+
+GridPlace DayGrid::CellOf(int month, int day) const {
+    const GridPlace corner = CornerOf(month);
+    const int place = Calc::LeadingBlanks(m_calendar, month) + day - 1;
+    return {corner.row + place % daysInWeek, corner.column + place / daysInWeek};
+}
+
+int DayGrid::MonthAt(GridPlace cell) const {
+    const bool canHoldDay = cell.column > 0 && weekRow(cell.row) >= 0;
+    return canHoldDay && !TextMatrix(cell.row, cell.column).isEmpty() ? MonthOf(cell) : 0;
+}
+
+void DayGrid::SetCalendar(int c) {
+    m_calendar = c;
+    SetBackColor(backgroundOf(c));
+    SetAllCellColors(backgroundOf(c), TextColors(OrdinaryText));
+}
+
+void DayGrid::FillWeekdays() {
+    for (int row = 0; row < Rows(); ++row) {
+        if (weekRow(row) >= 0)
+            SetTextMatrix(row, 0, Text(WeekDayAbbrs(Calc::WeekdayOfRow(m_calendar, weekRow(row)))));
+    }
+}
+
+void DayGrid::FillMonth(int month) {
+    const GridPlace corner = CornerOf(month);
+    const int lead = Calc::LeadingBlanks(m_calendar, month);
+    for (int place = 0; place < monthColumns * daysInWeek; ++place) {
+        const int day = place - lead + 1;
+        const bool inMonth = day >= 1 && day <= MonthDays(m_calendar, month);
+        SetTextMatrix(corner.row + place % daysInWeek, corner.column + place / daysInWeek,
+                      inMonth ? QString::number(day) : QString());
+    }
+}
+
+void DayGrid::MoveMark(GridPlace to) {
+    const DrawingOff drawingOff(*this);
+    setLook(m_marked, backgroundOf(m_calendar), TextColors(OrdinaryText), false);
+    setLook(to, CalendarColors(ChosenDayBackground), TextColors(ChosenDayText), true);
+    m_marked = to;
+}
+
+void DayGrid::MarkChosenDay() {
+    MoveMark(CellOf(CurDate(m_calendar, Month), CurDate(m_calendar, Day)));
+}
+
+std::optional<int> DayGrid::PressedDay() const {
+    const GridPlace cell{Row(), Col()};
+    if (MonthAt(cell) == 0 || CellBackColor() == CalendarColors(ChosenDayBackground))
+        return std::nullopt;
+    return CLng(Val(TextMatrix(cell.row, cell.column)));
+}
+
+void DayGrid::keyPressEvent(QKeyEvent* event) {
+    if (const auto step = arrowStep(event->key()))
+        moveTo(*step);
+    else if (event->key() == Qt::Key_PageUp || event->key() == Qt::Key_PageDown)
+        Q_EMIT Paged(event->key() == Qt::Key_PageUp ? -1 : 1,
+                     event->modifiers().testFlag(Qt::ShiftModifier));
+    else if (event->key() == Qt::Key_Home || event->key() == Qt::Key_End)
+        Q_EMIT EndAsked(event->key() == Qt::Key_Home ? -1 : 1);
+    else
+        MSFlexGrid::keyPressEvent(event);
+}
+
+// The row of the week from 0, below 0 for a title.
+int DayGrid::weekRow(int row) const {
+    return row % (m_titleRows + daysInWeek) - m_titleRows;
+}
+
+// Leaves the cell current.
+void DayGrid::setLook(GridPlace cell, int back, int fore, bool bold) {
+    SetRow(cell.row);
+    SetCol(cell.column);
+    SetCellBackColor(back);
+    SetCellForeColor(fore);
+    SetCellFontBold(bold);
+}
+
+// To the next day in a direction, over blanks, titles and names; where there is
+// none the current cell stays.
+void DayGrid::moveTo(GridPlace step) {
+    GridPlace cell{Row() + step.row, Col() + step.column};
+    while (Contains(cell) && MonthAt(cell) == 0)
+        cell = {cell.row + step.row, cell.column + step.column};
+    if (Contains(cell))
+        MoveTo(cell);
+}
+
+QString DayGrid::spokenText(GridPlace cell) const {
+    QString text = TextMatrix(cell.row, cell.column);
+    const int month = MonthAt(cell);
+    if (text.isEmpty() || weekRow(cell.row) < 0)
+        return text;
+    const int weekday = Calc::WeekdayOfRow(m_calendar, weekRow(cell.row));
+    return month == 0 ? Text(WeekDayNames(weekday))
+                      : Controls::SpokenDate(m_calendar, weekday, text, month);
+}

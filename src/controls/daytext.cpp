@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#include "controls/daytext.h"
+
+#include "calc/calc.h"
+#include "calc/state.h"
+#include "platform/numbers.h"
+#include "platform/text.h"
+#include "shared/texts.h"
+
+#include <QStringList>
+
+namespace {
+
+QString line(const std::string& name, const QString& value) {
+    return Text(name) + QStringLiteral(": ") + value;
+}
+
+QString dateIn(int c) {
+    return QStringLiteral("%1 %2 %3")
+        .arg(QString::number(CurDate(c, Day)), Isolated(Text(MonthNames(c, CurDate(c, Month)))),
+             QString::number(CurDate(c, Year)));
+}
+
+} // namespace
+
+QString Controls::ChosenDayInWords() {
+    QStringList lines;
+    for (int c = 1; c <= calendarCount; ++c) {
+        if (!Calc::IsBeforeRange(c) && !Calc::IsAfterRange(c))
+            lines.append(line(CalendarNames(c), dateIn(c)));
+    }
+    lines.append(line(StringTexts(WeekDayText), Text(WeekDayNames(WeekDayNo))));
+    lines.append(line(StringTexts(JulianDayText), QString::number(CurJD)));
+    lines.append(line(StringTexts(MoonAgeText), FormatOneDecimal(MoonAge)));
+    return lines.join(u'\n');
+}

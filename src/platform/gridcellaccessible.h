@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QAccessible>
+#include <QPersistentModelIndex>
+#include <QPointer>
+
+class MSFlexGrid;
+
+/// A cell of a grid as assistive tools see it.
+class GridCellAccessible : public QAccessibleInterface,
+                           public QAccessibleTableCellInterface,
+                           public QAccessibleActionInterface {
+public:
+    GridCellAccessible(MSFlexGrid* grid, int row, int column);
+
+    bool isValid() const override;
+    QObject* object() const override { return nullptr; }
+    QWindow* window() const override;
+    QAccessibleInterface* parent() const override;
+    QAccessibleInterface* childAt(int, int) const override { return nullptr; }
+    QAccessibleInterface* child(int) const override { return nullptr; }
+    int childCount() const override { return 0; }
+    int indexOfChild(const QAccessibleInterface*) const override { return -1; }
+    QString text(QAccessible::Text kind) const override;
+    void setText(QAccessible::Text, const QString&) override {}
+    QRect rect() const override;
+    QAccessible::Role role() const override { return QAccessible::Cell; }
+    QAccessible::State state() const override;
+    void* interface_cast(QAccessible::InterfaceType type) override;
+
+    bool isSelected() const override;
+    QList<QAccessibleInterface*> columnHeaderCells() const override { return {}; }
+    QList<QAccessibleInterface*> rowHeaderCells() const override { return {}; }
+    int rowIndex() const override { return m_index.row(); }
+    int columnIndex() const override { return m_index.column(); }
+    int rowExtent() const override;
+    int columnExtent() const override;
+    QAccessibleInterface* table() const override { return parent(); }
+
+    QStringList actionNames() const override;
+    void doAction(const QString& name) override;
+    QStringList keyBindingsForAction(const QString& name) const override;
+
+private:
+    bool isShown() const;
+
+    QPointer<MSFlexGrid> m_grid;
+    QPersistentModelIndex m_index;
+};

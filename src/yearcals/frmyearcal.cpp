@@ -1,0 +1,242 @@
+// SPDX-License-Identifier: MIT
+#include "yearcals/frmyearcal.h"
+
+#include "calc/state.h"
+#include "changecals/changecals.h"
+#include "changecals/closing.h"
+#include "changecals/opening.h"
+#include "changecals/positions.h"
+#include "controls/controltexts.h"
+#include "controls/emblems.h"
+#include "controls/yearlist.h"
+#include "platform/text.h"
+#include "platform/twips.h"
+#include "shared/flags.h"
+#include "shared/texts.h"
+#include "yearcals/yeargrid.h"
+
+#include <QEvent>
+
+namespace {
+
+// In twips.
+constexpr int controlsHeight = 780;
+constexpr int frameWidth = 30;
+
+// In pixels.
+constexpr int margin = 4;
+constexpr int frame = 1;
+constexpr int leastGap = 2; // between groups
+
+constexpr int buttonsInRow = 10; // Command1 and the moon
+constexpr int groups = 4;
+
+QString nameOf(int c) {
+    static const Table<QString, calendarCount> names{
+        QStringLiteral("frmJulian"), QStringLiteral("frmGregorian"), QStringLiteral("frmJewish"),
+        QStringLiteral("frmMoslem")};
+    return names(c);
+}
+
+} // namespace
+
+frmYearCal::frmYearCal(int c)
+    : YearWindow(nameOf(c)),
+      m_calendar(c),
+      m_commands(*this, c, [this] { ChangeCals::CloseWindow(*this); }),
+      m_combo1(new ComboBox(QStringLiteral("Combo1"), this)),
+      m_command2(this),
+      m_grid(new YearGrid(c, this)) {
+    createControls();
+    placeControls();
+    connectControls();
+    fitWindow();
+    m_grid->setFocus(); // the days, not a list that would be filled at once
+    SetTexts();
+    ChangeCals::PlaceForm(*this, c);
+}
+
+void frmYearCal::SetTexts() {
+    SetCaption(Text(CalendarNames(m_calendar)));
+    const auto setTip = [this](QWidget* control, const std::string& tip) {
+        Controls::SetTip(control, Text(tip), m_calendar);
+    };
+    setTip(m_combo1, StringTexts(YearText));
+    setTip(m_command1(PreviousYear), StringTexts(PreviousYearText));
+    setTip(m_command1(NextYear), StringTexts(NextYearText));
+    for (int index = TodayButton; index <= CloseButton; ++index)
+        setTip(m_command1(index), StringTexts(Commands::TextOf(commandOf(index))));
+    for (int index = FirstOtherCalendar; index <= buttonCount; ++index)
+        setTip(m_command1(index), CalendarNames(otherCalendar(index)));
+    m_command2.SetTexts(m_calendar);
+    setTip(m_grid, StringTexts(YearGridText));
+}
+
+void frmYearCal::SetCloseTip(const QString& tip) {
+    Controls::SetTip(m_command1(CloseButton), tip, m_calendar);
+}
+
+void frmYearCal::ShowYear() {
+    YearCals::ShowYear(arranged(), m_calendar);
+}
+
+void frmYearCal::ForgetYear() {
+    m_grid->ForgetYear();
+}
+
+void frmYearCal::Form_Unload() {
+    ChangeCals::AfterWindowClosed();
+}
+
+void frmYearCal::resizeEvent(QResizeEvent* event) {
+    YearWindow::resizeEvent(event);
+    Form_Resize();
+}
+
+void frmYearCal::changeEvent(QEvent* event) {
+    YearWindow::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange)
+        Form_Resize();
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        placeControls();
+}
+
+void frmYearCal::Combo1_Click() {
+    Controls::ChooseYearOf(*m_combo1, m_calendar, m_calendar);
+}
+
+void frmYearCal::MSFlexGrid1_MouseDown(Qt::MouseButton button) {
+    if (button == Qt::LeftButton)
+        m_grid->PickYearCell();
+}
+
+void frmYearCal::Command1_Click(int index) {
+    if (index == PreviousYear)
+        StepYear(-1);
+    else if (index == NextYear)
+        StepYear(+1);
+    else if (index >= FirstOtherCalendar)
+        ChangeCals::OpenYearWindow(otherCalendar(index));
+    else
+        m_commands.Run(commandOf(index));
+}
+
+void frmYearCal::Command1_MouseDown(int index, Qt::MouseButton button) {
+    if (index == CloseButton)
+        m_commands.MouseDown(Command::Close, button);
+}
+
+// Only the Jewish year changes its width.
+void frmYearCal::Form_Resize() {
+    if (m_calendar == Jewish)
+        m_grid->FitYear();
+}
+
+// At the first and at the last year nothing happens.
+void frmYearCal::StepYear(int by) {
+    const UpdatingGuard updating;
+    const int year = CurDate(m_calendar, Year) + by;
+    if (year < MinYear(m_calendar) || year > MaxYear(m_calendar))
+        return;
+    CurDate(m_calendar, Year) = year;
+    CurrentWindow = m_calendar;
+    ChangeCals::ChangeCal(m_calendar);
+}
+
+void frmYearCal::createControls() {
+    const auto create = [this](int index, const QString& picture) {
+        m_command1(index) =
+            new CommandButton(QStringLiteral("Command1_%1").arg(index), picture, this);
+    };
+    create(PreviousYear, QStringLiteral("buttons/previous"));
+    create(NextYear, QStringLiteral("buttons/next"));
+    for (int index = TodayButton; index <= CloseButton; ++index)
+        create(index, Commands::PictureOf(commandOf(index)));
+    for (int index = FirstOtherCalendar; index <= buttonCount; ++index)
+        create(index, Controls::EmblemOf(otherCalendar(index)));
+}
+
+void frmYearCal::connectControls() {
+    m_combo1->SetFiller([c = m_calendar] { return Controls::YearEntries(c); });
+    connect(m_combo1, &ComboBox::Click, this, &frmYearCal::Combo1_Click);
+    connect(m_grid, &MSFlexGrid::MouseDown, this, &frmYearCal::MSFlexGrid1_MouseDown);
+    connect(m_grid, &MSFlexGrid::DblClick, this, &ChangeCals::ShowMonthlyWindow);
+    connect(m_grid, &DayGrid::Paged, this, &frmYearCal::StepYear);
+    connect(m_grid, &YearGrid::Fitted, this, &frmYearCal::fitWindow);
+    for (int index = 1; index <= buttonCount; ++index) {
+        CommandButton* button = m_command1(index);
+        connect(button, &CommandButton::clicked, this, [this, index] { Command1_Click(index); });
+        connect(button, &CommandButton::MouseDown, this,
+                [this, index](Qt::MouseButton pressed) { Command1_MouseDown(index, pressed); });
+    }
+}
+
+// The row of controls above the grid, in the order in which Tab goes through it:
+// the year, its steps, the moon and the other calendars, the program. The groups
+// share what room the narrowest year leaves.
+void frmYearCal::placeControls() {
+    const int height = ToPixels(controlsHeight);
+    const int room = YearGrid::NarrowestWidth() + ToPixels(frameWidth) - 2 * margin -
+                     buttonsInRow * CommandButton::side;
+    const int selectorWidth =
+        m_combo1->FitWidth(QString::number(MaxYear(m_calendar)), room - (groups - 1) * leastGap);
+    const int comboHeight = m_combo1->sizeHint().height();
+    m_combo1->setGeometry(margin, (height - comboHeight) / 2, selectorWidth, comboHeight);
+    const int gap = (room - selectorWidth) / (groups - 1);
+    int left = margin + selectorWidth;
+    QWidget* before = m_combo1;
+    const auto placeNext = [&](QWidget* control) {
+        control->move(left, (height - CommandButton::side) / 2);
+        setTabOrder(before, control);
+        before = control;
+        left += CommandButton::side;
+    };
+    const auto placeGroup = [&](int first, int last) {
+        for (int index = first; index <= last; ++index)
+            placeNext(m_command1(index));
+    };
+    left += gap;
+    placeGroup(PreviousYear, TodayButton);
+    left += gap;
+    m_command2.Move(left, (height - CommandButton::side) / 2);
+    placeNext(m_command2.Front());
+    placeGroup(FirstOtherCalendar, buttonCount);
+    left += gap;
+    placeGroup(OptionsButton, CloseButton);
+    setTabOrder(before, m_grid);
+    m_grid->move(frame, height - frame);
+}
+
+void frmYearCal::fitWindow() {
+    if (WindowState() == Normal)
+        SetSize(ToTwips(m_grid->width()) + frameWidth, ToTwips(m_grid->height()) + controlsHeight);
+}
+
+// The commands that both kinds of calendar window have.
+Command frmYearCal::commandOf(int index) {
+    switch (index) {
+    case TodayButton:
+        return Command::Today;
+    case OptionsButton:
+        return Command::Options;
+    case AboutButton:
+        return Command::About;
+    default:
+        return Command::Close;
+    }
+}
+
+// The calendars but this window's, in their order.
+int frmYearCal::otherCalendar(int index) const {
+    const int place = index - FirstOtherCalendar + 1;
+    return place < m_calendar ? place : place + 1;
+}
+
+YearCals::YearControls frmYearCal::arranged() {
+    return {*m_grid,
+            *m_combo1,
+            *m_command1(PreviousYear),
+            *m_command1(NextYear),
+            m_command2,
+            *m_command1(FirstOtherCalendar)};
+}

@@ -1,0 +1,158 @@
+// SPDX-License-Identifier: MIT
+#include "yearcals/yeargrid.h"
+
+#include "calc/calc.h"
+#include "calc/state.h"
+#include "changecals/changecals.h"
+#include "platform/pointer.h"
+#include "platform/text.h"
+#include "platform/twips.h"
+#include "shared/flags.h"
+#include "shared/look.h"
+#include "shared/texts.h"
+#include "yearcals/yearlayout.h"
+
+namespace {
+
+using YearLayout::bandRows;
+
+// In twips.
+constexpr int weekdayColumnWidth = 345;
+constexpr int weekColumnWidth = 300;
+constexpr int weekdayRowHeight = 195;
+constexpr int titleRowHeight = 360;
+
+constexpr int digitPixels = 10;
+
+int columnsOf(int c) {
+    return 1 + (c == Jewish ? YearLayout::leapColumns : YearLayout::commonColumns);
+}
+
+int gridWidth(int weekColumns) {
+    const int slack = weekColumns == YearLayout::leapColumns ? 30 : 60;
+    return weekdayColumnWidth + weekColumns * weekColumnWidth + slack;
+}
+
+int gridHeight() {
+    const int band = titleRowHeight + daysInWeek * weekdayRowHeight;
+    return YearLayout::bands * band + 90;
+}
+
+} // namespace
+
+YearGrid::YearGrid(int c, QWidget* parent)
+    : DayGrid(QStringLiteral("MSFlexGrid1"), YearLayout::bands, YearLayout::titleRows, columnsOf(c),
+              parent) {
+    InitYearGrid(c);
+    connect(this, &DayGrid::EndAsked, this, &YearGrid::chooseEnd);
+}
+
+void YearGrid::ShowYear() {
+    if (m_shownFirstJD <= CurJD && CurJD <= m_shownLastJD)
+        MarkChosenDay();
+    else
+        BuildYearGrid();
+}
+
+void YearGrid::ForgetYear() {
+    m_shownFirstJD = m_shownLastJD = 0;
+}
+
+void YearGrid::PickYearCell() {
+    const auto day = PressedDay();
+    if (!day)
+        return;
+    const GridPlace cell{Row(), Col()};
+    MoveMark(cell);
+    chooseDay(MonthOf(cell), *day);
+}
+
+int YearGrid::NarrowestWidth() {
+    return ToPixels(gridWidth(YearLayout::commonColumns));
+}
+
+void YearGrid::FitYear() {
+    const bool wide = Calendar() == Jewish && JewishLeap;
+    for (int column = YearLayout::adarTwoColumn; column < Cols(); ++column)
+        SetColHidden(column, !wide);
+    SetSize(gridWidth(wide ? YearLayout::leapColumns : YearLayout::commonColumns), gridHeight());
+    Q_EMIT Fitted();
+}
+
+GridPlace YearGrid::CornerOf(int month) const {
+    return YearLayout::BlockOf(Calendar(), month);
+}
+
+int YearGrid::MonthOf(GridPlace cell) const {
+    return YearLayout::MonthOf(Calendar(), cell);
+}
+
+// Once: sizes, merged title rows, colours.
+void YearGrid::InitYearGrid(int c) {
+    SetFontPixelSize(digitPixels);
+    SetColWidth(0, weekdayColumnWidth);
+    for (int column = 1; column < Cols(); ++column)
+        SetColWidth(column, weekColumnWidth);
+    for (int row = 0; row < Rows(); ++row)
+        SetRowHeight(row, row % bandRows == 0 ? titleRowHeight : weekdayRowHeight);
+    for (int row = 0; row < Rows(); row += bandRows)
+        SetMergeRow(row);
+    SetCalendar(c);
+    SetSize(gridWidth(YearLayout::commonColumns), gridHeight());
+}
+
+// Refills the grid for the chosen year.
+void YearGrid::BuildYearGrid() {
+    const HourglassPointer hourglass;
+    const DrawingOff drawingOff(*this);
+    m_shownFirstJD = YearJD(Calendar(), FirstDay);
+    m_shownLastJD = YearJD(Calendar(), LastDay);
+    FillWeekdays();
+    for (int month = 1; month <= Calc::MonthsInYear(Calendar()); ++month) {
+        setTitle(month);
+        FillMonth(month);
+    }
+    if (!JewishLeap)
+        blankAdarTwo();
+    MarkChosenDay();
+    if (Calendar() == Jewish)
+        FitYear();
+}
+
+void YearGrid::setTitle(int month) {
+    const GridPlace corner = CornerOf(month);
+    const QString title =
+        QStringLiteral("(%1)  ").arg(month) + Isolated(Text(MonthNames(Calendar(), month)));
+    for (int column = corner.column; column < corner.column + monthColumns; ++column) {
+        SetTextMatrix(corner.row - 1, column, title);
+        SetRow(corner.row - 1);
+        SetCol(column);
+        SetCellFontBold(true);
+        SetCellForeColor(TextColors(TitleText));
+    }
+}
+
+// Only the Jewish grid has the columns.
+void YearGrid::blankAdarTwo() {
+    for (int row = bandRows; row < 2 * bandRows; ++row) {
+        for (int column = YearLayout::adarTwoColumn; column < Cols(); ++column)
+            SetTextMatrix(row, column, QString());
+    }
+}
+
+void YearGrid::chooseEnd(int direction) {
+    const int month = direction < 0 ? 1 : Calc::MonthsInYear(Calendar());
+    const int day = direction < 0 ? 1 : MonthDays(Calendar(), month);
+    if (month == CurDate(Calendar(), Month) && day == CurDate(Calendar(), Day))
+        MoveTo(MarkedCell());
+    else
+        chooseDay(month, day);
+}
+
+void YearGrid::chooseDay(int month, int day) {
+    const UpdatingGuard updating;
+    CurDate(Calendar(), Day) = day;
+    CurDate(Calendar(), Month) = month;
+    CurrentWindow = Calendar();
+    ChangeCals::ChangeCal(Calendar());
+}

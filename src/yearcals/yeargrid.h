@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "controls/daygrid.h"
+
+/// A whole year of one calendar: twelve months (thirteen in a Jewish leap year),
+/// each under its title.
+class YearGrid final : public DayGrid {
+    Q_OBJECT
+
+public:
+    YearGrid(int c, QWidget* parent);
+
+    /// Brings the grid up to date with the chosen day: moves the mark when the day
+    /// is in the year already filled in, refills the grid otherwise.
+    void ShowYear();
+
+    /// The next ShowYear refills the grid.
+    void ForgetYear();
+
+    /// Makes the day of the current cell the chosen one. A blank cell, a title, a
+    /// weekday or the marked day is left alone.
+    void PickYearCell();
+
+    /// Of a year without a thirteenth month, in pixels.
+    static int NarrowestWidth();
+
+    /// As wide as its year asks for: the Jewish one has more columns in a leap year.
+    void FitYear();
+
+Q_SIGNALS:
+    /// The grid has another size.
+    void Fitted();
+
+protected:
+    GridPlace CornerOf(int month) const override;
+    int MonthOf(GridPlace cell) const override;
+
+private:
+    void InitYearGrid(int c);
+    void BuildYearGrid();
+    void setTitle(int month);
+    void blankAdarTwo();
+    void chooseEnd(int direction);
+    void chooseDay(int month, int day);
+
+    /// First and last Julian Day of the year that the grid is filled with, both 0
+    /// when it holds none.
+    int m_shownFirstJD = 0;
+    int m_shownLastJD = 0;
+};

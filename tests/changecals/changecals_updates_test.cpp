@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: MIT
+#include "changecals/changecals.h"
+
+#include "changecals/opening.h"
+#include "support/recording_windows.h"
+#include "support/widget_test.h"
+
+namespace {
+
+using Calls = std::vector<std::string>;
+
+class Updates : public WidgetTest {
+protected:
+    Updates() {
+        startToday();
+        useRecordingWindows();
+    }
+};
+
+const Calls monthlyRedraw{"monthly.SetCal 1",  "monthly.SetGrid 1", "monthly.SetCal 2",
+                          "monthly.SetGrid 2", "monthly.SetCal 3",  "monthly.SetGrid 3",
+                          "monthly.SetCal 4",  "monthly.SetGrid 4", "monthly.SetCommonInfo"};
+
+Calls join(std::initializer_list<Calls> parts) {
+    Calls all;
+    for (const Calls& part : parts)
+        all.insert(all.end(), part.begin(), part.end());
+    return all;
+}
+
+TEST_F(Updates, NothingIsRedrawnOrCreatedWhileNothingIsVisible) {
+    ChangeCals::ChangeJD();
+    EXPECT_EQ(takeCalls(), Calls{});
+    EXPECT_EQ(ChangeCals::LoadedWindow(MonthlyWindowNumber), nullptr);
+}
+
+TEST_F(Updates, TheMonthlyWindowComesFirstThenTheYearWindowsThenTheMoon) {
+    ChangeCals::LoadMonthly().Show();
+    ChangeCals::LoadYear(Moslem).Show();
+    ChangeCals::LoadYear(Julian).Show();
+    ChangeCals::LoadMoon().Show();
+    ChangeCals::ChangeJD();
+    EXPECT_EQ(takeCalls(),
+              join({monthlyRedraw,
+                    {"year1.ShowYear", "year4.ShowYear", "moon.ReSetForm, CurrentWindow 0"}}));
+}
+
+TEST_F(Updates, TheAskingYearWindowComesFirstAndOnceEvenIfHidden) {
+    ChangeCals::LoadMonthly().Show();
+    ChangeCals::LoadYear(Julian).Show();
+    ChangeCals::LoadMoon().Show();
+    CurrentWindow = Jewish;
+    ChangeCals::ChangeJD();
+    EXPECT_EQ(takeCalls(), join({{"year3.ShowYear"},
+                                 monthlyRedraw,
+                                 {"year1.ShowYear", "moon.ReSetForm, CurrentWindow 0"}}));
+    EXPECT_EQ(CurrentWindow, 0);
+}
+
+TEST_F(Updates, HiddenWindowsAreLeftAlone) {
+    ChangeCals::LoadMonthly().Show();
+    ChangeCals::LoadYear(Gregorian).Show();
+    ChangeCals::LoadYear(Gregorian).Hide();
+    ChangeCals::LoadMonthly().Hide();
+    ChangeCals::ChangeCal(Gregorian);
+    EXPECT_EQ(takeCalls(), Calls{});
+}
+
+TEST_F(Updates, MinimisedWindowsAreRedrawn) {
+    ChangeCals::LoadYear(Jewish).showMinimized();
+    ChangeCals::ChangeJD();
+    EXPECT_EQ(takeCalls(), Calls{"year3.ShowYear"});
+}
+
+TEST_F(Updates, AStoredWindowNumberThatIsNoneCountsAsTheMonthlyWindow) {
+    ChangeCals::LoadYear(Julian).Show();
+    for (const int number : {5, 9, -1}) {
+        CurrentWindow = number;
+        ChangeCals::ChangeJD();
+        EXPECT_EQ(takeCalls(), Calls{"year1.ShowYear"}) << number;
+        EXPECT_EQ(CurrentWindow, 0);
+    }
+}
+
+TEST_F(Updates, TodayWithoutAChangeDoesNothing) {
+    ChangeCals::LoadYear(Julian).Show();
+    CurrentWindow = 0;
+    ChangeCals::GoToToday(Jewish);
+    EXPECT_EQ(takeCalls(), Calls{});
+    EXPECT_EQ(CurrentWindow, 0);
+}
+
+TEST_F(Updates, TodayGoesThroughTheGregorianCalendar) {
+    CurJD = 2451545;
+    ChangeCals::ChangeJD();
+    ChangeCals::LoadYear(Jewish).Show();
+    ChangeCals::LoadYear(Julian).Show();
+    ChangeCals::GoToToday(Jewish);
+    EXPECT_EQ(dateIn(Gregorian), (Date{20, 11, 2026}));
+    EXPECT_EQ(takeCalls(), (Calls{"year3.ShowYear", "year1.ShowYear"}));
+}
+
+} // namespace

@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: MIT
+#include "changecals/opening.h"
+
+#include "changecals/changecals.h"
+#include "support/recording_windows.h"
+#include "support/widget_test.h"
+
+namespace {
+
+using Calls = std::vector<std::string>;
+
+class Opening : public WidgetTest {
+protected:
+    Opening() {
+        startToday();
+        useRecordingWindows();
+    }
+};
+
+TEST_F(Opening, OpeningAYearWindowShowsItUpToDateInFront) {
+    ChangeCals::OpenYearWindow(Moslem);
+    EXPECT_EQ(takeCalls(), Calls{"year4.ShowYear"});
+    EXPECT_TRUE(ChangeCals::LoadYear(Moslem).Visible());
+}
+
+TEST_F(Opening, ANumberThatIsNoCalendarOpensNothing) {
+    for (const int c : {0, 5, 9, -1})
+        ChangeCals::OpenYearWindow(c);
+    EXPECT_EQ(takeCalls(), Calls{});
+}
+
+TEST_F(Opening, YearWindowsOfThePanesOpenFromTheLastToTheFirst) {
+    CalendarOrder = {9, Jewish, Julian, Moslem};
+    ChangeCals::OpenYearWindowsOfPanes();
+    EXPECT_EQ(takeCalls(), (Calls{"year4.ShowYear", "year1.ShowYear", "year3.ShowYear"}));
+}
+
+TEST_F(Opening, TheMoonWindowIsRedrawnOnOpeningOnlyWhenItWasNotVisible) {
+    ChangeCals::ShowMoonWindow();
+    ChangeCals::ShowMoonWindow();
+    EXPECT_EQ(takeCalls(), Calls{"moon.ReSetForm, CurrentWindow 0"});
+}
+
+TEST_F(Opening, TheMonthlyWindowIsRebuiltAndTheDayCarriedOnceWhenItWasNotVisible) {
+    ChangeCals::LoadYear(Moslem).Show();
+    ChangeCals::ShowMonthlyWindow();
+    EXPECT_EQ(takeCalls(), (Calls{"monthly.ReSetForm", "year4.ShowYear"}));
+    EXPECT_TRUE(ChangeCals::LoadMonthly().Visible());
+    ChangeCals::ShowMonthlyWindow();
+    EXPECT_EQ(takeCalls(), Calls{});
+}
+
+TEST_F(Opening, MinimisedWindowsComeBackWhenTheyAreAskedFor) {
+    for (Form* window : {static_cast<Form*>(&ChangeCals::LoadMonthly()),
+                         static_cast<Form*>(&ChangeCals::LoadYear(Julian)),
+                         static_cast<Form*>(&ChangeCals::LoadMoon())})
+        window->showMinimized();
+    ChangeCals::ShowMonthlyWindow();
+    ChangeCals::OpenYearWindow(Julian);
+    ChangeCals::ShowMoonWindow();
+    for (const int number : {int{MonthlyWindowNumber}, int{Julian}, int{MoonWindowNumber}})
+        EXPECT_EQ(ChangeCals::LoadedWindow(number)->WindowState(), Form::Normal) << number;
+}
+
+TEST_F(Opening, BringingUpTheMonthlyWindowKeepsTheChosenDay) {
+    for (int julianDay = 1721319; julianDay <= 2817404; julianDay += 997) {
+        CurJD = julianDay;
+        ChangeCals::ChangeJD();
+        const StateSnapshot before;
+        ChangeCals::ShowMonthlyWindow();
+        ChangeCals::LoadMonthly().Hide();
+        ASSERT_EQ(StateSnapshot{}, before) << julianDay;
+    }
+}
+
+} // namespace

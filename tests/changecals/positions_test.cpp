@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+#include "changecals/positions.h"
+
+#include "platform/twips.h"
+#include "support/recording_windows.h"
+#include "support/widget_test.h"
+
+#include <QScreen>
+
+namespace {
+
+class PositionsOfWindows : public WidgetTest {
+protected:
+    PositionsOfWindows() { useRecordingWindows(); }
+};
+
+TEST_F(PositionsOfWindows, AreTheStoredOnesWhereTheyAreOnTheDesktop) {
+    const QSize screen = QGuiApplication::primaryScreen()->size();
+    const int width = ToTwips(screen.width());
+    const int height = ToTwips(screen.height());
+    const auto first = ChangeCals::PlaceOf(Julian);
+    const struct {
+        int left, top;
+        bool used;
+    } rows[] = {{600, 300, true},         {-600, -300, true},      {width - 1, 0, true},
+                {width, 0, false},        {0, height, false},      {0, height - 1, true},
+                {noPosition, 300, false}, {600, noPosition, false}};
+    for (const auto& row : rows) {
+        FormLeft(Julian) = row.left;
+        FormTop(Julian) = row.top;
+        const auto place = ChangeCals::PlaceOf(Julian);
+        EXPECT_EQ(place.left, row.used ? row.left : first.left) << row.left << " " << row.top;
+        EXPECT_EQ(place.top, row.used ? row.top : first.top) << row.left << " " << row.top;
+    }
+}
+
+TEST_F(PositionsOfWindows, AreReadBackFromTheWindows) {
+    ChangeCals::LoadMoon().move(33, -20);
+    EXPECT_EQ(ChangeCals::ReadPositions(), nullptr);
+    EXPECT_EQ(FormLeft(MoonWindowNumber), 495);
+    EXPECT_EQ(FormTop(MoonWindowNumber), -300);
+}
+
+TEST_F(PositionsOfWindows, TellTheWindowThatStandsTooFarOut) {
+    const QPoint places[] = {{2185, 10}, {10, 2185}, {-2185, 10}, {10, -2185}};
+    for (const QPoint& place : places) {
+        ChangeCals::LoadYear(Moslem).move(place);
+        EXPECT_EQ(ChangeCals::ReadPositions(), &ChangeCals::LoadYear(Moslem));
+        EXPECT_EQ(FormTop(Julian), noPosition) << "nothing is taken over";
+    }
+}
+
+} // namespace

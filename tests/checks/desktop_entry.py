@@ -1,0 +1,89 @@
+# SPDX-License-Identifier: MIT
+"""Fails unless the entry in the desktop's menu is valid, speaks every language of
+the program, and uses the program's own words."""
+
+import json
+import pathlib
+import re
+import subprocess
+import sys
+
+ROOT = pathlib.Path(__file__).resolve().parent.parent.parent
+ENTRY = ROOT / "packaging" / "orvalen-years-calendar.desktop"
+
+# What the program calls itself and its four calendars, by section and key.
+GENERIC_NAME = ("STRINGS", "1")
+KEYWORDS = [("CALENDARS", "1"), ("CALENDARS", "2"), ("CALENDARS", "3"), ("CALENDARS", "4"),
+            ("STRINGS", "9"), ("LABELS", "12")]
+
+
+def read_entries(text):
+    """Values by section and key."""
+    entries, section = {}, ""
+    for line in text.splitlines():
+        if line.startswith("["):
+            section = line.strip("[]")
+        elif "=" in line and not line.startswith((";", "#")):
+            key, value = line.split("=", 1)
+            entries[section, key] = value
+    return entries
+
+
+def validator_remarks():
+    done = subprocess.run(["desktop-file-validate", ENTRY], text=True, check=False,
+                          stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
+    if done.returncode and not done.stdout:
+        return [f"desktop-file-validate returns {done.returncode}"]
+    return done.stdout.splitlines()
+
+
+def wrong_words(entry, language, locale):
+    """What the entry says in a locale in other words than the language's file."""
+    words = read_entries((ROOT / "languages" / f"{language}.lng").read_text(encoding="utf-8"))
+    generic_name = entry.get(f"GenericName[{locale}]")
+    keywords = entry.get(f"Keywords[{locale}]", "").split(";")
+    if generic_name != words[GENERIC_NAME]:
+        yield f"{language}: GenericName[{locale}] is not {words[GENERIC_NAME]}"
+    for word in KEYWORDS:
+        if words[word] not in keywords:
+            yield f"{language}: Keywords[{locale}] lacks {words[word]}"
+    if not entry.get(f"Comment[{locale}]"):
+        yield f"{language}: there is no Comment[{locale}]"
+
+
+def unknown_locales(entry, locales):
+    for key in entry:
+        locale = re.search(r"\[(.*)\]$", key)
+        if locale and locale[1] not in locales:
+            yield f"{key} is of a language that the program does not speak"
+
+
+def wrong_english(entry):
+    """The English words and the names stand in the sources."""
+    keywords = entry.get("Keywords", "").split(";")
+    sources = {"shared/english.cpp": [entry.get("GenericName"), *keywords[:len(KEYWORDS)]],
+               "start/frmabout.cpp": [entry.get("Name"), entry.get("Name[ru]")]}
+    for name, words in sources.items():
+        source = (ROOT / "src" / name).read_text(encoding="utf-8")
+        for word in words:
+            if f'"{word}"' not in source:
+                yield f"{word} does not stand in {name}"
+
+
+def main():
+    entry = {key: value for (_, key), value in
+             read_entries(ENTRY.read_text(encoding="utf-8")).items()}
+    cldr = json.loads((ROOT / "tests" / "data" / "cldr-names.json").read_text(encoding="utf-8"))
+    locales = {language.stem: cldr[language.stem]["locale"]
+               for language in sorted((ROOT / "languages").glob("*.lng"))
+               if language.stem in cldr}
+    faults = [*validator_remarks(), *wrong_english(entry),
+              *unknown_locales(entry, locales.values())]
+    for language, locale in locales.items():
+        faults += wrong_words(entry, language, locale)
+    print("\n".join(faults) or f"the entry speaks English and {len(locales)} languages more")
+    sys.exit(1 if faults else 0)
+
+
+if __name__ == "__main__":
+    main()

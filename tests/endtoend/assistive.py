@@ -1,0 +1,192 @@
+# SPDX-License-Identifier: MIT
+"""The program as an assistive tool has it: a session bus with the assistive
+interface, and what can be read and done through it."""
+
+import os
+import subprocess
+
+import gi
+
+gi.require_version("Atspi", "2.0")
+from gi.repository import Atspi, GLib
+
+from waiting import wait_until
+
+KEY_UP = 0xff52
+
+
+class Bus:
+    """A session bus of its own, on which assistive tools and programs meet."""
+
+    def __init__(self, desktop):
+        self._environment = desktop.environment()
+
+    def start(self):
+        reading, writing = os.pipe()
+        self._process = subprocess.Popen(
+            ["dbus-daemon", "--session", "--nofork", f"--print-address={writing}"],
+            env=self._environment, pass_fds=[writing], stdout=subprocess.DEVNULL,
+            stderr=subprocess.DEVNULL)
+        os.close(writing)
+        with open(reading, encoding="ascii") as pipe:
+            self.address = pipe.readline().strip()
+        os.environ["DISPLAY"] = self._environment["DISPLAY"]
+        os.environ["DBUS_SESSION_BUS_ADDRESS"] = self.address
+        Atspi.init()
+
+    def stop(self):
+        Atspi.exit()
+        self._process.terminate()
+        self._process.wait()
+
+    def environment(self):
+        """What a program needs that shall be met here."""
+        return {"DBUS_SESSION_BUS_ADDRESS": self.address, "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"}
+
+
+class FocusWatch:
+    """Keeps what has said that it got the focus."""
+
+    def __init__(self):
+        self._told = []
+        self._listener = Atspi.EventListener.new(self._keep)
+        self._listener.register("object:state-changed:focused")
+
+    def stop(self):
+        self._listener.deregister("object:state-changed:focused")
+
+    def take(self):
+        """The names of the controls that have told it since the last call, of a
+        cell its table's."""
+        run_events()
+        told, self._told = self._told, []
+        return told
+
+    def _keep(self, event):
+        if event.detail1:
+            control = event.source
+            while control.get_role() in (Atspi.Role.TABLE_CELL, Atspi.Role.LIST_ITEM):
+                control = control.get_parent()
+            self._told.append(control.get_name())
+
+
+class Control:
+    """A window or control of the program."""
+
+    def __init__(self, accessible):
+        self._accessible = accessible
+
+    @property
+    def name(self):
+        return self._accessible.get_name()
+
+    @property
+    def role(self):
+        return self._accessible.get_role_name()
+
+    @property
+    def text(self):
+        return Atspi.Text.get_text(self._accessible, 0, -1)
+
+    def children(self):
+        count = self._accessible.get_child_count()
+        found = [self._accessible.get_child_at_index(index) for index in range(count)]
+        return [Control(accessible) for accessible in found if accessible is not None]
+
+    def descendants(self):
+        for child in self.children():
+            yield child
+            yield from child.descendants()
+
+    def is_shown(self):
+        return self._has(Atspi.StateType.SHOWING)
+
+    def is_active(self):
+        return self._has(Atspi.StateType.ACTIVE)
+
+    def has_focus(self):
+        return self._has(Atspi.StateType.FOCUSED)
+
+    def find(self, role, beginning):
+        """The control of a role whose name begins so, None when there is none."""
+        for child in self.children():
+            if child.role == role and child.name.startswith(beginning):
+                return child
+            found = child.find(role, beginning) if child.role != "table" else None
+            if found:
+                return found
+        return None
+
+    def cells(self):
+        """The names of a table's cells that are shown."""
+        return [cell.name for cell in self.children() if cell.is_shown()]
+
+    def selected(self):
+        return [cell.name for cell in self.children()
+                if cell._has(Atspi.StateType.SELECTED)]
+
+    def press_cell(self, name):
+        next(cell for cell in self.children() if cell.name == name).press()
+
+    def press(self):
+        self._act("Press")
+
+    def take_focus(self):
+        self._act("SetFocus")
+        wait_until(self.has_focus, f"“{self.name}” has the focus")
+
+    def type(self, text):
+        Atspi.EditableText.set_text_contents(self._accessible, text)
+
+    def _act(self, name):
+        names = [self._accessible.get_action_name(index)
+                 for index in range(self._accessible.get_n_actions())]
+        self._accessible.do_action(names.index(name))
+
+    def _has(self, state):
+        return self._accessible.get_state_set().contains(state)
+
+
+class Reader:
+    """Reads the program of a process."""
+
+    def __init__(self, pid):
+        self._pid = pid
+        self._application = wait_until(self._find, "the program is told to assistive tools")
+
+    def window(self, title):
+        """Waits for it."""
+        return wait_until(lambda: self._window(title), f"the window “{title}” is told",
+                          found=self.titles)
+
+    def titles(self):
+        return [window.name for window in self._windows()]
+
+    def _window(self, title):
+        shown = [window for window in self._windows()
+                 if window.name == title and window.is_shown()]
+        return shown[0] if shown else None
+
+    def _windows(self):
+        return Control(self._application).children()
+
+    # What is asked is asked of the program each time, not of a memory.
+    def _find(self):
+        run_events()
+        desktop = Atspi.get_desktop(0)
+        for index in range(desktop.get_child_count()):
+            application = desktop.get_child_at_index(index)
+            if application is not None and application.get_process_id() == self._pid:
+                application.set_cache_mask(Atspi.Cache.NONE)
+                return application
+        return None
+
+
+def press_key(key):
+    Atspi.generate_keyboard_event(key, None, Atspi.KeySynthType.SYM)
+
+
+def run_events():
+    context = GLib.MainContext.default()
+    while context.iteration(False):
+        pass

@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: MIT
+// A desktop of two monitors, the primary one standing right of the other and
+// lower: x 1280 to 2304, y 100 to 900, beside x 0 to 1280, y 0 to 1000.
+#include "changecals/positions.h"
+#include "start/frmabout.h"
+#include "start/frmoptions.h"
+#include "support/recording_windows.h"
+#include "support/widget_test.h"
+
+#include <QScreen>
+
+namespace {
+
+constexpr QRect primary{1280, 100, 1024, 800};
+
+class Monitors : public WidgetTest {
+protected:
+    Monitors() {
+        EXPECT_EQ(QGuiApplication::primaryScreen()->geometry(), primary);
+        startToday();
+        useRecordingWindows();
+    }
+
+    /// Where a window that was stored there is placed.
+    static QPoint placeOfOneStoredAt(const QPoint& place) {
+        FormLeft(Jewish) = place.x() * 15;
+        FormTop(Jewish) = place.y() * 15;
+        Form form(QStringLiteral("frmJewish"));
+        ChangeCals::PlaceForm(form, Jewish);
+        return form.pos();
+    }
+
+    static void expectPlacedOnThePrimary(const Form& dialog) {
+        EXPECT_EQ(dialog.x() - 1280, (1024 - dialog.width()) / 2);
+        EXPECT_NEAR(dialog.y() - 100, (800 - dialog.height()) / 3.0, 1);
+    }
+};
+
+TEST_F(Monitors, AStoredPlaceOnEitherIsKept) {
+    const QPoint places[] = {{2100, 850}, {1300, 120}, {40, 950}, {2184, 10}, {-30, -20}};
+    for (const QPoint& place : places)
+        EXPECT_EQ(placeOfOneStoredAt(place), place);
+}
+
+TEST_F(Monitors, APlaceBeyondTheWholeDesktopIsNone) {
+    const QPoint places[] = {{40, 1000}, {1300, 1001}};
+    for (const QPoint& place : places)
+        EXPECT_NE(placeOfOneStoredAt(place), place);
+}
+
+// 32737 twips lie on this desktop, and yet mean that none is stored.
+TEST_F(Monitors, TheNumberThatStandsForNoPlaceIsNoneAlsoWhereTheDesktopHasIt) {
+    FormLeft(Jewish) = 32737;
+    FormTop(Jewish) = 300;
+    EXPECT_NE(ChangeCals::PlaceOf(Jewish).left, 32737);
+    EXPECT_NE(ChangeCals::PlaceOf(Jewish).top, 300);
+}
+
+TEST_F(Monitors, WindowsBeginOnThePrimary) {
+    for (int number = 1; number <= mainWindowCount; ++number) {
+        const auto place = ChangeCals::PlaceOf(number);
+        EXPECT_TRUE(primary.contains(place.left / 15, place.top / 15)) << number;
+        EXPECT_LE(place.left, 32767) << number;
+    }
+}
+
+TEST_F(Monitors, DialogsStandOnThePrimary) {
+    expectPlacedOnThePrimary(frmAbout());
+    expectPlacedOnThePrimary(frmOptions());
+}
+
+TEST_F(Monitors, TheSplashStandsOnThePrimary) {
+    frmAbout splash;
+    const QPoint place = splash.pos();
+    splash.BecomeSplash(0xC0FFC0);
+    splash.Show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&splash));
+    EXPECT_EQ(splash.pos(), place);
+    EXPECT_TRUE(primary.contains(splash.geometry()));
+}
+
+} // namespace
+
+int main(int argc, char* argv[]) {
+    testing::InitGoogleTest(&argc, argv);
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" TEST_DATA_DIR "/two_monitors.json");
+    QApplication app(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    return RUN_ALL_TESTS();
+}

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "support/platform_test.h"
+
+#include <QLineEdit>
+
+class Buttons : public PlatformTest {
+protected:
+    Buttons() : other(new QLineEdit(&window)) { other->move(100, 0); }
+
+    void show() {
+        window.resize(300, 200);
+        window.show();
+        window.activateWindow();
+        other->setFocus();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+        ASSERT_TRUE(waitUntil([this] { return other->hasFocus(); }));
+    }
+
+    QWidget window;
+    QLineEdit* other;
+};

@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: MIT
+#include "platform/commandbutton.h"
+
+#include "platform/buttons_test.h"
+
+namespace {
+
+const QString closePicture = QStringLiteral("buttons/close");
+
+class OneButton : public Buttons {
+protected:
+    OneButton() : button(new CommandButton(QStringLiteral("Command1_1"), closePicture, &window)) {
+        QObject::connect(button, &CommandButton::MouseDown, button,
+                         [this](Qt::MouseButton pressed) { presses.push_back(pressed); });
+        QObject::connect(button, &CommandButton::clicked, button, [this] { ++clicks; });
+    }
+
+    CommandButton* button;
+    std::vector<Qt::MouseButton> presses;
+    int clicks = 0;
+};
+
+TEST_F(OneButton, HasItsNameSizeAndPicture) {
+    EXPECT_EQ(button->objectName(), QStringLiteral("Command1_1"));
+    EXPECT_EQ(button->size(), QSize(CommandButton::side, CommandButton::side));
+    EXPECT_EQ(button->iconSize(), QSize(CommandButton::pictureSide, CommandButton::pictureSide));
+    EXPECT_FALSE(button->icon().pixmap(CommandButton::pictureSide).isNull());
+}
+
+TEST_F(OneButton, EveryMouseButtonIsToldAtThePress) {
+    show();
+    for (const Qt::MouseButton pressed : {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton}) {
+        presses.clear();
+        QTest::mousePress(button, pressed);
+        EXPECT_EQ(presses, std::vector<Qt::MouseButton>{pressed});
+        EXPECT_EQ(clicks, 0) << "not before the release";
+        QTest::mouseRelease(button, pressed);
+        EXPECT_EQ(clicks, pressed == Qt::LeftButton ? 1 : 0);
+        clicks = 0;
+        EXPECT_EQ(presses.size(), 1U);
+    }
+}
+
+TEST_F(OneButton, SpaceReturnAndEnterClick) {
+    show();
+    button->setFocus();
+    for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter}) {
+        clicks = 0;
+        QTest::keyClick(button, key);
+        EXPECT_EQ(clicks, 1) << key;
+    }
+    EXPECT_EQ(presses.size(), 0U);
+}
+
+TEST_F(OneButton, DisabledOnesDoNothing) {
+    show();
+    button->setEnabled(false);
+    click(button);
+    QTest::keyClick(button, Qt::Key_Return);
+    EXPECT_EQ(clicks, 0);
+    EXPECT_EQ(presses.size(), 0U);
+}
+
+TEST_F(OneButton, AClickTakesTheFocus) {
+    show();
+    click(button);
+    EXPECT_TRUE(button->hasFocus());
+    button->SetTabStop(false);
+    other->setFocus();
+    click(button);
+    EXPECT_TRUE(button->hasFocus()) << "also where Tab does not lead";
+}
+
+TEST_F(OneButton, TabLeadsToTabStopsOnly) {
+    show();
+    QTest::keyClick(other, Qt::Key_Tab);
+    EXPECT_TRUE(button->hasFocus());
+    other->setFocus();
+    button->SetTabStop(false);
+    QTest::keyClick(other, Qt::Key_Tab);
+    EXPECT_FALSE(button->hasFocus());
+}
+
+} // namespace

@@ -1,0 +1,270 @@
+// SPDX-License-Identifier: MIT
+#include "platform/gridaccessible.h"
+
+#include "platform/flexgrid.h"
+#include "platform/twips.h"
+#include "support/platform_accessible.h"
+#include "support/platform_test.h"
+
+#include <QLineEdit>
+#include <algorithm>
+
+namespace {
+
+using Told = AccessibleWatch::Told;
+
+constexpr int rows = 4;
+constexpr int columns = 3;
+constexpr int red = 0x0000FF;
+
+/// A title over all columns, a blank in the middle of the second row, days
+/// elsewhere: 20, 30 and so on down the columns.
+class AccessibleGrid : public PlatformTest {
+protected:
+    AccessibleGrid()
+        : other(new QLineEdit(&window)),
+          grid(new MSFlexGrid(QStringLiteral("MSFlexGrid1"), rows, columns, &window)),
+          neighbour(new MSFlexGrid(QStringLiteral("MSFlexGrid2"), 2, 2, &window)) {
+        window.resize(400, 300);
+        grid->move(0, 50);
+        neighbour->move(200, 50);
+        grid->setAccessibleName(QStringLiteral("Month"));
+        grid->setToolTip(QStringLiteral("Month"));
+        for (MSFlexGrid* each : {grid, neighbour}) {
+            each->SetSelectedColor(red);
+            each->SetSize(ToTwips(150), ToTwips(120));
+            for (int row = 0; row < each->Rows(); ++row)
+                each->SetRowHeight(row, ToTwips(20));
+            for (int column = 0; column < each->Cols(); ++column)
+                each->SetColWidth(column, ToTwips(30));
+        }
+        grid->SetAccessibleText([this](int row, int column) {
+            const QString text = grid->TextMatrix(row, column);
+            return text.isEmpty() ? text : spoken + text;
+        });
+        fill();
+        QObject::connect(grid, &MSFlexGrid::MouseDown, grid, [this](Qt::MouseButton button) {
+            presses.push_back({QPoint(grid->Col(), grid->Row()), button});
+        });
+    }
+
+    void fill() {
+        grid->SetMergeRow(0);
+        for (int column = 0; column < columns; ++column) {
+            grid->SetTextMatrix(0, column, QStringLiteral("May"));
+            for (int row = 1; row < rows; ++row)
+                grid->SetTextMatrix(row, column, QString::number(10 * (row + 1) + column));
+        }
+        grid->SetTextMatrix(1, 1, QString());
+        neighbour->SetTextMatrix(0, 0, QStringLiteral("a"));
+        neighbour->SetTextMatrix(1, 1, QStringLiteral("b"));
+    }
+
+    /// Moves the mark, as a refill does.
+    void mark(MSFlexGrid& of, int row, int column) {
+        of.SetRedraw(false);
+        of.SetAllCellColors(0xFFFFFF, 0);
+        of.SetRow(row);
+        of.SetCol(column);
+        of.SetCellBackColor(red);
+        of.SetRedraw(true);
+    }
+
+    void show() {
+        window.show();
+        window.activateWindow();
+        other->setFocus();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+        ASSERT_TRUE(waitUntil([this] { return other->hasFocus(); }));
+        processEvents();
+    }
+
+    QAccessibleInterface& cell(int row, int column) {
+        return *accessible(*grid).tableInterface()->cellAt(row, column);
+    }
+
+    QAccessible::State state(int row, int column) { return cell(row, column).state(); }
+
+    QWidget window;
+    QLineEdit* other;
+    MSFlexGrid* grid;
+    MSFlexGrid* neighbour;
+    QString spoken = QStringLiteral("day ");
+    std::vector<std::pair<QPoint, Qt::MouseButton>> presses;
+};
+
+TEST_F(AccessibleGrid, IsATableOfItsCellsAlone) {
+    QAccessibleInterface& table = accessible(*grid);
+    EXPECT_EQ(table.role(), QAccessible::Table);
+    EXPECT_EQ(table.text(QAccessible::Name), QStringLiteral("Month"));
+    EXPECT_EQ(table.text(QAccessible::Description), QString()) << "not the name once more";
+    EXPECT_EQ(table.childCount(), 12);
+    EXPECT_EQ(table.tableInterface()->rowCount(), 4);
+    EXPECT_EQ(table.tableInterface()->columnCount(), 3);
+    for (int i = 0; i < table.childCount(); ++i) {
+        EXPECT_EQ(table.child(i)->role(), QAccessible::Cell) << i;
+        EXPECT_EQ(table.indexOfChild(table.child(i)), i);
+        EXPECT_EQ(table.child(i)->parent(), &table);
+    }
+    EXPECT_EQ(table.child(-1), nullptr);
+    EXPECT_EQ(table.child(12), nullptr);
+    EXPECT_EQ(table.tableInterface()->cellAt(0, 3), nullptr);
+    EXPECT_EQ(table.child(5), &cell(1, 2));
+    EXPECT_EQ(table.indexOfChild(&accessible(*other)), -1);
+}
+
+TEST_F(AccessibleGrid, CellsKnowTheirTextAndPlace) {
+    show();
+    EXPECT_EQ(cell(2, 1).text(QAccessible::Name), QStringLiteral("day 31"));
+    EXPECT_EQ(cell(2, 1).tableCellInterface()->rowIndex(), 2);
+    EXPECT_EQ(cell(2, 1).tableCellInterface()->columnIndex(), 1);
+    const QPoint middle = grid->viewport()->mapToGlobal(QPoint(30 + 15, 2 * 20 + 10));
+    EXPECT_TRUE(cell(2, 1).rect().contains(middle));
+    EXPECT_EQ(accessible(*grid).childAt(middle.x(), middle.y()), &cell(2, 1));
+    EXPECT_EQ(accessible(*grid).childAt(-5, -5), nullptr);
+}
+
+TEST_F(AccessibleGrid, ATitleIsOneCellAndABlankIsNone) {
+    show();
+    EXPECT_EQ(cell(0, 0).tableCellInterface()->columnExtent(), 3);
+    EXPECT_FALSE(state(0, 0).invisible);
+    EXPECT_TRUE(state(0, 1).invisible);
+    EXPECT_TRUE(state(0, 2).invisible);
+    EXPECT_TRUE(state(1, 1).invisible);
+    EXPECT_FALSE(state(1, 0).invisible);
+    grid->SetColHidden(2, true);
+    EXPECT_TRUE(state(2, 2).invisible);
+    grid->hide();
+    EXPECT_TRUE(state(1, 0).invisible);
+}
+
+TEST_F(AccessibleGrid, TheMarkedCellIsSelected) {
+    mark(*grid, 2, 1);
+    EXPECT_TRUE(state(2, 1).selected);
+    mark(*grid, 3, 0);
+    EXPECT_FALSE(state(2, 1).selected);
+    EXPECT_TRUE(state(3, 0).selected);
+    EXPECT_EQ(accessible(*grid).tableInterface()->selectedCells(),
+              QList<QAccessibleInterface*>{&cell(3, 0)});
+}
+
+TEST_F(AccessibleGrid, TheCurrentCellHasTheFocusOfTheGrid) {
+    mark(*grid, 2, 1);
+    show();
+    EXPECT_EQ(accessible(*grid).focusChild(), nullptr);
+    EXPECT_FALSE(state(2, 1).focused);
+    grid->setFocus();
+    EXPECT_TRUE(state(2, 1).focused);
+    EXPECT_FALSE(state(2, 0).focused);
+    EXPECT_EQ(accessible(*grid).focusChild(), &cell(2, 1));
+}
+
+TEST_F(AccessibleGrid, PressingACellDoesWhatReturnDoes) {
+    show();
+    const QString press = QAccessibleActionInterface::pressAction();
+    ASSERT_EQ(cell(2, 1).actionInterface()->actionNames().first(), press);
+    cell(2, 1).actionInterface()->doAction(press);
+    EXPECT_EQ(presses.size(), 1U);
+    EXPECT_EQ(presses.at(0), std::pair(QPoint(1, 2), Qt::LeftButton));
+    grid->setEnabled(false);
+    cell(3, 1).actionInterface()->doAction(press);
+    EXPECT_EQ(presses.size(), 1U);
+    EXPECT_TRUE(state(3, 1).disabled);
+}
+
+TEST_F(AccessibleGrid, ACellTakesTheFocusWhenAsked) {
+    mark(*grid, 2, 1);
+    show();
+    cell(3, 2).actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
+    EXPECT_TRUE(grid->hasFocus());
+    EXPECT_TRUE(state(3, 2).focused);
+    EXPECT_EQ(presses.size(), 0U);
+}
+
+TEST_F(AccessibleGrid, SaysTheMarkedCellWhenItGetsTheFocus) {
+    mark(*grid, 2, 1);
+    show();
+    AccessibleWatch watch;
+    grid->setFocus();
+    EXPECT_EQ(watch.take(QAccessible::Focus),
+              (std::vector<Told>{{QAccessible::Focus, grid, QStringLiteral("Month")},
+                                 {QAccessible::Focus, grid, QStringLiteral("day 31")}}));
+    QTest::keyClick(grid, Qt::Key_Down);
+    EXPECT_EQ(watch.take(QAccessible::Focus),
+              (std::vector<Told>{{QAccessible::Focus, grid, QStringLiteral("day 41")}}));
+    other->setFocus();
+    grid->setFocus();
+    EXPECT_EQ(watch.take(QAccessible::Focus).back(),
+              (Told{QAccessible::Focus, grid, QStringLiteral("day 31")}));
+}
+
+TEST_F(AccessibleGrid, APressThatBringsTheFocusIsSaidOnce) {
+    mark(*grid, 2, 1);
+    show();
+    AccessibleWatch watch;
+    const QPoint cell(30 + 15, 3 * 20 + 10);
+    QTest::mouseClick(grid->viewport(), Qt::LeftButton, {}, cell);
+    const std::vector<Told> told = watch.take(QAccessible::Focus);
+    EXPECT_EQ(std::count(told.begin(), told.end(),
+                         Told{QAccessible::Focus, grid, QStringLiteral("day 41")}),
+              1);
+    EXPECT_EQ(told.back(), (Told{QAccessible::Focus, grid, QStringLiteral("day 41")}));
+}
+
+TEST_F(AccessibleGrid, SaysNothingOfTheFocusWithoutHavingIt) {
+    mark(*grid, 2, 1);
+    mark(*neighbour, 0, 0);
+    show();
+    AccessibleWatch watch;
+    mark(*grid, 3, 1);
+    mark(*neighbour, 1, 1);
+    EXPECT_EQ(watch.take(QAccessible::Focus), std::vector<Told>{});
+    grid->setFocus();
+    watch.take(QAccessible::Focus);
+    mark(*neighbour, 0, 0);
+    mark(*grid, 2, 2);
+    EXPECT_EQ(watch.take(QAccessible::Focus),
+              (std::vector<Told>{{QAccessible::Focus, grid, QStringLiteral("day 32")}}));
+}
+
+TEST_F(AccessibleGrid, SaysNothingOfBlanks) {
+    mark(*grid, 2, 1);
+    show();
+    grid->setFocus();
+    AccessibleWatch watch;
+    QTest::keyClick(grid, Qt::Key_Up);
+    EXPECT_EQ(watch.take(QAccessible::Focus), std::vector<Told>{});
+}
+
+TEST_F(AccessibleGrid, ACellThatSaysSomethingElseIsToldAgain) {
+    mark(*grid, 2, 1);
+    show();
+    AccessibleWatch watch;
+    grid->setFocus();
+    watch.take(QAccessible::Focus);
+    grid->SetRedraw(true);
+    EXPECT_EQ(watch.take(QAccessible::NameChanged), std::vector<Told>{});
+    spoken = QStringLiteral("next year, day ");
+    grid->SetRedraw(true);
+    EXPECT_EQ(
+        watch.take(QAccessible::NameChanged),
+        (std::vector<Told>{{QAccessible::NameChanged, grid, QStringLiteral("next year, day 31")}}));
+    other->setFocus();
+    spoken = QStringLiteral("day ");
+    grid->SetRedraw(true);
+    EXPECT_EQ(watch.take(QAccessible::NameChanged), std::vector<Told>{});
+}
+
+TEST_F(AccessibleGrid, ChangesOfTheMarkAreTold) {
+    mark(*grid, 2, 1);
+    show();
+    AccessibleWatch watch;
+    mark(*grid, 3, 0);
+    EXPECT_EQ(watch.take(QAccessible::SelectionAdd),
+              (std::vector<Told>{{QAccessible::SelectionAdd, grid, QStringLiteral("day 40")}}));
+    mark(*grid, 2, 1);
+    EXPECT_EQ(watch.take(QAccessible::SelectionRemove),
+              (std::vector<Told>{{QAccessible::SelectionRemove, grid, QStringLiteral("day 40")}}));
+}
+
+} // namespace

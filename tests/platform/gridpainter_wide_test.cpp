@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: MIT
+// Texts that are too wide for their cell: they are narrowed, not cut, and stay
+// inside.
+#include "platform/color.h"
+#include "platform/flexgrid.h"
+#include "platform/twips.h"
+#include "support/platform_test.h"
+
+namespace {
+
+constexpr int cellWidth = 40; // pixels
+constexpr int cellHeight = 24;
+constexpr int ground = 0xFFFFC0;
+constexpr int ink = 0x800000;
+
+class WideTexts : public PlatformTest {
+protected:
+    WideTexts() : grid(QStringLiteral("grid"), 3, 3, nullptr) {
+        for (int place = 0; place < 3; ++place) {
+            grid.SetColWidth(place, ToTwips(cellWidth));
+            grid.SetRowHeight(place, ToTwips(cellHeight));
+        }
+        grid.SetSize(ToTwips(3 * cellWidth + 2), ToTwips(3 * cellHeight + 2));
+        grid.SetFontPixelSize(14);
+        grid.SetBackColor(ground);
+        grid.SetAllCellColors(ground, ink);
+    }
+
+    /// What is drawn in the grid without its frame when the middle cell shows this.
+    QRect inkOf(const QString& text, bool bold = false) {
+        grid.SetTextMatrix(1, 1, text);
+        grid.SetRow(1);
+        grid.SetCol(1);
+        grid.SetCellFontBold(bold);
+        const QImage image = grid.viewport()->grab().toImage();
+        QRect found;
+        for (int y = 0; y < 3 * cellHeight; ++y) {
+            for (int x = 0; x < 3 * cellWidth; ++x) {
+                if (image.pixelColor(x, y) != ToColor(ground))
+                    found |= QRect(x, y, 1, 1);
+            }
+        }
+        return found;
+    }
+
+    MSFlexGrid grid;
+    const QRect middle{cellWidth, cellHeight, cellWidth, cellHeight};
+};
+
+TEST_F(WideTexts, AreNarrowedUntilTheyFitWhetherBoldOrNot) {
+    const QString wide = QStringLiteral("MMMMMM");
+    ASSERT_GT(QFontMetrics(grid.font()).horizontalAdvance(wide), cellWidth);
+    for (const bool bold : {false, true}) {
+        const QRect drawn = inkOf(wide, bold);
+        EXPECT_TRUE(middle.contains(drawn)) << bold;
+        EXPECT_GT(drawn.width(), cellWidth / 2) << "of all its letters";
+        EXPECT_NEAR(drawn.left() - middle.left(), middle.right() - drawn.right(), 2) << "centred";
+        EXPECT_LT(drawn.height(), inkOf(QStringLiteral("M"), bold).height()) << bold;
+    }
+}
+
+TEST_F(WideTexts, NumbersThatFitKeepTheirSize) {
+    const int height = inkOf(QStringLiteral("1")).height();
+    EXPECT_EQ(inkOf(QStringLiteral("11")).height(), height);
+    EXPECT_LT(inkOf(QStringLiteral("11111111")).height(), height);
+}
+
+} // namespace

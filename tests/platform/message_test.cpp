@@ -1,0 +1,126 @@
+// SPDX-License-Identifier: MIT
+#include "platform/message.h"
+
+#include "platform/form.h"
+#include "platform/pictures.h"
+#include "support/platform_test.h"
+
+#include <QAccessible>
+#include <QMessageBox>
+
+namespace {
+
+/// Keeps what the message boxes look like as they are shown.
+class BoxWatch : public QObject {
+public:
+    BoxWatch() { qApp->installEventFilter(this); }
+
+    bool eventFilter(QObject* object, QEvent* event) override {
+        auto* box = qobject_cast<QMessageBox*>(object);
+        if (box != nullptr && event->type() == QEvent::Show) {
+            titles.append(box->windowTitle());
+            buttons = box->standardButtons();
+            role = QAccessible::queryAccessibleInterface(box)->role();
+            icon = box->windowIcon().pixmap(32).toImage();
+            width = box->width();
+        }
+        return false;
+    }
+
+    QStringList titles;
+    QMessageBox::StandardButtons buttons;
+    QAccessible::Role role = QAccessible::NoRole;
+    QImage icon;
+    int width = 0;
+};
+
+class Messages : public PlatformTest {};
+
+TEST_F(Messages, ShowTheirTextAsItStands) {
+    const QString text = QStringLiteral("<b>bold</b> & more\r\n\r\nline");
+    MsgBox(text);
+    EXPECT_EQ(m_messages.take(), QStringList{text});
+}
+
+TEST_F(Messages, HaveTheProductsTitleAndOneButton) {
+    BoxWatch watch;
+    MsgBox(QStringLiteral("text"));
+    EXPECT_EQ(watch.titles, QStringList{QStringLiteral("Orvalen Years Calendar")});
+    EXPECT_EQ(watch.buttons, QMessageBox::Ok);
+    m_messages.take();
+}
+
+TEST_F(Messages, AreAlertsWithTheProgramsIcon) {
+    BoxWatch watch;
+    MsgBox(QStringLiteral("text"));
+    EXPECT_EQ(watch.role, QAccessible::AlertMessage);
+    EXPECT_EQ(watch.icon, Picture(QStringLiteral("icon")).pixmap(32).toImage());
+    m_messages.take();
+}
+
+// The title bar's own font and its four pictures are the desktop's, so this is
+// what is usual.
+TEST_F(Messages, AreWideEnoughForTheirTitle) {
+    BoxWatch watch;
+    MsgBox(QStringLiteral("."));
+    QFont titleFont = QApplication::font();
+    titleFont.setBold(true);
+    EXPECT_GE(watch.width,
+              QFontMetrics(titleFont).horizontalAdvance(QStringLiteral("Orvalen Years Calendar")) +
+                  4 * 24);
+    m_messages.take();
+}
+
+TEST_F(Messages, AreWindowsOfTheOneInFront) {
+    Form form(QStringLiteral("frmTest"));
+    form.Show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
+    MsgBox(QStringLiteral("text"));
+    EXPECT_EQ(m_messages.take().size(), 1);
+    EXPECT_TRUE(form.Visible());
+}
+
+TEST_F(Messages, TwoTextsStandWithAnEmptyLineBetween) {
+    EXPECT_EQ(WithEmptyLine(QStringLiteral("a"), QStringLiteral("b")),
+              QStringLiteral("a\r\n\r\nb"));
+}
+
+/// Keeps the window that a message belongs to.
+class OwnerWatch : public QObject {
+public:
+    OwnerWatch() { qApp->installEventFilter(this); }
+
+    bool eventFilter(QObject* object, QEvent* event) override {
+        const auto* box = qobject_cast<QMessageBox*>(object);
+        if (box != nullptr && event->type() == QEvent::Show)
+            owner = box->parentWidget();
+        return false;
+    }
+
+    const QWidget* owner = nullptr;
+};
+
+class MessageOwners : public PlatformTest {};
+
+TEST_F(MessageOwners, AMessageBelongsToTheWindowInFront) {
+    Form first(QStringLiteral("frmFirst"));
+    Form second(QStringLiteral("frmSecond"));
+    OwnerWatch watch;
+    for (Form* front : {&first, &second, &first}) {
+        front->Show();
+        front->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(front));
+        MsgBox(QStringLiteral("text"));
+        EXPECT_EQ(watch.owner, front);
+        EXPECT_EQ(m_messages.take(), QStringList{QStringLiteral("text")});
+    }
+}
+
+TEST_F(MessageOwners, WithNoWindowInFrontItBelongsToNone) {
+    OwnerWatch watch;
+    MsgBox(QStringLiteral("text"));
+    EXPECT_EQ(watch.owner, nullptr);
+    EXPECT_EQ(m_messages.take().size(), 1);
+}
+
+} // namespace

@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: MIT
+// The splash of the start: its colour, its time, and that it is deaf.
+#include "shared/settings.h"
+#include "start/start.h"
+#include "support/platform_input.h"
+#include "support/texttables.h"
+#include "support/widget_test.h"
+
+#include <QElapsedTimer>
+#include <QImage>
+
+namespace {
+
+constexpr double leastSeconds = 1.0368; // 0.000012 days
+
+/// Keeps what is drawn of the splash and how long it is shown.
+class SplashWatch : public QObject {
+public:
+    SplashWatch() { qApp->installEventFilter(this); }
+
+    bool eventFilter(QObject* object, QEvent* event) override {
+        if (!object->isWidgetType() || object->objectName() != QStringLiteral("frmAbout"))
+            return false;
+        auto* splash = static_cast<QWidget*>(object);
+        if (event->type() == QEvent::Show) {
+            m_shown.start();
+            window = splash->windowHandle();
+        } else if (event->type() == QEvent::Hide) {
+            seconds = static_cast<double>(m_shown.nsecsElapsed()) / 1e9;
+            ground = splash->grab().toImage().pixelColor(2, 2);
+        }
+        return false;
+    }
+
+    QColor ground;
+    QWindow* window = nullptr;
+    double seconds = 0;
+
+private:
+    QElapsedTimer m_shown;
+};
+
+class Splash : public WidgetTest {
+protected:
+    Splash() {
+        clearTexts();
+        // Read while the splash is shown, and so the moment for the user's Esc.
+        SetClock([this] {
+            queueKey(*watch.window, Qt::Key_Escape);
+            return SystemDate{20, 11, 2026};
+        });
+        QImage moon(16, 16, QImage::Format_RGB32);
+        moon.fill(Qt::yellow);
+        EXPECT_TRUE(moon.save(programPath(QStringLiteral("Moon.bmp")), "BMP"));
+    }
+
+    void start(int window) {
+        writeFile(settingsPath(), "[Startup]\nWindow=" + QByteArray::number(window) + "\n");
+        ASSERT_TRUE(Start::Main());
+        processEvents();
+    }
+
+    SplashWatch watch;
+};
+
+TEST_F(Splash, IsInTheColourOfTheGregorianCalendarBeforeTheMonthlyWindow) {
+    start(0);
+    EXPECT_EQ(watch.ground, QColor(192, 255, 255));
+}
+
+TEST_F(Splash, IsInTheColourOfTheCalendarWhoseYearIsShown) {
+    start(4);
+    EXPECT_EQ(watch.ground, QColor(192, 255, 192));
+}
+
+TEST_F(Splash, IsShownForItsWholeTimeAndTakesNoInputMeanwhile) {
+    start(1);
+    EXPECT_GE(watch.seconds, leastSeconds);
+}
+
+} // namespace

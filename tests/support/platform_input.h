@@ -1,0 +1,8 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QWindow>
+
+/// Presses and releases a key as a user does: the toolkit has it from the desktop
+/// and hands it on when it next takes input.
+void queueKey(QWindow& window, Qt::Key key);

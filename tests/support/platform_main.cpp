@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#include "platform/assistive.h"
+#include "platform/pictures.h"
+
+#include <QApplication>
+#include <QLocale>
+#include <cstdio>
+#include <gtest/gtest.h>
+
+namespace {
+
+// The virtual screen of the tests has no stack of windows and says so each time.
+void printMessage(QtMsgType, const QMessageLogContext&, const QString& text) {
+    if (!text.startsWith(QLatin1String("This plugin does not support")))
+        std::fprintf(stderr, "%s\n", qPrintable(text));
+}
+
+} // namespace
+
+int main(int argc, char* argv[]) {
+    testing::InitGoogleTest(&argc, argv);
+    qInstallMessageHandler(printMessage);
+    QApplication app(argc, argv);
+    InstallAssistiveInterfaces();
+    QApplication::setWindowIcon(Picture(QStringLiteral("icon")));
+    QApplication::setQuitOnLastWindowClosed(false);
+    QLocale::setDefault(QLocale::c());
+    return RUN_ALL_TESTS();
+}

@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: MIT
+#include "support/platform_test.h"
+
+#include "platform/beep.h"
+#include "platform/clock.h"
+#include "platform/program.h"
+#include "platform/settingsstore.h"
+
+#include <QDir>
+#include <QFile>
+#include <QMessageBox>
+#include <utility>
+
+bool waitUntil(const std::function<bool()>& condition) {
+    return QTest::qWaitFor(condition, 10000);
+}
+
+void processEvents() {
+    for (int round = 0; round < 3; ++round)
+        QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+MessageWatch::MessageWatch() {
+    QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] { answer(); });
+    m_timer.start(1);
+}
+
+QStringList MessageWatch::take() {
+    return std::exchange(m_texts, {});
+}
+
+void MessageWatch::answer() {
+    QWidget* modal = QApplication::activeModalWidget();
+    if (modal == nullptr)
+        return;
+    auto* box = qobject_cast<QMessageBox*>(modal);
+    if (box == nullptr) {
+        ADD_FAILURE() << "an unexpected modal window";
+        modal->close();
+        return;
+    }
+    EXPECT_EQ(box->icon(), QMessageBox::Warning);
+    EXPECT_EQ(box->textFormat(), Qt::PlainText);
+    m_texts.append(box->text());
+    QTest::keyClick(box, Qt::Key_Return);
+}
+
+void click(QWidget* widget, Qt::MouseButton button) {
+    QTest::mouseClick(widget, button);
+}
+
+Desk::Desk() {
+    EXPECT_TRUE(m_folder.isValid());
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(m_folder.filePath(QStringLiteral("config"))));
+    const QString program = m_folder.filePath(QStringLiteral("program"));
+    EXPECT_TRUE(QDir().mkpath(program));
+    SetProgramFolder(program);
+    SetEndProgram([this](int status) { m_exitStatus = status; });
+    SetBeep([this] { ++m_beeps; });
+    EXPECT_TRUE(LoadSettings()); // as a run begins, not as the test before ended
+}
+
+Desk::~Desk() {
+    EXPECT_EQ(m_messages.take(), QStringList()) << "messages that nobody asked about";
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+    SetBeep({});
+    SetClock({});
+    SetEndProgram({});
+    SetProgramFolder({});
+}
+
+QString Desk::settingsPath() const {
+    return m_folder.filePath(QStringLiteral("config/Orvalen Years Calendar/settings.ini"));
+}
+
+QString Desk::programPath(const QString& name) const {
+    return m_folder.filePath(QStringLiteral("program/") + name);
+}
+
+void Desk::writeFile(const QString& path, const QByteArray& bytes) const {
+    EXPECT_TRUE(QDir().mkpath(QFileInfo(path).path()));
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    EXPECT_EQ(file.write(bytes), bytes.size());
+}
+
+QByteArray Desk::readFile(const QString& path) const {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}

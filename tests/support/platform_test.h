@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QApplication>
+#include <QStringList>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+#include <functional>
+#include <gtest/gtest.h>
+#include <optional>
+
+/// Waits until a condition holds; false when it never does.
+bool waitUntil(const std::function<bool()>& condition);
+
+/// Runs all events that are due.
+void processEvents();
+
+/// A child by its object name.
+template <typename Widget>
+Widget* child(QObject& parent, const char* name) {
+    auto* found = parent.findChild<Widget*>(QString::fromLatin1(name));
+    EXPECT_NE(found, nullptr) << name;
+    return found;
+}
+
+/// Answers every message box with Return and keeps its text; any other modal
+/// window, or a box that nobody asked about, fails the test.
+class MessageWatch {
+public:
+    MessageWatch();
+
+    /// The texts since the last call.
+    QStringList take();
+
+private:
+    void answer();
+
+    QTimer m_timer;
+    QStringList m_texts;
+};
+
+/// Clicks in the middle of a widget.
+void click(QWidget* widget, Qt::MouseButton button = Qt::LeftButton);
+
+/// What a test has in the desktop's place while it lives: a settings folder and a
+/// program folder of its own, no end of the process, no beep, no message that the
+/// test does not ask for.
+class Desk {
+protected:
+    Desk();
+    ~Desk();
+
+    QString settingsPath() const;
+    QString programPath(const QString& name) const;
+    void writeFile(const QString& path, const QByteArray& bytes) const;
+    QByteArray readFile(const QString& path) const;
+
+    QTemporaryDir m_folder;
+    MessageWatch m_messages;
+    std::optional<int> m_exitStatus;
+    int m_beeps = 0;
+};
+
+/// A test that knows no calendar.
+class PlatformTest : public testing::Test, protected Desk {};

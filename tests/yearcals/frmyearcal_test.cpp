@@ -1,0 +1,397 @@
+// SPDX-License-Identifier: MIT
+#include "changecals/closing.h"
+#include "yearcals/year_test.h"
+
+#include <QFile>
+#include <QSettings>
+
+namespace {
+
+class YearWindows : public YearTest {
+protected:
+    static void clickCommand(int c, int index) { click(&command(c, index)); }
+};
+
+TEST_F(YearWindows, HaveTheirNamesAndCaptions) {
+    const char* names[] = {"frmJulian", "frmGregorian", "frmJewish", "frmMoslem"};
+    const char* captions[] = {"Julian calendar", "Gregorian calendar", "Jewish calendar",
+                              "Moslem calendar"};
+    for (const int c : {Julian, Gregorian, Jewish, Moslem}) {
+        EXPECT_EQ(year(c).objectName(), QLatin1String(names[c - 1]));
+        EXPECT_EQ(year(c).windowTitle(), QLatin1String(captions[c - 1]));
+    }
+}
+
+TEST_F(YearWindows, StandWhereTheirStoredPositionSays) {
+    for (const int c : {Julian, Gregorian, Jewish, Moslem}) {
+        FormLeft(c) = 150 * c;
+        FormTop(c) = 300 * c;
+        EXPECT_EQ(year(c).pos(), QPoint(10 * c, 20 * c));
+    }
+}
+
+TEST_F(YearWindows, LoadingFillsNoGrid) {
+    EXPECT_EQ(grid(Julian).TextMatrix(1, 0), QString());
+    EXPECT_EQ(selector(Julian).ListCount(), 0);
+}
+
+// Selector
+
+TEST_F(YearWindows, TheSelectorHoldsTheShownYearUntilItGetsTheFocus) {
+    for (const int c : {Julian, Gregorian, Jewish, Moslem}) {
+        open(c);
+        ComboBox& years = selector(c);
+        EXPECT_EQ(years.ListCount(), 1);
+        EXPECT_EQ(years.Text(), QString::number(CurDate(c, Year)));
+        years.setFocus();
+        EXPECT_EQ(years.ListCount(), lastYear(c) - firstYear(c) + 1);
+        EXPECT_EQ(years.Text(), QString::number(CurDate(c, Year)));
+        command(c, 1).setFocus();
+        years.setFocus();
+        EXPECT_EQ(years.ListCount(), lastYear(c) - firstYear(c) + 1);
+    }
+}
+
+TEST_F(YearWindows, YearsByKeysAndByTyping) {
+    for (const int c : {Julian, Gregorian, Jewish, Moslem}) {
+        open(c);
+        ComboBox& years = selector(c);
+        years.setFocus();
+        const int before = CurDate(c, Year);
+        for (int step = 1; step <= 3; ++step) {
+            QTest::keyClick(&years, Qt::Key_Down);
+            EXPECT_EQ(CurDate(c, Year), before + step);
+            expectEveryCellRight(c);
+        }
+        QTest::keyClick(&years, Qt::Key_Home);
+        EXPECT_EQ(CurDate(c, Year), firstYear(c));
+        goTo(2461365);
+        QTest::keyClicks(&years, c == Jewish ? QStringLiteral("5700") : QStringLiteral("1400"));
+        EXPECT_EQ(CurDate(c, Year), c == Jewish ? 5700 : 1400);
+        goTo(2461365);
+    }
+}
+
+TEST_F(YearWindows, ATypedYearKeepsTheDayAndFillsTheGridOnce) {
+    setDate(Jewish, 14, 13, 5787);
+    ChangeCals::ChangeCal(Jewish);
+    open(Jewish);
+    ChangeCals::LoadMonthly().Show();
+    ComboBox& years = selector(Jewish);
+    years.setFocus();
+    calls.clear();
+    QTest::keyClicks(&years, QStringLiteral("5790"));
+    EXPECT_EQ(dateIn(Jewish), (Date{14, 13, 5790}));
+    expectEveryCellRight(Jewish);
+    std::vector<std::string> once = takeCalls();
+    QTest::keyClick(&years, Qt::Key_Down);
+    EXPECT_EQ(takeCalls(), once);
+}
+
+TEST_F(YearWindows, TheSameYearAgainDoesNothing) {
+    open(Gregorian);
+    ChangeCals::LoadMonthly().Show();
+    calls.clear();
+    Q_EMIT selector(Gregorian).activated(0);
+    selector(Gregorian).setFocus();
+    Q_EMIT selector(Gregorian).activated(2025);
+    EXPECT_TRUE(takeCalls().empty());
+}
+
+TEST_F(YearWindows, AFullListSurvivesAYearPastItsEnd) {
+    open(Gregorian);
+    ComboBox& years = selector(Gregorian);
+    years.setFocus();
+    goTo(2817404);
+    EXPECT_EQ(CurDate(Gregorian, Year), 3001);
+    EXPECT_EQ(years.Text(), QStringLiteral("3001"));
+    EXPECT_FALSE(years.isEnabled());
+    goTo(2461365);
+    EXPECT_EQ(years.Text(), QStringLiteral("2026"));
+    EXPECT_TRUE(years.isEnabled());
+    years.setFocus();
+    EXPECT_EQ(years.ListCount(), 3000);
+    EXPECT_EQ(years.ListIndex(), 2025);
+}
+
+TEST_F(YearWindows, TheJewishSelectorShowsItsYearOnEveryDayBeyondTheTop) {
+    open(Jewish);
+    for (int julianDay = 2817404; julianDay < 2817410; ++julianDay) {
+        goTo(julianDay);
+        EXPECT_EQ(selector(Jewish).Text(),
+                  julianDay == 2817404 ? QStringLiteral("6761") : QStringLiteral("6762"));
+    }
+    goTo(2461365);
+    EXPECT_EQ(selector(Jewish).Text(), QStringLiteral("5787"));
+}
+
+TEST_F(YearWindows, AYearLeftByAButtonCanBeChosenAgain) {
+    open(Gregorian);
+    ComboBox& years = selector(Gregorian);
+    years.setFocus();
+    clickCommand(Gregorian, NextYear);
+    years.setFocus();
+    QTest::keyClick(&years, Qt::Key_Up);
+    EXPECT_EQ(CurDate(Gregorian, Year), 2026);
+}
+
+// Ranges
+
+TEST_F(YearWindows, BeforeTheRangeTheGridDisappearsAfterItIsDisabled) {
+    for (const int type : {1, 2}) {
+        MoslemType = type;
+        Calc::SetMoslemType();
+        for (const int c : {Julian, Gregorian, Jewish, Moslem})
+            ChangeCals::OpenYearWindow(c);
+        for (const int julianDay : {1721319, 1721423, 1721424, 1721425, 1721426, 1948438, 1948439,
+                                    1948440, 2817152, 2817153, 2817173, 2817174, 2817345, 2817346,
+                                    2817347, 2817404, 2817405, 2817411, 2461365}) {
+            goTo(julianDay);
+            for (const int c : {Julian, Gregorian, Jewish, Moslem}) {
+                const bool shown = !isBeforeRange(c);
+                const bool enabled = shown && !isAfterRange(c);
+                EXPECT_EQ(grid(c).isVisible(), shown) << julianDay << " " << c;
+                EXPECT_EQ(selector(c).isEnabled(), enabled);
+                EXPECT_EQ(command(c, NextYear).isEnabled(),
+                          enabled && CurDate(c, Year) != lastYear(c));
+                EXPECT_EQ(command(c, PreviousYear).isEnabled(),
+                          shown && CurDate(c, Year) != firstYear(c));
+                EXPECT_FALSE(Updating);
+                if (shown) {
+                    EXPECT_EQ(grid(c).isEnabled(), enabled);
+                    expectEveryCellRight(c);
+                }
+            }
+        }
+    }
+}
+
+// Buttons
+
+TEST_F(YearWindows, YearsStepWithinTheRangeOnly) {
+    for (const int c : {Julian, Gregorian, Jewish, Moslem}) {
+        open(c);
+        const int before = CurDate(c, Year);
+        clickCommand(c, NextYear);
+        EXPECT_EQ(CurDate(c, Year), before + 1);
+        clickCommand(c, PreviousYear);
+        clickCommand(c, PreviousYear);
+        EXPECT_EQ(CurDate(c, Year), before - 1);
+        setDate(c, 1, 1, firstYear(c));
+        ChangeCals::ChangeCal(c);
+        EXPECT_FALSE(command(c, PreviousYear).isEnabled());
+        QTest::keyClick(&grid(c), Qt::Key_PageUp);
+        EXPECT_EQ(CurDate(c, Year), firstYear(c));
+        EXPECT_FALSE(Updating);
+        setDate(c, 1, 1, lastYear(c));
+        ChangeCals::ChangeCal(c);
+        EXPECT_FALSE(command(c, NextYear).isEnabled());
+        QTest::keyClick(&grid(c), Qt::Key_PageDown);
+        EXPECT_EQ(CurDate(c, Year), lastYear(c));
+        EXPECT_FALSE(Updating);
+        goTo(2461365);
+    }
+}
+
+TEST_F(YearWindows, StepsWorkWithAFullListToo) {
+    open(Gregorian);
+    selector(Gregorian).setFocus();
+    clickCommand(Gregorian, NextYear);
+    EXPECT_EQ(selector(Gregorian).ListIndex(), 2026);
+    EXPECT_EQ(selector(Gregorian).ListCount(), 3000);
+}
+
+TEST_F(YearWindows, TodayIsTakenThroughTheGregorianCalendar) {
+    goTo(2451545);
+    open(Moslem);
+    clickCommand(Moslem, TodayButton);
+    EXPECT_EQ(CurJD, 2461365);
+    ChangeCals::LoadMonthly().Show();
+    calls.clear();
+    clickCommand(Moslem, TodayButton);
+    EXPECT_TRUE(takeCalls().empty());
+    EXPECT_FALSE(Updating);
+}
+
+TEST_F(YearWindows, LeadToTheOtherThree) {
+    const int others[4][3] = {{2, 3, 4}, {1, 3, 4}, {1, 2, 4}, {1, 2, 3}};
+    for (const int c : {Julian, Gregorian, Jewish, Moslem}) {
+        for (int place = 0; place < 3; ++place) {
+            open(c);
+            const int other = others[c - 1][place];
+            year(other).Hide();
+            clickCommand(c, FirstOtherCalendar + place);
+            EXPECT_TRUE(year(other).Visible()) << c << " to " << other;
+            expectEveryCellRight(other);
+        }
+    }
+}
+
+TEST_F(YearWindows, LeadToTheMoonTheOptionsAndTheAboutBox) {
+    open(Julian);
+    auto* front = child<CommandButton>(year(Julian),
+                                       qPrintable(QStringLiteral("Command2_%1").arg(MoonPhase)));
+    EXPECT_EQ(year(Julian).childAt(front->geometry().center()), front);
+    click(front);
+    EXPECT_TRUE(ChangeCals::LoadMoon().Visible());
+    clickCommand(Julian, OptionsButton);
+    EXPECT_TRUE(ChangeCals::LoadOptions().Visible());
+    clickCommand(Julian, AboutButton);
+    EXPECT_TRUE(ChangeCals::LoadAbout().Visible());
+    EXPECT_FALSE(Updating);
+}
+
+TEST_F(YearWindows, ADoubleClickBringsBackTheMonthlyWindow) {
+    open(Jewish);
+    QTest::mouseDClick(grid(Jewish).viewport(), Qt::LeftButton, {}, QPoint(5, 5));
+    EXPECT_TRUE(ChangeCals::LoadMonthly().Visible());
+    EXPECT_EQ(takeCalls().front(), "monthly.ReSetForm");
+}
+
+TEST_F(YearWindows, ADoubleClickRestoresAMinimisedMonthlyWindow) {
+    open(Jewish);
+    ChangeCals::LoadMonthly().showMinimized();
+    QTest::mouseDClick(grid(Jewish).viewport(), Qt::LeftButton, {}, QPoint(5, 5));
+    EXPECT_EQ(ChangeCals::LoadMonthly().WindowState(), Form::Normal);
+}
+
+// Closing
+
+TEST_F(YearWindows, TheCloseButtonHidesAndKeepsListAndGrid) {
+    ChangeCals::LoadMonthly().Show();
+    open(Gregorian);
+    YearWindow* const window = &year(Gregorian);
+    selector(Gregorian).setFocus();
+    clickCommand(Gregorian, CloseButton);
+    EXPECT_FALSE(window->Visible());
+    EXPECT_EQ(&year(Gregorian), window);
+    EXPECT_EQ(selector(Gregorian).ListCount(), 3000);
+    EXPECT_EQ(m_exitStatus, std::nullopt);
+    EXPECT_FALSE(Updating);
+}
+
+TEST_F(YearWindows, TheCloseButtonOfTheLastWindowEndsTheProgram) {
+    open(Moslem);
+    clickCommand(Moslem, CloseButton);
+    EXPECT_EQ(m_exitStatus, 0);
+    EXPECT_EQ(QSettings(settingsPath(), QSettings::IniFormat).allKeys().size(),
+              2 * mainWindowCount);
+}
+
+TEST_F(YearWindows, TheRightButtonOnCloseEndsTheProgram) {
+    ChangeCals::LoadMonthly().Show();
+    open(Moslem);
+    for (int index = 1; index <= 9; ++index) {
+        if (index != CloseButton)
+            QTest::mousePress(&command(Moslem, index), Qt::RightButton);
+    }
+    EXPECT_EQ(m_exitStatus, std::nullopt);
+    QTest::mousePress(&command(Moslem, CloseButton), Qt::RightButton);
+    EXPECT_EQ(m_exitStatus, 0);
+}
+
+TEST_F(YearWindows, AWindowClosedByItsFrameIsFilledAfresh) {
+    ChangeCals::LoadMonthly().Show();
+    open(Gregorian);
+    selector(Gregorian).setFocus();
+    year(Gregorian).close();
+    goTo(CurJD + 1);
+    open(Gregorian);
+    EXPECT_EQ(selector(Gregorian).ListCount(), 1);
+    expectEveryCellRight(Gregorian);
+}
+
+TEST_F(YearWindows, TheLastOneClosedByItsFrameEndsWithoutSaving) {
+    open(Jewish);
+    year(Jewish).close();
+    EXPECT_EQ(m_exitStatus, 0);
+    EXPECT_FALSE(QFile::exists(settingsPath()));
+}
+
+// Jewish window
+
+TEST_F(YearWindows, TheJewishWindowFitsItsYearAfterMinimisingAndMaximising) {
+    setDate(Jewish, 1, 1, 5784);
+    ChangeCals::ChangeCal(Jewish);
+    open(Jewish);
+    YearWindow& window = year(Jewish);
+    EXPECT_EQ(window.width(), 507);
+    for (const auto state : {Qt::WindowMinimized, Qt::WindowMaximized}) {
+        window.setWindowState(state);
+        processEvents();
+        setDate(Jewish, 1, 1, 5785);
+        ChangeCals::ChangeCal(Jewish);
+        window.setWindowState(Qt::WindowNoState);
+        EXPECT_TRUE(waitUntil([&window] { return window.width() == 389; }));
+        window.setWindowState(state);
+        processEvents();
+        setDate(Jewish, 1, 1, 5784);
+        ChangeCals::ChangeCal(Jewish);
+        window.setWindowState(Qt::WindowNoState);
+        EXPECT_TRUE(waitUntil([&window] { return window.width() == 507; }));
+    }
+}
+
+// Keyboard and names
+
+TEST_F(YearWindows, TabGoesThroughTheControlsTheMoonBeingTheFifthStop) {
+    open(Julian);
+    goTo(CurJD + 8);
+    QStringList expected{QStringLiteral("Combo1"), QStringLiteral("Command1_1"),
+                         QStringLiteral("Command1_2"), QStringLiteral("Command1_3"),
+                         QStringLiteral("Command2_%1").arg(MoonPhase)};
+    for (const int index : {7, 8, 9, 4, 5, 6})
+        expected.append(QStringLiteral("Command1_%1").arg(index));
+    expected.append(QStringLiteral("MSFlexGrid1"));
+    selector(Julian).setFocus();
+    QStringList passed;
+    for (qsizetype i = 0; i < expected.size(); ++i) {
+        passed.append(QApplication::focusWidget()->objectName());
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    }
+    EXPECT_EQ(passed, expected);
+}
+
+TEST_F(YearWindows, TipsAndNames) {
+    open(Jewish);
+    const struct {
+        QWidget* control;
+        const char* tip;
+    } rows[] = {{&selector(Jewish), "Year"},
+                {&command(Jewish, 1), "Previous year"},
+                {&command(Jewish, 2), "Next year"},
+                {&command(Jewish, 3), "Today"},
+                {&command(Jewish, 4), "Options"},
+                {&command(Jewish, 5), "About"},
+                {&command(Jewish, 6), "Exit"},
+                {&command(Jewish, 7), "Julian calendar"},
+                {&command(Jewish, 8), "Gregorian calendar"},
+                {&command(Jewish, 9), "Moslem calendar"},
+                {child<QWidget>(year(Jewish), "Command2_3"), "Moon"},
+                {&grid(Jewish), "Year calendar (Double-click to show monthly calendars)"}};
+    for (const auto& row : rows) {
+        EXPECT_EQ(row.control->toolTip(), QLatin1String(row.tip));
+        EXPECT_TRUE(row.control->accessibleName().endsWith(QLatin1String(row.tip)));
+    }
+    ShowTips = 0;
+    year(Jewish).SetTexts();
+    for (const auto& row : rows)
+        EXPECT_EQ(row.control->toolTip(), QString());
+}
+
+TEST_F(YearWindows, ControlsNeitherOverlapNorStickOut) {
+    for (const int c : {Julian, Gregorian, Jewish, Moslem}) {
+        open(c);
+        const auto controls = year(c).findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+        for (QWidget* a : controls) {
+            EXPECT_TRUE(year(c).rect().contains(a->geometry())) << a->objectName().toStdString();
+            for (QWidget* b : controls) {
+                if (a->objectName().left(8) != b->objectName().left(8)) {
+                    EXPECT_FALSE(a->geometry().intersects(b->geometry()));
+                }
+            }
+        }
+    }
+}
+
+} // namespace
