@@ -1,0 +1,95 @@
+# SPDX-License-Identifier: MIT
+"""Runs the tests of all rooms in a build that counts what they run, and keeps what
+their reports say."""
+
+import json
+import os
+import pathlib
+import platform
+import subprocess
+import tempfile
+
+from coverage import coverage, forget
+
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+BUILD = ROOT / "build/coverage"
+
+
+def said_by(*command):
+    return subprocess.run(command, cwd=ROOT, check=True, capture_output=True, text=True).stdout
+
+
+def build():
+    subprocess.run(["cmake", "--preset", "coverage"], cwd=ROOT, check=True,
+                   stdout=subprocess.DEVNULL)
+    subprocess.run(["cmake", "--build", "--preset", "coverage"], cwd=ROOT, check=True,
+                   stdout=subprocess.DEVNULL)
+
+
+def run_tests(room):
+    with tempfile.TemporaryDirectory() as folder:
+        report = pathlib.Path(folder) / "report.json"
+        environment = {**os.environ, "QT_QPA_PLATFORM": "offscreen", "XDG_RUNTIME_DIR": folder,
+                       "GTEST_OUTPUT": f"json:{report}"}
+        subprocess.run([BUILD / "bin" / f"{room}_tests", "--gtest_also_run_disabled_tests"],
+                       cwd=ROOT, env=environment, check=True, stdout=subprocess.DEVNULL,
+                       stderr=subprocess.DEVNULL)
+        return json.loads(report.read_text())
+
+
+def cases(reports):
+    return [case for report in reports.values() for suite in report["testsuites"]
+            for case in suite["testsuite"]]
+
+
+def judgements(found):
+    asked = {}
+    for case in found:
+        if "judge" in case:
+            key = case["judge"], case["asked"]
+            asked[key] = asked.get(key, 0) + int(case["answers"])
+    return [{"judge": judge, "asked": question, "answers": answers}
+            for (judge, question), answers in asked.items()]
+
+
+def withstood(found):
+    return [{"what": case["withstood"], "times": int(case["times"])}
+            for case in found if "withstood" in case]
+
+
+def late_years(found):
+    """Year, our first day, the rule's and ICU's."""
+    numbers = [int(word) for case in found for word in case.get("late", "").split()]
+    return [numbers[i:i + 4] for i in range(0, len(numbers), 4)]
+
+
+def system():
+    release = platform.freedesktop_os_release()
+    return {
+        "system": release["PRETTY_NAME"],
+        "machine": platform.machine(),
+        "compiler": said_by("c++", "--version").splitlines()[0],
+        "gcov": said_by("gcov", "--version").splitlines()[0],
+        "qt": said_by("pkg-config", "--modversion", "Qt6Core").strip(),
+        "commit": said_by("git", "rev-parse", "--short", "HEAD").strip(),
+    }
+
+
+def measured():
+    build()
+    forget(BUILD)
+    rooms = sorted(path.name.removesuffix("_tests") for path in (BUILD / "bin").glob("*_tests"))
+    reports = {}
+    for room in rooms:
+        reports[room] = run_tests(room)
+        print(f"{room}: {reports[room]['tests']} tests, {reports[room]['failures']} failures",
+              flush=True)
+    found = cases(reports)
+    return {
+        "system": system(),
+        "tests": {room: report["tests"] for room, report in reports.items()},
+        "judgements": judgements(found),
+        "late": late_years(found),
+        "withstood": withstood(found),
+        "coverage": coverage(ROOT / "src", BUILD),
+    }

@@ -1,0 +1,174 @@
+# SPDX-License-Identifier: MIT
+"""Writes docs/verification.md from measured results.
+
+Measures first, unless --page asks for the page alone. The results of the mutations
+and of the long tests come from their own commands."""
+
+import argparse
+import collections
+import datetime
+import json
+import pathlib
+import shutil
+
+from measure import ROOT, measured
+
+HERE = pathlib.Path(__file__).resolve().parent
+FIRST_ORDINAL = 1721425  # Julian Day of the day before 1 January 1 Gregorian
+ROOMS_CHANGED = ["calc", "changecals", "controls", "yearcals", "monthly", "moon"]
+
+
+def number(value):
+    return f"{value:,}"
+
+
+def percent(part, whole):
+    return f"{100 * part / whole:.1f} %" if whole else "none"
+
+
+def table(head, rows):
+    lines = ["| " + " | ".join(head) + " |", "|" + "---|" * len(head)]
+    return "\n".join(lines + ["| " + " | ".join(map(str, row)) + " |" for row in rows])
+
+
+def read(name):
+    path = HERE / name
+    return json.loads(path.read_text()) if path.exists() else None
+
+
+def judges(results):
+    rows = [(row["judge"], row["asked"], number(row["answers"]), "none")
+            for row in results["judgements"]]
+    answers = sum(row["answers"] for row in results["judgements"])
+    return f"""## Judges
+
+Every answer below was compared with the program's own; a single difference would have failed the test and
+left no figure here. {number(answers)} answers in all.
+
+{table(("judge", "asked", "answers", "differences"), rows)}
+"""
+
+
+def civil(julian_day):
+    return datetime.date.fromordinal(julian_day - FIRST_ORDINAL).isoformat()
+
+
+def known_faults(results):
+    rows = [(year, f"{ours} ({civil(ours)})", rule, icus)
+            for year, ours, rule, icus in results["late"]]
+    return f"""## Faults of the judges
+
+ICU, as Debian 12 has it, begins {len(rows)} Jewish years of the range a day late. The new moon of each is on
+a Sunday after 15 h 589 p; a Sunday cannot begin a year, so the Monday does, and ICU puts that Monday off once
+more. The rule of the new moons is a reckoning in whole numbers, written for the tests from the rule itself:
+29 d 12 h 793 p from the first new moon on, then the four postponements. The table of new years comes from
+later releases that have mended it. The Moslem calendars of ICU have their long year in place 16 of the cycle
+in both eras; for the era from Thursday its answers are moved by the day that this makes in years 15 and 16.
+
+{table(("year", "first day here", "by the rule", "by ICU"), rows)}
+"""
+
+
+def coverage_of(results):
+    rows = [(room, number(row["lines"]), percent(row["lines_run"], row["lines"]),
+             number(row["branches"]), percent(row["branches_taken"], row["branches"]))
+            for room, row in results["coverage"].items()]
+    tests = sum(results["tests"].values())
+    return f"""## Coverage
+
+The {number(tests)} tests of the rooms, without those on a real screen, ran:
+
+{table(("room", "lines", "run", "branches", "taken"), rows)}
+"""
+
+
+def endured(results):
+    rows = [(row["what"], number(row["times"])) for row in results["withstood"]]
+    return f"""## Chance and malice
+
+What the tests put the program through, and how often, without a wrong state, a wrong date or a file lost:
+
+{table(("what", "times"), rows)}
+"""
+
+
+def counts_by_room(changes):
+    counts = collections.defaultdict(collections.Counter)
+    for change in changes:
+        counts[change["file"].split("/")[1]][change["result"]] += 1
+    return counts
+
+
+def mutations():
+    run = read("mutations.json")
+    if run is None:
+        return ""
+    counts = counts_by_room(run["changes"])
+    total = sum(counts.values(), collections.Counter())
+    judged = total["noticed"] + total["survived"]
+    rows = [(room, counts[room]["noticed"], counts[room]["survived"], counts[room]["equivalent"])
+            for room in ROOMS_CHANGED if room in counts]
+    return f"""## Changes that tests must notice
+
+Of all changes of one operator, constant, pair of arguments or statement a sample was drawn with the seed
+{run["run"]["seed"]}. The tests of the changed room and of the rooms above noticed {number(total["noticed"])} of
+{number(judged)} changes, {percent(total["noticed"], judged)}. {total["equivalent"]} more change nothing that
+anybody could see; each has its reason in `tests/mutations/equivalents.json`.
+
+{table(("room", "noticed", "survived", "without effect"), rows)}
+"""
+
+
+def take_long_tests():
+    """Keeps the results of ./test when the last run was the long one."""
+    path = ROOT / "build/results.json"
+    if path.exists() and json.loads(path.read_text())["long"]:
+        shutil.copyfile(path, HERE / "long.json")
+
+
+def long_tests():
+    run = read("long.json")
+    if run is None:
+        return ""
+    rows = [(row["name"], number(row["passed"]), row["failed"], f"{row['seconds']} s")
+            for row in run["results"]]
+    return f"""## The long tests
+
+`./test --long`, everything once:
+
+{table(("what", "passed", "failed", "took"), rows)}
+"""
+
+
+def page(results):
+    made = results["system"]
+    parts = [
+        f"""# Verification
+
+How far this program can be trusted, in figures that anybody can make again. Written by
+`docs/verification/write.py` from measured results; nothing here is typed by hand. Measured on
+{made["system"]} ({made["machine"]}) with {made["compiler"]} and Qt {made["qt"]}.
+""",
+        judges(results), known_faults(results), coverage_of(results), endured(results), mutations(),
+        long_tests(),
+        """## To make it again
+
+    python3 docs/verification/write.py          # judges, coverage, chance and malice, and this page
+    python3 tests/mutations/run.py              # the changes, some hours; it goes on where it stopped
+    ./test --long                               # everything, with the long runs
+    python3 docs/verification/write.py --page   # this page alone, from what was measured last
+"""]
+    return "\n".join(filter(None, parts))
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__.split("\n\n")[0])
+    parser.add_argument("--page", action="store_true", help="measure nothing")
+    if not parser.parse_args().page:
+        (HERE / "measured.json").write_text(json.dumps(measured(), indent=1) + "\n")
+    take_long_tests()
+    (ROOT / "docs/verification.md").write_text(page(read("measured.json")))
+
+
+if __name__ == "__main__":
+    main()
