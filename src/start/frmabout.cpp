@@ -10,6 +10,7 @@
 #include "shared/settings.h"
 #include "shared/texts.h"
 
+#include <QCloseEvent>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QPushButton>
@@ -64,6 +65,7 @@ frmAbout::frmAbout() : Dialog(QStringLiteral("frmAbout")) {
 }
 
 void frmAbout::BecomeSplash(int backColor) {
+    m_isSplash = true;
     const int lineY = m_line1->y();
     setWindowFlags(Qt::SplashScreen | Qt::FramelessWindowHint);
     SetCaption(QString());
@@ -75,6 +77,13 @@ void frmAbout::BecomeSplash(int backColor) {
     colors.setColor(QPalette::Window, ToColor(backColor));
     colors.setColor(QPalette::WindowText, ToColor(TextColors(OrdinaryText)));
     setPalette(colors);
+}
+
+void frmAbout::closeEvent(QCloseEvent* event) {
+    if (m_isSplash)
+        event->ignore();
+    else
+        Dialog::closeEvent(event);
 }
 
 void frmAbout::Form_Load() {

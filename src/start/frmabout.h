@@ -25,6 +25,9 @@ public:
 protected:
     void Accept() override { Unload(); }
 
+    /// The splash stays: the start that shows it takes it away.
+    void closeEvent(QCloseEvent* event) override;
+
 private:
     void Form_Load();
     void createControls();
@@ -35,4 +38,5 @@ private:
     Table<QLabel*, 3> m_label1; ///< title, version, description
     Line* m_line1;
     QPushButton* m_cmdOK;
+    bool m_isSplash = false;
 };

@@ -193,6 +193,15 @@ TEST_F(About, TheSplashIsASplashWindowOfTheDesktop) {
     EXPECT_EQ(box->accessibleName(), QStringLiteral("Orvalen Years Calendar"));
 }
 
+TEST_F(About, TheSplashStaysWhenTheDesktopAsksItToClose) {
+    frmAbout splash;
+    splash.BecomeSplash(CalendarColors(Gregorian));
+    splash.show();
+    EXPECT_FALSE(splash.close());
+    EXPECT_TRUE(splash.isVisible());
+    EXPECT_FALSE(splash.IsUnloaded());
+}
+
 TEST_F(About, TheSplashIsCutBelowTheLine) {
     load();
     const QPoint place = box->pos();
