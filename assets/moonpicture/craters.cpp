@@ -3,6 +3,7 @@
 
 #include "craters_table.hpp"
 #include "noise.hpp"
+#include "site.hpp"
 
 #include <algorithm>
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "site.hpp"
-
 namespace moonpicture {
+
+class Plane;
 
 /// Strews the nameless small craters, from a fixed seed.
 void paintSmallCraters(Plane& plane);

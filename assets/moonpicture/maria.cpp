@@ -3,6 +3,7 @@
 
 #include "maria_table.hpp"
 #include "noise.hpp"
+#include "site.hpp"
 
 #include <algorithm>
 #include <span>

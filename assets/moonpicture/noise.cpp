@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "noise.hpp"
 
+#include "sphere.hpp"
+
 #include <algorithm>
 #include <cmath>
 

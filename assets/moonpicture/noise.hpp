@@ -4,11 +4,11 @@
 // every machine.
 #pragma once
 
-#include "sphere.hpp"
-
 #include <cstdint>
 
 namespace moonpicture {
+
+struct Vec3;
 
 /// Smooth noise in space, about -1 to 1, with features one unit of `p` wide
 /// (gradient noise after K. Perlin, 1985, with the smoother fade of 2002).

@@ -3,6 +3,7 @@
 
 #include "noise.hpp"
 #include "rays_table.hpp"
+#include "site.hpp"
 
 #include <algorithm>
 #include <cmath>

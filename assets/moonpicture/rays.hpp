@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "site.hpp"
-
 namespace moonpicture {
+
+class Plane;
 
 /// Paints the bright rays and aprons of the young craters.
 void paintRays(Plane& plane);

@@ -3,6 +3,8 @@
 
 #include "noise.hpp"
 
+#include <algorithm>
+
 namespace moonpicture {
 
 namespace {

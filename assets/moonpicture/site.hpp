@@ -5,7 +5,6 @@
 
 #include "sphere.hpp"
 
-#include <algorithm>
 #include <cstddef>
 #include <vector>
 

@@ -3,6 +3,7 @@
 
 #include "changecals/opening.h"
 #include "controls/controltexts.h"
+#include "platform/commandbutton.h"
 #include "platform/text.h"
 #include "shared/texts.h"
 

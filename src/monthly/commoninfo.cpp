@@ -4,7 +4,10 @@
 #include "calc/state.h"
 #include "changecals/changecals.h"
 #include "controls/controltexts.h"
+#include "monthly/juliandayfield.h"
 #include "platform/beep.h"
+#include "platform/combobox.h"
+#include "platform/commandbutton.h"
 #include "platform/numbers.h"
 #include "platform/text.h"
 #include "shared/flags.h"
@@ -12,7 +15,6 @@
 
 #include <QLocale>
 #include <algorithm>
-#include <cmath>
 
 namespace {
 

@@ -2,8 +2,9 @@
 #pragma once
 
 #include "controls/moonbuttons.h"
-#include "monthly/juliandayfield.h"
-#include "platform/combobox.h"
+
+class ComboBox;
+class JulianDayField;
 
 /// What the four calendars have in common for the chosen day: weekday, age and
 /// phase of the moon, Julian Day.

@@ -1,11 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "monthly/frmmonthlycal.h"
 
-#include "changecals/changecals.h"
 #include "changecals/closing.h"
 #include "changecals/positions.h"
 #include "controls/controltexts.h"
 #include "controls/emblems.h"
+#include "monthly/commoninfo.h"
+#include "monthly/juliandayfield.h"
+#include "monthly/monthgrid.h"
+#include "monthly/pane.h"
+#include "platform/commandbutton.h"
+#include "platform/image.h"
 #include "platform/line.h"
 #include "platform/text.h"
 #include "platform/twips.h"

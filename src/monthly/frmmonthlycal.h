@@ -3,14 +3,15 @@
 
 #include "changecals/windows.h"
 #include "controls/commands.h"
-#include "monthly/commoninfo.h"
-#include "monthly/pane.h"
-#include "platform/commandbutton.h"
-#include "platform/image.h"
 #include "shared/calendars.h"
+#include "shared/settings.h"
 #include "shared/table.h"
 
+class CommandButton;
+class CommonInfo;
+class Image;
 class Line;
+class Pane;
 
 /// The main window: the chosen day in four panes side by side, what the
 /// calendars have in common, and the command buttons.

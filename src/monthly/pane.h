@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "monthly/monthgrid.h"
-#include "platform/combobox.h"
 #include "shared/settings.h"
 #include "shared/table.h"
+
+#include <QObject>
+
+class ComboBox;
+class MonthGrid;
 
 /// Left edges of the panes, in twips.
 inline const Table<int, paneCount> PaneLeft{300, 2640, 4980, 7320};

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/buttonstack.h"
 
+#include "platform/commandbutton.h"
+
 ButtonStack::ButtonStack(const QString& name, const QStringList& pictures, QWidget* parent) {
     for (const QString& picture : pictures) {
         const QString number = QString::number(m_buttons.size());

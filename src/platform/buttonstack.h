@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/commandbutton.h"
-
+#include <QObject>
 #include <QStringList>
 #include <vector>
+
+class CommandButton;
 
 /// Buttons that lie one over another; only the one in front is shown and reached
 /// by Tab. They are counted from 0 and named name_0, name_1, ...

@@ -4,7 +4,6 @@
 #include "platform/gridmodel.h"
 #include "platform/gridspeaker.h"
 
-#include <QRect>
 #include <QTableView>
 
 class GridPainter;

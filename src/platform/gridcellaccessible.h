@@ -5,7 +5,7 @@
 #include <QPersistentModelIndex>
 #include <QPointer>
 
-class MSFlexGrid;
+class MSFlexGrid; // IWYU pragma: keep (it would have the header, which a QPointer needs not)
 
 /// A cell of a grid as assistive tools see it.
 class GridCellAccessible : public QAccessibleInterface,

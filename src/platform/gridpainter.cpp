@@ -2,6 +2,7 @@
 #include "platform/gridpainter.h"
 
 #include "platform/color.h"
+#include "platform/gridmodel.h"
 #include "platform/text.h"
 
 #include <QPainter>

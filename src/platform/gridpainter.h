@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/gridmodel.h"
-
 #include <QAbstractItemDelegate>
 #include <QFont>
 #include <QStaticText>
 #include <unordered_map>
+
+class GridModel;
+struct GridCell;
 
 /// Paints a grid cell: its ground, its text, and nothing of the desktop's theme.
 /// A text too wide for its cell is shown in a smaller font. The current cell of

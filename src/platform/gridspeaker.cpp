@@ -4,7 +4,6 @@
 #include <QAbstractItemView>
 #include <QAccessible>
 #include <QItemSelection>
-#include <utility>
 
 namespace {
 

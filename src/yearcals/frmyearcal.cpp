@@ -9,6 +9,8 @@
 #include "controls/controltexts.h"
 #include "controls/emblems.h"
 #include "controls/yearlist.h"
+#include "platform/combobox.h"
+#include "platform/commandbutton.h"
 #include "platform/text.h"
 #include "platform/twips.h"
 #include "shared/flags.h"

@@ -4,12 +4,12 @@
 #include "changecals/windows.h"
 #include "controls/commands.h"
 #include "controls/moonbuttons.h"
-#include "platform/combobox.h"
-#include "platform/commandbutton.h"
 #include "shared/calendars.h"
 #include "shared/table.h"
 #include "yearcals/yearcals.h"
 
+class ComboBox;
+class CommandButton;
 class YearGrid;
 
 /// The window of a whole year of one calendar: frmJulian, frmGregorian, frmJewish

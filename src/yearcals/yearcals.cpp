@@ -7,6 +7,7 @@
 #include "platform/availability.h"
 #include "platform/buttonstack.h"
 #include "platform/combobox.h"
+#include "platform/commandbutton.h"
 #include "shared/flags.h"
 #include "yearcals/yeargrid.h"
 

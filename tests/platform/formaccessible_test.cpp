@@ -2,6 +2,7 @@
 #include "platform/formaccessible.h"
 
 #include "platform/buttonstack.h"
+#include "platform/commandbutton.h"
 #include "platform/form.h"
 #include "platform/image.h"
 #include "support/platform_accessible.h"

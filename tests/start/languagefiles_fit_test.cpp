@@ -5,6 +5,7 @@
 #include "changecals/opening.h"
 #include "monthly/frmmonthlycal.h"
 #include "moon/frmmoon.h"
+#include "platform/flexgrid.h"
 #include "platform/text.h"
 #include "start/frmabout.h"
 #include "start/frmoptions.h"
