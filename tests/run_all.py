@@ -19,7 +19,8 @@ PROGRAM = BENCH / "bin"
 ROOMS = ["monthly", "controls", "changecals", "yearcals", "start", "platform", "settings",
          "calc", "moon", "shared"]
 TESTED = [*ROOMS, "monitors"]
-LINTED = ["src", *[f"src/{room}" for room in sorted(ROOMS)], "assets/moonpicture"]
+LINTED = ["src/platform", "src", *[f"src/{room}" for room in sorted(ROOMS) if room != "platform"],
+          "assets/moonpicture"]
 LINTED_OF_BENCH = ["bench", "docs"]
 LINTED_AT_LENGTH = [f"tests/{folder}" for folder in sorted([*TESTED, "support"])]
 
@@ -117,6 +118,11 @@ def reproducible():
     return check("reproducible", [sys.executable, "tests/checks/reproducible.py"])
 
 
+def includes(part):
+    return check(f"includes of {part}", [sys.executable, "tests/checks/includes.py",
+                                         ASAN / "compile_commands.json", part])
+
+
 def licences():
     return check("licences", [sys.executable, "tests/checks/licences.py"])
 
@@ -153,22 +159,21 @@ def main():
     long = "--long" in sys.argv[1:]
     options = ["--gtest_also_run_disabled_tests"] if long else []
     results = []
-    # Two at a time, as there are two cores; the end-to-end tests alone, since
-    # they share a screen with a window manager and should meet it at its usual
-    # speed.
-    jobs = [lambda room=room: room_tests(room, options) for room in TESTED]
+    # Two at a time, as there are two cores, and the longest first.
+    jobs = [end_to_end]
+    jobs += [lambda room=room: room_tests(room, options) for room in TESTED]
     folders = [*LINTED, *(LINTED_AT_LENGTH if long else [])]
     jobs += [lambda folder=folder: linting(folder) for folder in folders]
     jobs += [lambda folder=folder: linting(folder, BENCH) for folder in LINTED_OF_BENCH]
     jobs += [formatting, floors, licences, papers, desktop_entry, moon_picture,
              keys, pictures, installing, cross_building]
-    jobs += [reproducible] if long else []
+    if long:
+        jobs += [reproducible]
+        jobs += [lambda part=part: includes(part) for part in ("src", "assets", "tests")]
     with concurrent.futures.ThreadPoolExecutor(max_workers=2) as pool:
         for result in pool.map(lambda job: job(), jobs):
             results.append(result)
             report(result)
-    results.append(end_to_end())
-    report(results[-1])
     keep(results, long)
     passed = sum(result.passed for result in results)
     failed = sum(result.failed for result in results)

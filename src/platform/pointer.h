@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QCursor>
+#include <QCursor> // IWYU pragma: keep (a shape becomes one)
 #include <QGuiApplication>
 
 /// Shows another mouse pointer for as long as it lives.

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 // Jewish dates against judges that share no code with this program.
-#include "calc/calc_test.h"
 #include "calc/icu.h"
 #include "calc/known.h"
 #include "calc/molads.h"
 #include "support/judgement.h"
+#include "support/state.h"
 
-#include <algorithm>
+#include <algorithm> // IWYU pragma: keep (the judge of includes does not see its ranges)
 #include <string>
 #include <vector>
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "changecals/changecals.h"
 
-#include "changecals/opening.h"
 #include "support/recording_windows.h"
 #include "support/widget_test.h"
 

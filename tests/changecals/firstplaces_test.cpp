@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "changecals/firstplaces.h"
 
-#include "support/widget_test.h"
+#include <gtest/gtest.h>
 
 namespace {
 

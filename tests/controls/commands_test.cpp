@@ -2,7 +2,6 @@
 #include "controls/commands.h"
 
 #include "changecals/changecals.h"
-#include "changecals/opening.h"
 #include "support/recording_windows.h"
 #include "support/widget_test.h"
 

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "changecals/closing.h"
 #include "monthly/monthly_test.h"
 #include "platform/settingsstore.h"
 

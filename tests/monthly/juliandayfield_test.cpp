@@ -2,7 +2,6 @@
 #include "monthly/monthly_test.h"
 
 #include <QClipboard>
-#include <QFile>
 #include <QLineEdit>
 
 namespace {

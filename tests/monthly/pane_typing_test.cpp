@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "monthly/pane.h"
-
 #include "monthly/monthly_test.h"
 
 namespace {

@@ -3,7 +3,6 @@
 
 #include "support/widget_test.h"
 
-#include <QDir>
 #include <QImage>
 #include <QtEndian>
 

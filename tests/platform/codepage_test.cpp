@@ -2,7 +2,6 @@
 #include "platform/codepage.h"
 
 #include <gtest/gtest.h>
-#include <iterator>
 
 namespace {
 

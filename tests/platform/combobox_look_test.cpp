@@ -4,7 +4,6 @@
 #include <QAbstractItemView>
 #include <QScrollBar>
 #include <QStyle>
-#include <cstring>
 
 namespace {
 

@@ -7,7 +7,6 @@
 #include <QAbstractItemView>
 #include <QLineEdit>
 #include <QWheelEvent>
-#include <cstring>
 
 class Combo : public PlatformTest {
 protected:

@@ -1,11 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "start/frmoptions_test.h"
 
-#include "platform/numbers.h"
 #include "platform/settingsstore.h"
-#include "platform/twips.h"
-#include "shared/english.h"
-#include "start/language.h"
 
 #include <QCheckBox>
 #include <QFile>

@@ -1,12 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "start/frmoptions_test.h"
 
-#include "platform/numbers.h"
-#include "platform/settingsstore.h"
-#include "platform/twips.h"
-#include "shared/english.h"
-#include "start/language.h"
-
 #include <QDir>
 #include <QFile>
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "changecals/changecals.h"
 #include "changecals/opening.h"
 #include "platform/combobox.h"
 #include "platform/commandbutton.h"

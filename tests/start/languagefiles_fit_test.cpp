@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The texts of every shipped language in year grids and the options, at the sizes
 // that desktops use.
-#include "changecals/changecals.h"
 #include "changecals/opening.h"
 #include "monthly/frmmonthlycal.h"
 #include "moon/frmmoon.h"

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The texts of every shipped language in the lists of every window, judged on
 // pixels: what a list draws is what one twice as wide draws in some letter size.
-#include "changecals/changecals.h"
 #include "changecals/opening.h"
 #include "monthly/frmmonthlycal.h"
 #include "moon/frmmoon.h"

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 // The splash of the start: its colour, its time, and that it is deaf.
-#include "shared/settings.h"
 #include "start/start.h"
 #include "support/platform_input.h"
 #include "support/texttables.h"

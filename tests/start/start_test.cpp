@@ -4,10 +4,8 @@
 #include "changecals/opening.h"
 #include "changecals/windows.h"
 #include "platform/clock.h"
-#include "platform/combobox.h"
 #include "platform/commandbutton.h"
 #include "platform/flexgrid.h"
-#include "shared/look.h"
 #include "support/texttables.h"
 #include "support/widget_test.h"
 

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QAccessible>
-#include <QStringList>
 #include <vector>
 
 /// Listens in the place of an assistive tool while it lives.

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QApplication>
+#include <QApplication> // IWYU pragma: export
 #include <QStringList>
 #include <QTemporaryDir>
-#include <QTest>
+#include <QTest> // IWYU pragma: export
 #include <QTimer>
 #include <functional>
 #include <gtest/gtest.h>

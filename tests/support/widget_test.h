@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/clock.h"
+#include "platform/clock.h" // IWYU pragma: keep (a default argument is one of its dates)
 #include "support/platform_test.h"
 #include "support/state.h"
 

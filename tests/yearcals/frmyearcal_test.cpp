@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "changecals/closing.h"
 #include "yearcals/year_test.h"
 
 #include <QFile>

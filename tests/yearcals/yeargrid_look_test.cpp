@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 // How a year grid looks: the mark that moves, the pointer while a year is filled
 // in, and what the other windows are told of who changed the day.
-#include "changecals/closing.h"
-#include "platform/color.h"
 #include "yearcals/year_test.h"
 
 #include <QAbstractItemModel>
