@@ -71,7 +71,7 @@ void Calc::JDToJulian() {
     const int days = CurJD - MinJD(Julian) + 1;
     int year = days / fourYears * 4;
     int dayNumber = days % fourYears;
-    for (int passed = 0; passed < 3 && dayNumber > commonYear; ++passed) {
+    while (dayNumber > commonYear) { // three times at most, by the remainder
         dayNumber -= commonYear;
         ++year;
     }
