@@ -56,9 +56,11 @@ bool readPosition(int number, const MainWindow* window, Positions& positions) {
     const ChangeCals::Position place = placeNow(number, window);
     const std::optional<int> left = CInt(place.left);
     const std::optional<int> top = CInt(place.top);
-    positions.left(number) = left.value_or(0);
-    positions.top(number) = top.value_or(0);
-    return left && top;
+    if (!left || !top)
+        return false;
+    positions.left(number) = *left;
+    positions.top(number) = *top;
+    return true;
 }
 
 } // namespace

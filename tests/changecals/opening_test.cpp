@@ -35,6 +35,20 @@ TEST_F(Opening, YearWindowsOfThePanesOpenFromTheLastToTheFirst) {
     EXPECT_EQ(takeCalls(), (Calls{"year4.ShowYear", "year1.ShowYear", "year3.ShowYear"}));
 }
 
+TEST_F(Opening, TheYearWindowOfTheFirstPaneGetsTheKeyboard) {
+    CalendarOrder = {Gregorian, Jewish, Julian, Moslem};
+    ChangeCals::LoadYear(Gregorian).showMinimized();
+    ChangeCals::OpenYearWindowsOfPanes();
+    EXPECT_TRUE(waitUntil([] { return ChangeCals::LoadYear(Gregorian).isActiveWindow(); }));
+    EXPECT_EQ(ChangeCals::LoadYear(Gregorian).WindowState(), Form::Normal);
+}
+
+TEST_F(Opening, PanesWithoutCalendarsOpenNothing) {
+    CalendarOrder = {9, 0, -1, 5};
+    ChangeCals::OpenYearWindowsOfPanes();
+    EXPECT_EQ(takeCalls(), Calls{});
+}
+
 TEST_F(Opening, TheMoonWindowIsRedrawnOnOpeningOnlyWhenItWasNotVisible) {
     ChangeCals::ShowMoonWindow();
     ChangeCals::ShowMoonWindow();
@@ -43,6 +57,7 @@ TEST_F(Opening, TheMoonWindowIsRedrawnOnOpeningOnlyWhenItWasNotVisible) {
 
 TEST_F(Opening, TheMonthlyWindowIsRebuiltAndTheDayCarriedOnceWhenItWasNotVisible) {
     ChangeCals::LoadYear(Moslem).Show();
+    CurrentWindow = Julian; // asked last, and not visible
     ChangeCals::ShowMonthlyWindow();
     EXPECT_EQ(takeCalls(), (Calls{"monthly.ReSetForm", "year4.ShowYear"}));
     EXPECT_TRUE(ChangeCals::LoadMonthly().Visible());
