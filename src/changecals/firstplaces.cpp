@@ -54,6 +54,14 @@ QPoint lowerRight(const QRect& desk, const QSize& window) {
 
 } // namespace
 
+QRect DeskOfFirstPlaces(const std::vector<QRect>& desks) {
+    for (const QRect& desk : desks)
+        if ((desk & storableDesk).width() >= monthlyFrameWidth)
+            return desk & storableDesk;
+    const QRect narrow = desks.front() & storableDesk;
+    return narrow.isEmpty() ? storableDesk : narrow;
+}
+
 Places FirstPlaces(const QRect& desk, int monthlyHeight) {
     const int monthlyFrameHeight = monthlyHeight + frameHeight;
     const QPoint below = desk.topLeft() + QPoint(0, monthlyFrameHeight);

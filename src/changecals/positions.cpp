@@ -25,22 +25,18 @@ bool isOnDesktop(int left, int top) {
            top < ToTwips(desktop.y() + desktop.height());
 }
 
-// The first monitor on which windows stand near enough to be stored; the primary
-// one comes first, and is taken as well when none is wide enough.
-QRect deskOfFirstPlaces() {
-    for (const QScreen* screen : QGuiApplication::screens()) {
-        const QRect desk = screen->availableGeometry() & storableDesk;
-        if (desk.width() >= monthlyFrameWidth)
-            return desk;
-    }
-    const QRect narrow = QGuiApplication::primaryScreen()->availableGeometry() & storableDesk;
-    return narrow.isEmpty() ? storableDesk : narrow;
+// The primary one first, as the toolkit has them.
+std::vector<QRect> desksOfMonitors() {
+    std::vector<QRect> desks;
+    for (const QScreen* screen : QGuiApplication::screens())
+        desks.push_back(screen->availableGeometry());
+    return desks;
 }
 
 ChangeCals::Position firstPlace(int number) {
     const MainWindow* monthly = ChangeCals::LoadedWindow(MonthlyWindowNumber);
     const int height = monthly != nullptr ? monthly->height() : 0;
-    const QPoint place = FirstPlaces(deskOfFirstPlaces(), height)(number);
+    const QPoint place = FirstPlaces(DeskOfFirstPlaces(desksOfMonitors()), height)(number);
     return {ToTwips(place.x()), ToTwips(place.y())};
 }
 

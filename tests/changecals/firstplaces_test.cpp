@@ -123,4 +123,23 @@ TEST_F(FirstPlacesOf, ThreeScreensAreTheseToThePixel) {
     }
 }
 
+TEST(DeskOfFirstPlaces, IsThePrimaryMonitorsWhereTheMonthlyWindowFits) {
+    EXPECT_EQ(DeskOfFirstPlaces({{100, 0, 668, 480}, {768, 0, 1920, 1080}}),
+              QRect(100, 0, 668, 480));
+}
+
+TEST(DeskOfFirstPlaces, IsTheFirstWideOneWhereThePrimaryIsNarrow) {
+    EXPECT_EQ(DeskOfFirstPlaces({{0, 0, 667, 900}, {667, 0, 600, 900}, {-1024, 0, 1024, 768}}),
+              QRect(-1024, 0, 1024, 768));
+}
+
+TEST(DeskOfFirstPlaces, IsThePrimaryMonitorsWhereAllAreNarrow) {
+    EXPECT_EQ(DeskOfFirstPlaces({{0, 0, 480, 640}, {480, 0, 600, 900}}), QRect(0, 0, 480, 640));
+}
+
+TEST(DeskOfFirstPlaces, IsOnlyWhatCanBeStored) {
+    EXPECT_EQ(DeskOfFirstPlaces({{1000, 0, 7680, 4320}}), QRect(1000, 0, 1485, 2485));
+    EXPECT_EQ(DeskOfFirstPlaces({{9000, 0, 1920, 1080}}), QRect(-2184, -2184, 4669, 4669));
+}
+
 } // namespace
