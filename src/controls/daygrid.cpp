@@ -103,7 +103,7 @@ void DayGrid::keyPressEvent(QKeyEvent* event) {
         Q_EMIT Paged(event->key() == Qt::Key_PageUp ? -1 : 1,
                      event->modifiers().testFlag(Qt::ShiftModifier));
     else if (event->key() == Qt::Key_Home || event->key() == Qt::Key_End)
-        Q_EMIT EndAsked(event->key() == Qt::Key_Home ? -1 : 1);
+        Q_EMIT EndAsked(event->key() == Qt::Key_Home ? End::First : End::Last);
     else
         MSFlexGrid::keyPressEvent(event);
 }

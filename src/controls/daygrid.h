@@ -20,6 +20,9 @@ public:
     /// Columns of a month: six weeks hold any month.
     static constexpr int monthColumns = 6;
 
+    /// A day at one end of what the grid shows, a month or a year.
+    enum class End { First, Last };
+
     DayGrid(const QString& name, int bands, int titleRows, int columns, QWidget* parent);
 
     /// The calendar whose colours the cells have, 0 before the first.
@@ -35,8 +38,8 @@ Q_SIGNALS:
     /// Page Up (-1) or Page Down (+1) was pressed, with Shift or without.
     void Paged(int direction, bool withShift);
 
-    /// Home (-1) or End (+1) was pressed.
-    void EndAsked(int direction);
+    /// Home or End was pressed.
+    void EndAsked(End end);
 
 protected:
     /// The upper left cell of a month's days.

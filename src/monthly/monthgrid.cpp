@@ -96,8 +96,8 @@ void MonthGrid::page(int direction, bool byYear) {
     ChangeCals::ChangeCal(c);
 }
 
-void MonthGrid::chooseEnd(int direction) {
-    const int day = direction < 0 ? 1 : MonthDays(Calendar(), CurDate(Calendar(), Month));
+void MonthGrid::chooseEnd(End end) {
+    const int day = end == End::First ? 1 : MonthDays(Calendar(), CurDate(Calendar(), Month));
     if (day == CurDate(Calendar(), Day))
         MoveTo(MarkedCell());
     else

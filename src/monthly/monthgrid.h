@@ -22,7 +22,7 @@ private:
     void MSFlexGrid1_MouseDown();
     void MSFlexGrid1_DblClick();
     void page(int direction, bool byYear);
-    void chooseEnd(int direction);
+    void chooseEnd(End end);
     void chooseDay(int day);
 
     int m_pane;

@@ -140,9 +140,9 @@ void YearGrid::blankAdarTwo() {
     }
 }
 
-void YearGrid::chooseEnd(int direction) {
-    const int month = direction < 0 ? 1 : Calc::MonthsInYear(Calendar());
-    const int day = direction < 0 ? 1 : MonthDays(Calendar(), month);
+void YearGrid::chooseEnd(End end) {
+    const int month = end == End::First ? 1 : Calc::MonthsInYear(Calendar());
+    const int day = end == End::First ? 1 : MonthDays(Calendar(), month);
     if (month == CurDate(Calendar(), Month) && day == CurDate(Calendar(), Day))
         MoveTo(MarkedCell());
     else

@@ -41,7 +41,7 @@ private:
     void BuildYearGrid();
     void setTitle(int month);
     void blankAdarTwo();
-    void chooseEnd(int direction);
+    void chooseEnd(End end);
     void chooseDay(int month, int day);
 
     /// First and last Julian Day of the year that the grid is filled with, both 0
