@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "platform/profile.h"
 
-#include "platform/codepage.h"
+#include "platform/encoding.h"
 
 #include <QFile>
 #include <QFileInfo>
-#include <QStringDecoder>
 #include <optional>
 
 namespace {
@@ -66,15 +65,6 @@ QByteArray valueOf(QByteArrayView raw) {
     return (isQuoted(value) ? value.sliced(1, value.size() - 2) : value).toByteArray();
 }
 
-// A file that says by its mark that it is in UTF-16 or UTF-32 becomes UTF-8; the
-// mark of UTF-8 is taken off.
-QByteArray withoutMark(const QByteArray& bytes) {
-    const auto encoding = QStringConverter::encodingForData(bytes);
-    if (encoding == QStringConverter::Utf8)
-        return bytes.mid(3);
-    return encoding ? QString(QStringDecoder(*encoding).decode(bytes)).toUtf8() : bytes;
-}
-
 } // namespace
 
 ProfileFile::ProfileFile(const QString& path) {
@@ -95,7 +85,7 @@ ProfileFile ProfileFile::FromBytes(const QByteArray& bytes) {
 }
 
 void ProfileFile::take(const QByteArray& bytes) {
-    const QByteArray text = withoutMark(bytes);
+    const QByteArray text = WithoutMark(bytes);
     m_status = Status::Read;
     m_isUtf8 = IsUtf8(text);
     Section* section = nullptr;

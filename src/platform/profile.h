@@ -31,7 +31,7 @@ public:
                                        int size) const;
 
     /// Bytes of this file as text: UTF-8 where the whole file is valid UTF-8 or
-    /// begins with the mark of UTF-16, from which it is then brought to UTF-8;
+    /// begins with the mark of UTF-16 or UTF-32, from which it is then brought to UTF-8;
     /// otherwise the 8-bit Windows code page of the user's language.
     QString Decode(const QByteArray& bytes) const;
 

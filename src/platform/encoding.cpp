@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/codepage.h"
+#include "platform/encoding.h"
 
 #include <QStringDecoder>
 #include <iconv.h>
@@ -60,6 +60,13 @@ bool isCentralEuropean(QLocale::Language language) {
 }
 
 } // namespace
+
+QByteArray WithoutMark(const QByteArray& bytes) {
+    const auto encoding = QStringConverter::encodingForData(bytes);
+    if (encoding == QStringConverter::Utf8)
+        return bytes.mid(3);
+    return encoding ? QString(QStringDecoder(*encoding).decode(bytes)).toUtf8() : bytes;
+}
 
 bool IsUtf8(const QByteArray& bytes) {
     QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);

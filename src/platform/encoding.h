@@ -5,6 +5,10 @@
 #include <QLocale>
 #include <QString>
 
+/// Bytes that say by their mark that they are UTF-16 or UTF-32 as UTF-8; the mark of
+/// UTF-8 is taken off, other bytes stay.
+QByteArray WithoutMark(const QByteArray& bytes);
+
 bool IsUtf8(const QByteArray& bytes);
 
 /// The 8-bit Windows code page of a language by its script, as a number: 1251
