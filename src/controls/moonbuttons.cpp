@@ -2,7 +2,7 @@
 #include "controls/moonbuttons.h"
 
 #include "changecals/opening.h"
-#include "controls/controltexts.h"
+#include "controls/tips.h"
 #include "platform/commandbutton.h"
 #include "platform/text.h"
 #include "shared/texts.h"

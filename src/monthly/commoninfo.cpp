@@ -3,7 +3,7 @@
 
 #include "calc/state.h"
 #include "changecals/changecals.h"
-#include "controls/controltexts.h"
+#include "controls/tips.h"
 #include "monthly/juliandayfield.h"
 #include "platform/beep.h"
 #include "platform/combobox.h"
@@ -59,7 +59,7 @@ CommonInfo::CommonInfo(QWidget* parent)
 }
 
 int CommonInfo::Width() const {
-    return widestWeekday(*m_combo6) + moonAgeWidth() + CommandButton::side + julianDayWidth() +
+    return widestWeekday(*m_combo6) + moonAgeWidth() + CommandButton::side + m_combo8->OwnWidth() +
            3 * gap;
 }
 
@@ -78,7 +78,7 @@ void CommonInfo::Place(int left, int middle, int width) {
     placeNext(m_combo7, moonAgeWidth());
     m_command2.Move(left, middle - CommandButton::side / 2);
     left += CommandButton::side + gap;
-    placeNext(m_combo8, julianDayWidth());
+    placeNext(m_combo8, m_combo8->OwnWidth());
 }
 
 void CommonInfo::Reset() {
@@ -117,10 +117,6 @@ void CommonInfo::Combo7_Click() {
 
 int CommonInfo::moonAgeWidth() const {
     return m_combo7->WidthFor(QStringLiteral("28.8"));
-}
-
-int CommonInfo::julianDayWidth() const {
-    return m_combo8->WidthFor(QString::number(MaxJD(Jewish)));
 }
 
 // No day below the lowest can be reached; above, the way is open on purpose. In

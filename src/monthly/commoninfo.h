@@ -37,7 +37,6 @@ private:
     void Combo7_Click();
 
     int moonAgeWidth() const;
-    int julianDayWidth() const;
     void moveBy(double days);
 
     ComboBox* m_combo6; ///< weekday

@@ -51,6 +51,10 @@ JulianDayField::JulianDayField(const QString& name, QWidget* parent) : ComboBox(
     connect(this, &ComboBox::Click, this, &JulianDayField::Combo8_Click);
 }
 
+int JulianDayField::OwnWidth() const {
+    return WidthFor(QString::number(MaxJD(Jewish)));
+}
+
 void JulianDayField::Show(int julianDay) {
     m_shown = m_accepted = QString::number(julianDay);
     SetOnlyItem(m_shown);

@@ -17,6 +17,9 @@ class JulianDayField : public ComboBox {
 public:
     JulianDayField(const QString& name, QWidget* parent);
 
+    /// What the highest Julian Day needs, in pixels.
+    int OwnWidth() const;
+
     /// Shows a Julian Day.
     void Show(int julianDay);
 

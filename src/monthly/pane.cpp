@@ -4,9 +4,10 @@
 #include "calc/calc.h"
 #include "calc/state.h"
 #include "changecals/changecals.h"
-#include "controls/controltexts.h"
+#include "controls/tips.h"
 #include "controls/yearlist.h"
 #include "monthly/monthgrid.h"
+#include "monthly/panelists.h"
 #include "platform/availability.h"
 #include "platform/combobox.h"
 #include "platform/numbers.h"
@@ -21,40 +22,6 @@
 namespace {
 
 constexpr int gap = 4; // pixels between controls
-
-QString fraction(int number, int of) {
-    return QStringLiteral("%1/%2").arg(number).arg(of);
-}
-
-// The entry of a number in each of the lists.
-QString monthEntry(int c, int month) {
-    return fraction(month, Calc::MonthsInYear(c)) + QStringLiteral("  ") +
-           Isolated(Text(MonthNames(c, month)));
-}
-
-QString dayEntry(int c, int day) {
-    return fraction(day, YearDays(c, DaysInYear));
-}
-
-QString weekEntry(int c, int week) {
-    return fraction(week, YearDays(c, WeeksInYear));
-}
-
-// All entries of each of them.
-ListEntries monthEntries(int c) {
-    return NumberedEntries(1, Calc::MonthsInYear(c), CurDate(c, Month),
-                           [c](int month) { return monthEntry(c, month); });
-}
-
-ListEntries dayEntries(int c) {
-    return NumberedEntries(1, YearDays(c, DaysInYear), CurDate(c, DayNumber),
-                           [c](int day) { return dayEntry(c, day); });
-}
-
-ListEntries weekEntries(int c) {
-    return NumberedEntries(1, YearDays(c, WeeksInYear), CurDate(c, WeekNumber),
-                           [c](int week) { return weekEntry(c, week); });
-}
 
 ComboBox* newCombo(int kind, int pane, QWidget* parent) {
     return new ComboBox(QStringLiteral("Combo%1_%2").arg(kind).arg(pane), parent);
@@ -178,9 +145,9 @@ void Pane::setFillers() {
         });
     };
     fill(m_combo2, Controls::YearEntries);
-    fill(m_combo3, monthEntries);
-    fill(m_combo4, dayEntries);
-    fill(m_combo5, weekEntries);
+    fill(m_combo3, MonthEntries);
+    fill(m_combo4, DayEntries);
+    fill(m_combo5, WeekEntries);
 }
 
 int Pane::calendar() const {
@@ -194,9 +161,9 @@ void Pane::selectCalendar() {
 void Pane::showOnlyChosenDay() {
     const int c = calendar();
     m_combo2->SetOnlyItem(QString::number(CurDate(c, Year)));
-    m_combo3->SetOnlyItem(monthEntry(c, CurDate(c, Month)));
-    m_combo4->SetOnlyItem(dayEntry(c, CurDate(c, DayNumber)));
-    m_combo5->SetOnlyItem(weekEntry(c, CurDate(c, WeekNumber)));
+    m_combo3->SetOnlyItem(MonthEntry(c, CurDate(c, Month)));
+    m_combo4->SetOnlyItem(DayEntry(c, CurDate(c, DayNumber)));
+    m_combo5->SetOnlyItem(WeekEntry(c, CurDate(c, WeekNumber)));
 }
 
 // The chooser always stays, as the way to another calendar.

@@ -4,7 +4,7 @@
 #include "calc/state.h"
 #include "changecals/opening.h"
 #include "changecals/positions.h"
-#include "controls/controltexts.h"
+#include "controls/tips.h"
 #include "moon/moonfile.h"
 #include "moon/moonpicture.h"
 #include "platform/message.h"

@@ -4,7 +4,7 @@
 #include "calc/calc.h"
 #include "changecals/opening.h"
 #include "changecals/windows.h"
-#include "controls/controltexts.h"
+#include "controls/tips.h"
 #include "platform/combobox.h"
 #include "platform/commandbutton.h"
 #include "platform/message.h"

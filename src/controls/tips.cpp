@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "controls/controltexts.h"
+#include "controls/tips.h"
 
-#include "calc/state.h"
 #include "platform/text.h"
 #include "shared/settings.h"
 #include "shared/texts.h"
@@ -14,10 +13,4 @@ void Controls::SetTip(QWidget* control, const QString& tip, int c) {
     control->setAccessibleName(name);
     for (auto* field : control->findChildren<QLineEdit*>())
         field->setAccessibleName(name); // it is told beside the list that it belongs to
-}
-
-QString Controls::SpokenDate(int c, int weekday, const QString& day, int month) {
-    return QStringLiteral("%1, %2 %3 %4, %5")
-        .arg(Text(WeekDayNames(weekday)), day, Isolated(Text(MonthNames(c, month))),
-             QString::number(CurDate(c, Year)), Text(CalendarNames(c)));
 }
