@@ -4,7 +4,8 @@ time and looks whether a test notices.
 
 A seeded sample of all changes is judged by the tests of the changed room and of the
 rooms above it. Results are kept as they come; a run that was broken off goes on
-where it stopped, and results of files that have changed since are taken again."""
+where it stopped, a first one where the published one did, and results of files that
+have changed since are taken again."""
 
 import argparse
 import collections
@@ -40,9 +41,10 @@ class Equivalents:
 
 
 class Results:
-    def __init__(self, path):
+    def __init__(self, path, published):
         self._path = path
-        rows = json.loads(path.read_text())["changes"] if path.exists() else []
+        former = next((one for one in (path, published) if one.exists()), None)
+        rows = json.loads(former.read_text())["changes"] if former else []
         self._rows = {row["key"]: row for row in rows}
 
     @staticmethod
@@ -76,7 +78,7 @@ def sources_of(room):
 class Run:
     def __init__(self, options):
         self.options = options
-        self.results = Results(options.folder / "results.json")
+        self.results = Results(options.folder / "results.json", options.output)
         self.equivalents = Equivalents()
         self.above = rooms_above()
         self.rooms = [room for room in options.rooms if room in self.above]
