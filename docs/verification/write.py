@@ -154,7 +154,7 @@ How far this program can be trusted, in figures that anybody can make again. Wri
         """## To make it again
 
     python3 docs/verification/write.py          # judges, coverage, chance and malice, and this page
-    python3 tests/mutations/mutate.py              # the changes, some hours; it goes on where it stopped
+    python3 tests/mutations/mutate.py           # the changes, some hours; it goes on where it stopped
     ./test --long                               # everything, with the long runs
     python3 docs/verification/write.py --page   # this page alone, from what was measured last
 """]
