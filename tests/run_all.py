@@ -18,7 +18,7 @@ BENCH = ROOT / "build" / "bench"
 PROGRAM = BENCH / "bin"
 ROOMS = ["monthly", "controls", "changecals", "yearcals", "start", "platform", "settings",
          "calc", "moon", "shared"]
-TESTED = [*ROOMS, "monitors"]
+TESTED = ["endurance", *ROOMS, "monitors"]
 LINTED = ["src/platform", "src", *[f"src/{room}" for room in sorted(ROOMS) if room != "platform"],
           "assets/moonpicture"]
 LINTED_OF_BENCH = ["bench", "docs"]

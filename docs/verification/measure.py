@@ -53,8 +53,11 @@ def judgements(found):
 
 
 def withstood(found):
-    return [{"what": case["withstood"], "times": int(case["times"])}
-            for case in found if "withstood" in case]
+    times = {}
+    for case in found:
+        if "withstood" in case:
+            times[case["withstood"]] = times.get(case["withstood"], 0) + int(case["times"])
+    return [{"what": what, "times": count} for what, count in times.items()]
 
 
 def late_years(found):

@@ -2,8 +2,8 @@
 // Jewish dates against judges that share no code with this program.
 #include "calc/icu.h"
 #include "calc/known.h"
-#include "calc/molads.h"
 #include "support/judgement.h"
+#include "support/molads.h"
 #include "support/state.h"
 
 #include <algorithm> // IWYU pragma: keep (the judge of includes does not see its ranges)
@@ -86,7 +86,7 @@ TEST_F(JewishJudges, IcuAgreesOnEveryDayOfTheOtherJewishYears) {
 TEST_F(JewishJudges, TheRuleOfTheNewMoonsAgreesOnEveryJewishNewYear) {
     for (int year = 3761; year <= 14000; ++year)
         ASSERT_EQ(Calc::JewishNewYear(year), Molads::NewYear(year)) << year;
-    recordJudgement("the rule of the new moons, in tests/calc/molads.h",
+    recordJudgement("the rule of the new moons, in tests/support/molads.h",
                     "the first day of every Jewish year from 3761 to 14000", 14000 - 3761 + 1);
 }
 

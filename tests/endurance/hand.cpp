@@ -1,0 +1,143 @@
+// SPDX-License-Identifier: MIT
+#include "endurance/hand.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QPushButton>
+#include <QWheelEvent>
+#include <algorithm>
+
+std::string Hand::Said() const {
+    std::string text;
+    for (const std::string& said : m_said)
+        text += "\n  " + said;
+    return text;
+}
+
+void Hand::Activate(Form& window) {
+    if (window.isActiveWindow())
+        return;
+    window.activateWindow();
+    EXPECT_TRUE(waitUntil([&window] { return window.isActiveWindow(); }));
+}
+
+void Hand::Key(QWidget& widget, Qt::Key key, Qt::KeyboardModifiers modifiers) {
+    QTest::keyClick(&widget, key, modifiers);
+}
+
+void Hand::CommandKey(Form& window, Qt::Key key) {
+    QWidget* focus = window.focusWidget();
+    // The desktop of the tests alone takes Ctrl+Y in a field of text for its redoing.
+    const bool fromFocus = focus != nullptr && key != Qt::Key_Y;
+    Key(fromFocus ? *focus : window, key, key == Qt::Key_F1 ? Qt::NoModifier : Qt::ControlModifier);
+}
+
+void Hand::Press(Form& window, const QString& button, Qt::MouseButton with) {
+    Say("press of ", qPrintable(button), " in ", qPrintable(window.objectName()));
+    QTest::mouseClick(&controls.In<QPushButton>(window, button), with);
+}
+
+void Hand::PressMoon(Form& window) {
+    for (int phase = 0; phase <= 8; ++phase) {
+        const QString name = QStringLiteral("Command2_%1").arg(phase);
+        if (!controls.In<QPushButton>(window, name).isVisible())
+            continue;
+        expected.Show(MoonWindowNumber);
+        return Press(window, name);
+    }
+    ADD_FAILURE() << "no moon button in front";
+}
+
+void Hand::PressCell(MSFlexGrid& grid, GridPlace cell, Qt::MouseButton button) {
+    const QModelIndex index = grid.model()->index(cell.row, cell.column);
+    QTest::mouseClick(grid.viewport(), button, {}, grid.visualRect(index).center());
+}
+
+GridPlace Hand::AnyCell(const MSFlexGrid& grid) {
+    GridPlace cell{Below(grid.Rows()), Below(grid.Cols())};
+    if (grid.isColumnHidden(cell.column))
+        cell.column = 1;
+    return cell;
+}
+
+void Hand::Use(const ListInUse& list) {
+    Say(qPrintable(list.box.objectName()), " in ", qPrintable(list.box.window()->objectName()));
+    list.box.setFocus();
+    Key(list.box, Qt::Key_F12); // a list is filled before any key
+    EXPECT_EQ(list.box.ListCount(), list.entries);
+    EXPECT_EQ(list.box.ListIndex(), list.chosen);
+    const int way = Below(20);
+    if (way == 0 && OneIn(4)) // dear
+        chooseInPopup(list);
+    else if (way < 5)
+        turnWheel(list);
+    else if (way < 12 && list.firstNumber >= 0)
+        typeNumber(list);
+    else if (way == 12 && list.firstNumber >= 0)
+        typeDigitAndTakeItBack(list);
+    else
+        moveInList(list);
+}
+
+void Hand::moveInList(const ListInUse& list) {
+    static constexpr Qt::Key keys[] = {Qt::Key_Up,     Qt::Key_Down,     Qt::Key_Up,   Qt::Key_Down,
+                                       Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Home, Qt::Key_End};
+    const Qt::Key key = AnyOf(keys);
+    Say("  key ", int{key});
+    Key(list.box, key);
+    if (key == Qt::Key_Home)
+        list.choose(0);
+    else if (key == Qt::Key_End)
+        list.choose(list.entries - 1);
+    else if (key == Qt::Key_Up || key == Qt::Key_PageUp)
+        list.choose(std::max(list.chosen - 1, 0));
+    else
+        list.choose(std::min(list.chosen + 1, list.entries - 1));
+}
+
+void Hand::typeNumber(const ListInUse& list) {
+    // Near ones mostly, as far ones make every window begin another year.
+    const int near = list.chosen - 5 + Below(11);
+    const int position = OneIn(3) ? Below(list.entries) : std::clamp(near, 0, list.entries - 1);
+    const QString number = QString::number(list.firstNumber + position);
+    Say("  typed ", qPrintable(number));
+    QTest::keyClicks(&list.box, number);
+    Key(list.box, Qt::Key_Return);
+    list.choose(position);
+}
+
+// A digit with which no other entry begins has chosen its entry already.
+void Hand::typeDigitAndTakeItBack(const ListInUse& list) {
+    const QString digit = QString::number(1 + Below(9));
+    std::vector<int> found;
+    for (int position = 0; position < list.entries; ++position) {
+        if (QString::number(list.firstNumber + position).startsWith(digit))
+            found.push_back(position);
+    }
+    Say("  typed ", qPrintable(digit), " and took it back");
+    QTest::keyClicks(&list.box, digit);
+    Key(list.box, Qt::Key_Escape);
+    if (found.size() == 1)
+        list.choose(found.front());
+}
+
+void Hand::turnWheel(const ListInUse& list) {
+    const bool up = OneIn(2);
+    Say("  wheel ", up ? "up" : "down");
+    const QPointF at = list.box.rect().center();
+    QWheelEvent event(at, list.box.mapToGlobal(at), {}, {0, up ? 120 : -120}, Qt::NoButton, {},
+                      Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&list.box, &event);
+    list.choose(std::clamp(list.chosen + (up ? -1 : 1), 0, list.entries - 1));
+}
+
+void Hand::chooseInPopup(const ListInUse& list) {
+    const bool up = OneIn(2);
+    Say("  popup, ", up ? "up" : "down");
+    list.box.showPopup();
+    QAbstractItemView& view = *list.box.view();
+    Key(view, up ? Qt::Key_Up : Qt::Key_Down);
+    Key(view, Qt::Key_Return);
+    EXPECT_FALSE(view.isVisible());
+    list.choose(std::clamp(list.chosen + (up ? -1 : 1), 0, list.entries - 1));
+}
