@@ -127,6 +127,11 @@ DialogFrame* frmOptions::moslemFrame(QWidget* parent) {
         option->setObjectName(QStringLiteral("Option1_%1").arg(type));
         option->setChecked((MoslemType == 1) == (type == 1));
         connect(option, &QRadioButton::clicked, this, [this, type] { Option1_Click(type); });
+        // An assistive tool chooses without a click.
+        connect(option, &QRadioButton::toggled, this, [this, type](bool chosen) {
+            if (chosen)
+                Option1_Click(type);
+        });
         frame->Rows()->addWidget(option);
     }
     return frame;

@@ -3,6 +3,7 @@
 
 #include "platform/settingsstore.h"
 
+#include <QAccessible>
 #include <QCheckBox>
 #include <QFile>
 #include <QPointer>
@@ -195,6 +196,15 @@ TEST_F(Options, ArrowKeysChooseAVariantToo) {
     QTest::keyClick(first, Qt::Key_Down);
     apply();
     EXPECT_EQ(MoslemType, 2);
+}
+
+TEST_F(Options, AssistiveToolsChooseAVariantToo) {
+    open();
+    auto* tool = QAccessible::queryAccessibleInterface(child<QRadioButton>(*dialog, "Option1_2"));
+    tool->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+    apply();
+    EXPECT_EQ(MoslemType, 2);
+    EXPECT_TRUE(isStored("Moslem/Type=2"));
 }
 
 // First weekdays
