@@ -139,4 +139,14 @@ TEST_F(Weeks, LeaveBlankWhatLiesBeforeAMonth) {
     EXPECT_EQ(Calc::LeadingBlanks(Gregorian, 10), 6);
 }
 
+TEST_F(Weeks, EachMonthsFirstWeekdayIsOneOfSeven) {
+    setDate(Gregorian, 1, 1, 2024);
+    Calc::GregorianToJD();
+    const std::vector<int> weekdays{1, 4, 5, 1, 3, 6, 1, 4, 7, 2, 5, 7};
+    for (int month = 1; month <= 12; ++month)
+        EXPECT_EQ(MonthDays(Gregorian, weekdayRow + month),
+                  weekdays[static_cast<std::size_t>(month - 1)])
+            << month;
+}
+
 } // namespace
