@@ -21,7 +21,7 @@ void GridAccessible::Install() {
 GridAccessible::GridAccessible(MSFlexGrid* grid) : QAccessibleWidget(grid, QAccessible::Table) {}
 
 GridAccessible::~GridAccessible() {
-    for (const QAccessible::Id id : std::as_const(m_cells))
+    for (const auto& [cell, id] : m_cells)
         QAccessible::deleteAccessibleInterface(id);
 }
 

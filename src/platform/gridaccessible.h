@@ -2,7 +2,7 @@
 #pragma once
 
 #include <QAccessibleWidget>
-#include <QHash>
+#include <unordered_map>
 
 class MSFlexGrid;
 
@@ -52,5 +52,5 @@ public:
 private:
     MSFlexGrid* grid() const;
 
-    mutable QHash<int, QAccessible::Id> m_cells; ///< those asked for so far
+    mutable std::unordered_map<int, QAccessible::Id> m_cells; ///< those asked for so far
 };
