@@ -2,6 +2,7 @@
 #include "changecals/closing.h"
 #include "changecals/windows.h"
 #include "platform/assistive.h"
+#include "platform/outlines.h"
 #include "platform/pictures.h"
 #include "platform/program.h"
 #include "platform/terminationsignals.h"
@@ -26,6 +27,7 @@ int main(int argc, char* argv[]) {
     QApplication::setQuitOnLastWindowClosed(false); // closing decides by itself
     QApplication::setApplicationName(ProgramTitle());
     InstallAssistiveInterfaces();
+    InstallOutlines();
     QApplication::setWindowIcon(Picture(QStringLiteral("icon"))); // of every window
     QApplication::setDesktopFileName(QStringLiteral("orvalen-years-calendar"));
     const bool started = Start::Main();

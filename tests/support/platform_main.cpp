@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/assistive.h"
+#include "platform/outlines.h"
 #include "platform/pictures.h"
 
 #include <QApplication>
@@ -22,6 +23,7 @@ int main(int argc, char* argv[]) {
     qInstallMessageHandler(printMessage);
     QApplication app(argc, argv);
     InstallAssistiveInterfaces();
+    InstallOutlines();
     QApplication::setWindowIcon(Picture(QStringLiteral("icon")));
     QApplication::setQuitOnLastWindowClosed(false);
     QLocale::setDefault(QLocale::c());
