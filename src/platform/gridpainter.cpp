@@ -20,6 +20,14 @@ bool isSingleDigit(const QString& text) {
     return text.size() == 1 && text.front().isDigit();
 }
 
+// A pen would stand half outside where a screen has several pixels for one.
+void outline(QPainter* painter, const QRect& cell, const QColor& color) {
+    painter->fillRect(QRect(cell.left(), cell.top(), cell.width(), 1), color);
+    painter->fillRect(QRect(cell.left(), cell.bottom(), cell.width(), 1), color);
+    painter->fillRect(QRect(cell.left(), cell.top(), 1, cell.height()), color);
+    painter->fillRect(QRect(cell.right(), cell.top(), 1, cell.height()), color);
+}
+
 } // namespace
 
 GridPainter::GridPainter(const GridModel* model, QObject* parent)
@@ -41,10 +49,8 @@ void GridPainter::paint(QPainter* painter, const QStyleOptionViewItem& option,
         paintText(painter, cell, option.rect);
         painter->setOpacity(1);
     }
-    if (option.state.testFlag(QStyle::State_HasFocus)) {
-        painter->setPen(ToColor(cell.fore));
-        painter->drawRect(option.rect.adjusted(0, 0, -1, -1));
-    }
+    if (option.state.testFlag(QStyle::State_HasFocus))
+        outline(painter, option.rect, ToColor(cell.fore));
 }
 
 QSize GridPainter::sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const {

@@ -47,6 +47,14 @@ protected:
 
     QImage picture() { return grid->grab().toImage(); }
 
+    /// As on a screen of so many pixels for one.
+    QImage picture(double scale) {
+        QImage image(grid->size() * scale, QImage::Format_RGB32);
+        image.setDevicePixelRatio(scale);
+        grid->render(&image);
+        return image;
+    }
+
     /// The upper left pixel of a cell, on which an outline stands.
     static QColor corner(const QImage& image, int row, int column) {
         return image.pixelColor(1 + column * cellSide, 1 + row * cellSide);
@@ -84,6 +92,35 @@ TEST_F(GridLook, TheCurrentCellIsOutlinedFromTheFirstMomentOnTheMarkToo) {
     EXPECT_EQ(corner(picture(), 2, 1), ToColor(pale));
 }
 
+/// The pixels between the middles of the first and the last cell that are not pale.
+QRect strangersIn(const QImage& image) {
+    const QRect all = image.rect();
+    QRect found;
+    for (int y = all.height() / 6; y < all.height() * 5 / 6; ++y)
+        for (int x = all.width() / 6; x < all.width() * 5 / 6; ++x)
+            if (image.pixelColor(x, y) != ToColor(pale))
+                found |= QRect(x, y, 1, 1);
+    return found;
+}
+
+TEST_F(GridLook, TheOutlineOfACellIsItsOutermostPixelsOnFinerScreensToo) {
+    mark(1, 1);
+    grid->setFocus(Qt::TabFocusReason);
+    for (const double scale : {1.0, 1.25, 1.5, 2.0, 3.0}) {
+        SCOPED_TRACE(scale);
+        const QImage image = picture(scale);
+        const QRect cell = strangersIn(image);
+        EXPECT_NEAR(cell.width(), cellSide * scale, 1);
+        for (int along = 0; along < cell.width(); ++along) {
+            EXPECT_EQ(image.pixelColor(cell.left() + along, cell.top()), ToColor(white));
+            EXPECT_EQ(image.pixelColor(cell.left() + along, cell.bottom()), ToColor(white));
+            EXPECT_EQ(image.pixelColor(cell.left(), cell.top() + along), ToColor(white));
+            EXPECT_EQ(image.pixelColor(cell.right(), cell.top() + along), ToColor(white));
+        }
+        EXPECT_EQ(image.pixelColor(cell.center()), ToColor(red));
+    }
+}
+
 /// The darkest pixel within a cell.
 QColor darkest(const QImage& image, int row, int column) {
     QColor found(Qt::white);
@@ -105,9 +142,9 @@ TEST_F(GridLook, TextsOfADisabledGridFadeToHalfAndTheGroundStays) {
     grid->setEnabled(false);
     const QImage faded = picture();
     const QColor ink = darkest(faded, 0, 0);
-    EXPECT_NEAR(ink.red(), (0 + 192) / 2, 2);
-    EXPECT_NEAR(ink.green(), (0 + 255) / 2, 2);
-    EXPECT_NEAR(ink.blue(), (128 + 255) / 2, 2);
+    EXPECT_NEAR(ink.red(), (0 + 192) / 2.0, 2);
+    EXPECT_NEAR(ink.green(), (0 + 255) / 2.0, 2);
+    EXPECT_NEAR(ink.blue(), (128 + 255) / 2.0, 2);
     EXPECT_EQ(corner(faded, 2, 2), ToColor(pale));
 }
 
