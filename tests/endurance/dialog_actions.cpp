@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "endurance/dialog_actions.h"
 
+#include "endurance/controls.h"
+#include "endurance/expected.h"
+#include "platform/combobox.h"
+
 #include <algorithm>
 #include <array>
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "changecals/windows.h"
 #include "endurance/hand.h"
 
 /// What a user does in the options dialog and in the about box, while they are open.

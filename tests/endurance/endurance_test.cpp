@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 // A user who does anything anywhere: after each action all windows show the day to
 // which it should have led.
-#include "changecals/changecals.h"
-#include "changecals/opening.h"
+#include "changecals/windows.h"
+#include "endurance/controls.h"
+#include "endurance/expected.h"
+#include "endurance/hand.h"
 #include "endurance/judge.h"
 #include "endurance/memory.h"
 #include "endurance/walker.h"

@@ -1,6 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "endurance/hand.h"
 
+#include "endurance/controls.h"
+#include "endurance/expected.h"
+#include "platform/combobox.h"
+#include "platform/flexgrid.h"
+#include "platform/form.h"
+#include "support/platform_test.h"
+
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QPushButton>

@@ -1,19 +1,23 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "endurance/controls.h"
-#include "endurance/expected.h"
-#include "platform/combobox.h"
-#include "platform/flexgrid.h"
-#include "platform/form.h"
-#include "support/platform_test.h"
-
-#include <QWidget>
+#include <QString>
+#include <cstddef>
 #include <cstdint>
 #include <deque>
 #include <functional>
 #include <random>
 #include <sstream>
+#include <string>
+
+class ComboBox;
+class Controls;
+class Expected;
+class Form;
+class MSFlexGrid;
+class MessageWatch;
+class QWidget;
+struct GridPlace;
 
 /// A list as the user finds it: how many entries, which of them is chosen, and what
 /// follows from choosing one by its position.

@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "endurance/judge.h"
 
+#include "endurance/controls.h"
+#include "endurance/expected.h"
 #include "endurance/layout.h"
+#include "platform/combobox.h"
 #include "platform/commandbutton.h"
+#include "platform/flexgrid.h"
 #include "shared/flags.h"
 #include "support/state.h"
 
-#include <QAbstractItemView>
 #include <QApplication>
 #include <QLabel>
 #include <cmath>

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "endurance/controls.h"
-#include "endurance/expected.h"
-#include "platform/combobox.h"
-#include "platform/flexgrid.h"
+#include "endurance/reckoning.h"
+
+class Controls;
+class Expected;
+class MSFlexGrid;
+struct GridPlace;
 
 /// Looks whether the program shows what it should; a difference is a failure of the
 /// test.

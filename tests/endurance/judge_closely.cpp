@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
+#include "endurance/controls.h"
+#include "endurance/expected.h"
 #include "endurance/judge.h"
 #include "endurance/layout.h"
 #include "platform/commandbutton.h"
+#include "platform/flexgrid.h"
 #include "platform/image.h"
 #include "platform/text.h"
-#include "shared/look.h"
 #include "shared/texts.h"
 
 #include <QHash>

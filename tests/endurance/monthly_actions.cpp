@@ -1,7 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "endurance/monthly_actions.h"
 
+#include "changecals/windows.h"
+#include "endurance/controls.h" // IWYU pragma: keep (used in a template)
+#include "endurance/expected.h"
 #include "endurance/layout.h"
+#include "platform/combobox.h"
+#include "platform/flexgrid.h"
+#include "support/platform_test.h"
 
 #include <QApplication>
 #include <algorithm>

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "endurance/walker.h"
 
+#include "changecals/windows.h"
+#include "endurance/expected.h"
+#include "shared/settings.h"
+
 #include <vector>
 
 void Walker::Play() {

@@ -1,8 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "endurance/window_actions.h"
 
+#include "changecals/windows.h"
+#include "endurance/controls.h"
+#include "endurance/expected.h"
+
 #include <QApplication>
 #include <QClipboard>
+#include <QTest>
 #include <vector>
 
 namespace {

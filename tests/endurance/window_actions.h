@@ -2,6 +2,8 @@
 #pragma once
 
 #include "endurance/hand.h"
+#include "shared/settings.h"
+#include "shared/table.h"
 
 /// What a user does with windows as such: opens, closes, minimises and restores
 /// them, and gives them commands.

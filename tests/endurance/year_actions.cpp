@@ -1,7 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "endurance/year_actions.h"
 
+#include "endurance/controls.h"
+#include "endurance/expected.h"
 #include "endurance/layout.h"
+#include "platform/combobox.h"
+#include "platform/flexgrid.h"
+
+#include <QTest>
 
 void YearActions::Play(int c) {
     // Of a year that is not shown only the buttons are left.

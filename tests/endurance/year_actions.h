@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "changecals/windows.h"
 #include "endurance/hand.h"
 
 /// What a user does in a year window, while it stays open.
