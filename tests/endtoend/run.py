@@ -2,6 +2,7 @@
 """Runs the end-to-end tests: python3 run.py <folder of the built program>."""
 
 import pathlib
+import signal
 import sys
 import tempfile
 import unittest
@@ -52,6 +53,8 @@ def load_tests():
 
 
 def run_tests():
+    # A shell has it ignored in what it runs in the background.
+    signal.signal(signal.SIGINT, signal.default_int_handler)
     runner = unittest.TextTestRunner(stream=sys.stdout, verbosity=2, resultclass=Result)
     with tempfile.TemporaryDirectory(prefix="orvalen-desktop-") as folder:
         testcase.EndToEndTest.desktop = desktop.Desktop(folder)

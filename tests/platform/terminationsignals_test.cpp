@@ -8,6 +8,9 @@ namespace {
 
 class Termination : public testing::TestWithParam<int> {
 protected:
+    // A shell has it ignored in what it runs in the background.
+    Termination() { std::signal(GetParam(), SIG_DFL); }
+
     int m_ends = 0;
 };
 
