@@ -218,6 +218,11 @@ TEST_F(MonthGrids, CellsSayTheirDateAndTheChosenOneIsSelected) {
     EXPECT_TRUE(cell->state().selected);
     const QPoint other = cellOfDay(grid(2), 21);
     EXPECT_FALSE(table->tableInterface()->cellAt(other.y(), other.x())->state().selected);
+    const QPoint sunday = cellOfDay(grid(2), 22); // in the first row
+    EXPECT_EQ(table->tableInterface()->cellAt(sunday.y(), sunday.x())->text(QAccessible::Name),
+              QStringLiteral("Sunday, 22 November 2026, Gregorian calendar"));
+    EXPECT_EQ(table->tableInterface()->cellAt(0, 0)->text(QAccessible::Name),
+              QStringLiteral("Sunday"));
     EXPECT_EQ(table->tableInterface()->cellAt(1, 0)->text(QAccessible::Name),
               QStringLiteral("Monday"));
 }
