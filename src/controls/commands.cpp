@@ -4,7 +4,7 @@
 #include "changecals/changecals.h"
 #include "changecals/closing.h"
 #include "changecals/opening.h"
-#include "controls/daytext.h"
+#include "controls/clipboardtext.h"
 #include "platform/form.h"
 #include "shared/texts.h"
 

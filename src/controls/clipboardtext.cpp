@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "controls/daytext.h"
+#include "controls/clipboardtext.h"
 
 #include "calc/calc.h"
 #include "calc/state.h"
