@@ -4,7 +4,8 @@
 #include "platform/combobox.h"
 
 // What the month, day and week lists of a pane hold: each entry says the number
-// and how many there are in the current year of calendar c.
+// and how many there are in the current year of calendar c. The number comes
+// first: from there the pane reads what was chosen.
 
 /// "2/12  February": the names of the language now chosen.
 QString MonthEntry(int c, int month);
