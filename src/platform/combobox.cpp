@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/combobox.h"
 
+#include "platform/listtyping.h"
 #include "platform/pointer.h"
 #include "platform/text.h"
 
@@ -13,12 +14,10 @@
 #include <QStylePainter>
 #include <QWheelEvent>
 #include <algorithm>
-#include <chrono>
 
 namespace {
 
 constexpr int visibleEntries = 15;
-constexpr std::chrono::milliseconds typingPause{1000};
 
 /// What stays free beside a text inside its field, for the overhang of letters, and
 /// what an editable field takes for itself, on each side in pixels.
@@ -28,15 +27,6 @@ constexpr int editMargin = 10;
 QRect textField(const QComboBox& list, const QStyleOptionComboBox& option) {
     return list.style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField,
                                         &list);
-}
-
-// Shift leads to the digits of some keyboards: it neither types nor ends typing.
-bool isModifier(int key) {
-    return (key >= Qt::Key_Shift && key <= Qt::Key_ScrollLock) || key == Qt::Key_AltGr;
-}
-
-bool isText(const QString& text) {
-    return !text.isEmpty() && text.front().isPrint();
 }
 
 } // namespace
@@ -53,21 +43,18 @@ ListEntries NumberedEntries(int first, int last, int chosen,
 }
 
 ComboBox::ComboBox(const QString& name, QWidget* parent)
-    : QComboBox(parent), m_items(new QStringListModel(this)) {
+    : QComboBox(parent), m_items(new QStringListModel(this)), m_typing(new ListTyping(this)) {
     setObjectName(name);
     setModel(m_items);
     setFocusPolicy(Qt::StrongFocus);
     setMaxVisibleItems(visibleEntries);
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     setMinimumContentsLength(1);
-    m_pause.setSingleShot(true);
-    m_pause.setInterval(typingPause);
-    connect(&m_pause, &QTimer::timeout, this, &ComboBox::endTyping);
     connect(this, &QComboBox::activated, this, &ComboBox::Click);
 }
 
 void ComboBox::Clear() {
-    m_pending = false;
+    m_typing->Forget();
     clear();
 }
 
@@ -78,7 +65,7 @@ void ComboBox::SetItems(const QStringList& texts, int position) {
 }
 
 void ComboBox::SetListIndex(int position) {
-    m_pending = false;
+    m_typing->Forget();
     setCurrentIndex(position);
 }
 
@@ -110,7 +97,7 @@ void ComboBox::showPopup() {
     // Many styles show a list as a menu as high as the screen, without a bar.
     if (styleSheet().isEmpty())
         setStyleSheet(QStringLiteral("QComboBox { combobox-popup: 0; }"));
-    endTyping();
+    m_typing->End();
     fill();
     view()->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     view()->setAccessibleName(accessibleName());
@@ -131,21 +118,22 @@ void ComboBox::focusInEvent(QFocusEvent* event) {
 void ComboBox::focusOutEvent(QFocusEvent* event) {
     // A window that is being closed may lose the focus before it is told to hide.
     if (!window()->isHidden())
-        endTyping();
+        m_typing->End();
     QComboBox::focusOutEvent(event);
 }
 
 // A window that is closed lets the typed number go.
 void ComboBox::hideEvent(QHideEvent* event) {
-    letGo();
+    m_typing->LetGo();
     QComboBox::hideEvent(event);
 }
 
 void ComboBox::keyPressEvent(QKeyEvent* event) {
-    if (isModifier(event->key()) || (!isEditable() && takeTypedKey(*event)))
-        return;
-    endTyping();
     fill();
+    if (m_typing->TakesKey(*event))
+        return;
+    m_typing->End();
+    fill(); // a choice may have left one entry
     QComboBox::keyPressEvent(event);
 }
 
@@ -154,7 +142,7 @@ void ComboBox::wheelEvent(QWheelEvent* event) {
         event->ignore();
         return;
     }
-    endTyping();
+    m_typing->End();
     fill();
     QComboBox::wheelEvent(event);
 }
@@ -184,72 +172,6 @@ void ComboBox::fill() {
     const ListEntries entries = m_filler();
     if (!entries.texts.isEmpty())
         SetItems(entries.texts, entries.chosen);
-}
-
-// Whether the key belongs to a number that is being typed.
-bool ComboBox::takeTypedKey(const QKeyEvent& event) {
-    const bool corrects = m_pending && event.modifiers() == Qt::NoModifier;
-    if (corrects && event.key() == Qt::Key_Backspace)
-        takeBack(1);
-    else if (corrects && event.key() == Qt::Key_Escape)
-        takeBack(m_typed.size());
-    else if (m_pending && (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter))
-        endTyping();
-    else
-        return isText(event.text()) && takeTypedText(event.text());
-    return true;
-}
-
-// A digit that cannot follow those before it begins a number of its own. Names
-// are left to the toolkit, which chooses at each letter.
-bool ComboBox::takeTypedText(const QString& text) {
-    if (!m_typed.isEmpty() && showTyped(m_typed + text))
-        return true;
-    return text.front().isDigit() && showTyped(text);
-}
-
-bool ComboBox::showTyped(const QString& text) {
-    fill();
-    const QModelIndexList found =
-        m_items->match(m_items->index(0), Qt::DisplayRole, text, 2, Qt::MatchStartsWith);
-    if (found.isEmpty())
-        return false;
-    if (!m_pending)
-        m_before = currentIndex();
-    m_typed = text;
-    m_pending = true;
-    m_pause.start();
-    setCurrentIndex(found.front().row());
-    if (found.size() == 1)
-        choose();
-    return true;
-}
-
-void ComboBox::takeBack(qsizetype digits) {
-    m_typed.chop(digits);
-    if (!m_typed.isEmpty()) {
-        showTyped(m_typed);
-        return;
-    }
-    letGo();
-}
-
-void ComboBox::choose() {
-    m_pending = false;
-    Q_EMIT activated(currentIndex());
-}
-
-void ComboBox::letGo() {
-    m_pause.stop();
-    m_typed.clear();
-    if (m_pending)
-        SetListIndex(m_before);
-}
-
-void ComboBox::endTyping() {
-    if (m_pending)
-        choose();
-    letGo();
 }
 
 int ComboBox::chromeWidth() const {

@@ -2,10 +2,10 @@
 #pragma once
 
 #include <QComboBox>
-#include <QTimer>
 #include <functional>
 #include <vector>
 
+class ListTyping;
 class QStringListModel;
 
 /// The entries of a list and the position of the chosen one.
@@ -25,10 +25,8 @@ ListEntries NumberedEntries(
 /// the focus. A text too wide for the list is shown in a smaller font rather than
 /// cut. At most 15 entries drop down, the chosen one in their middle.
 ///
-/// A number typed into the list is one choice. The first entry that begins with
-/// the digits so far is shown at once; it is chosen when no other begins so, on
-/// Return, when the list is left or used in another way, or after a pause.
-/// Backspace takes a digit back, Escape all of them.
+/// A number typed into the list is one choice (ListTyping), made at the latest when
+/// the list is left or used in another way.
 class ComboBox : public QComboBox {
     Q_OBJECT
 
@@ -84,24 +82,12 @@ protected:
 private:
     void fill();
 
-    bool takeTypedKey(const QKeyEvent& event);
-    bool takeTypedText(const QString& text);
-    bool showTyped(const QString& text);
-    void takeBack(qsizetype digits);
-    void choose();
-    void letGo();
-    void endTyping();
-
     int chromeWidth() const;
     QFont ownFittedFont() const;
     QFont fittedFont() const;
 
     QStringListModel* m_items; ///< takes thousands of entries at once
+    ListTyping* m_typing;
     Filler m_filler;
     std::vector<ComboBox*> m_sharing; ///< of one letter size
-
-    QString m_typed;
-    bool m_pending = false; ///< what was typed is shown, but not yet chosen
-    int m_before = -1;      ///< the position before it was shown
-    QTimer m_pause;
 };

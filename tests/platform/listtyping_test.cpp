@@ -82,6 +82,17 @@ TEST_F(Combo, AShorterNumberIsChosenBeforeTheNextChoice) {
     EXPECT_EQ(clicks, 5);
 }
 
+TEST_F(Combo, AKeyAfterANumberFindsTheListThatTheChoiceHasShortened) {
+    offerYears(2024);
+    QObject::connect(list, &ComboBox::Click, list, [this] { offerYears(list->Text().toInt()); });
+    show();
+    focusList();
+    type("20");
+    QTest::keyClick(list, Qt::Key_Down);
+    EXPECT_EQ(list->Text(), QStringLiteral("21"));
+    EXPECT_EQ(clicks, 2);
+}
+
 TEST_F(Combo, BackspaceAndEscapeTakeDigitsBack) {
     offerYears(2024);
     show();
