@@ -1,43 +1,16 @@
 // SPDX-License-Identifier: MIT
 // The splash of the start: its colour, its time, and that it is deaf.
+#include "start/splashwatch.h"
 #include "start/start.h"
 #include "support/platform_input.h"
 #include "support/texttables.h"
 #include "support/widget_test.h"
 
-#include <QElapsedTimer>
 #include <QImage>
 
 namespace {
 
 constexpr double leastSeconds = 1.0368; // 0.000012 days
-
-/// Keeps what is drawn of the splash and how long it is shown.
-class SplashWatch : public QObject {
-public:
-    SplashWatch() { qApp->installEventFilter(this); }
-
-    bool eventFilter(QObject* object, QEvent* event) override {
-        if (!object->isWidgetType() || object->objectName() != QStringLiteral("frmAbout"))
-            return false;
-        auto* splash = static_cast<QWidget*>(object);
-        if (event->type() == QEvent::Show) {
-            m_shown.start();
-            window = splash->windowHandle();
-        } else if (event->type() == QEvent::Hide) {
-            seconds = static_cast<double>(m_shown.nsecsElapsed()) / 1e9;
-            ground = splash->grab().toImage().pixelColor(2, 2);
-        }
-        return false;
-    }
-
-    QColor ground;
-    QWindow* window = nullptr;
-    double seconds = 0;
-
-private:
-    QElapsedTimer m_shown;
-};
 
 class Splash : public WidgetTest {
 protected:

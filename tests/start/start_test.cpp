@@ -6,40 +6,16 @@
 #include "platform/clock.h"
 #include "platform/commandbutton.h"
 #include "platform/flexgrid.h"
+#include "start/splashwatch.h"
 #include "support/texttables.h"
 #include "support/widget_test.h"
 
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QImage>
 #include <QScrollBar>
 
 namespace {
-
-/// Measures how long the splash is on the screen and keeps its background.
-class SplashWatch : public QObject {
-public:
-    SplashWatch() { qApp->installEventFilter(this); }
-
-    bool eventFilter(QObject* object, QEvent* event) override {
-        if (!object->isWidgetType() || object->objectName() != QStringLiteral("frmAbout"))
-            return false;
-        if (event->type() == QEvent::Show) {
-            m_shown.start();
-            background = static_cast<QWidget*>(object)->palette().color(QPalette::Window);
-        } else if (event->type() == QEvent::Hide) {
-            seconds = static_cast<double>(m_shown.nsecsElapsed()) / 1e9;
-        }
-        return false;
-    }
-
-    QColor background;
-    double seconds = 0;
-
-private:
-    QElapsedTimer m_shown;
-};
 
 class Starting : public WidgetTest {
 protected:
@@ -124,7 +100,7 @@ TEST_F(Starting, ShowsASplashForItsTime) {
     store("[Startup]\nWindow=3\n");
     ASSERT_TRUE(Start::Main());
     EXPECT_GE(splash.seconds, Days(0.000012).count());
-    EXPECT_EQ(splash.background, QColor(0xFF, 0xFF, 0xC0)) << "the start-up calendar's colour";
+    EXPECT_EQ(splash.ground, QColor(0xFF, 0xFF, 0xC0)) << "the start-up calendar's colour";
 }
 
 TEST_F(Starting, AMissingMoonPictureIsToldOnce) {
