@@ -67,6 +67,18 @@ GridPlace Hand::AnyCell(const MSFlexGrid& grid) {
     return cell;
 }
 
+void Hand::MoveAbout(MSFlexGrid& grid) {
+    static constexpr Qt::Key arrows[] = {Qt::Key_Up, Qt::Key_Down, Qt::Key_Left, Qt::Key_Right};
+    grid.setFocus();
+    for (int step = Below(4); step >= 0; --step)
+        Key(grid, AnyOf(arrows));
+}
+
+void Hand::PressByKey(MSFlexGrid& grid) {
+    static constexpr Qt::Key presses[] = {Qt::Key_Return, Qt::Key_Space};
+    Key(grid, AnyOf(presses));
+}
+
 void Hand::Use(const ListInUse& list) {
     Say(qPrintable(list.box.objectName()), " in ", qPrintable(list.box.window()->objectName()));
     list.box.setFocus();

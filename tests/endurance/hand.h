@@ -80,6 +80,12 @@ public:
     /// A cell of a grid that can be pressed.
     GridPlace AnyCell(const MSFlexGrid& grid);
 
+    /// Moves the current cell of a grid a few times in any direction.
+    void MoveAbout(MSFlexGrid& grid);
+
+    /// Presses the current cell of a grid by a key.
+    void PressByKey(MSFlexGrid& grid);
+
     /// Uses a list in any way: by keys, a typed number, the wheel or its popup.
     void Use(const ListInUse& list);
 

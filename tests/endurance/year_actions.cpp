@@ -48,16 +48,12 @@ void YearActions::pressCell(int c) {
 }
 
 void YearActions::moveAndPress(int c) {
-    static constexpr Qt::Key arrows[] = {Qt::Key_Up, Qt::Key_Down, Qt::Key_Left, Qt::Key_Right};
-    static constexpr Qt::Key presses[] = {Qt::Key_Return, Qt::Key_Space};
     MSFlexGrid& days = grid(c);
     m_hand.Say("arrows in year ", c);
-    days.setFocus();
-    for (int step = m_hand.Below(4); step >= 0; --step)
-        Hand::Key(days, m_hand.AnyOf(arrows));
+    m_hand.MoveAbout(days);
     // A press of the mouse may have left the current cell on a blank.
     const auto day = Layout::DayInYear(m_expected, c, {days.Row(), days.Col()});
-    Hand::Key(days, m_hand.AnyOf(presses));
+    m_hand.PressByKey(days);
     m_expected.day = day.value_or(m_expected.day);
 }
 
