@@ -11,11 +11,7 @@ protected:
 
     void show() {
         window.resize(300, 200);
-        window.show();
-        window.activateWindow();
-        other->setFocus();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-        ASSERT_TRUE(waitUntil([this] { return other->hasFocus(); }));
+        showWithFocus(window, *other);
     }
 
     QWidget window;

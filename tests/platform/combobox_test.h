@@ -19,13 +19,7 @@ protected:
 
     ~Combo() override { list->hidePopup(); }
 
-    void show() {
-        window.show();
-        window.activateWindow();
-        other->setFocus();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-        ASSERT_TRUE(waitUntil([this] { return other->hasFocus(); }));
-    }
+    void show() { showWithFocus(window, *other); }
 
     void focusList() {
         list->setFocus();

@@ -24,11 +24,7 @@ protected:
     ~AccessibleCombo() override { list->hidePopup(); }
 
     void show() {
-        window.show();
-        window.activateWindow();
-        list->setFocus();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-        ASSERT_TRUE(waitUntil([this] { return list->hasFocus(); }));
+        showWithFocus(window, *list);
         processEvents();
     }
 

@@ -44,11 +44,7 @@ protected:
     QPoint at() const { return {grid->Col(), grid->Row()}; }
 
     void show() {
-        window.show();
-        window.activateWindow();
-        grid->setFocus();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-        ASSERT_TRUE(waitUntil([this] { return grid->hasFocus(); }));
+        showWithFocus(window, *grid);
         settle();
     }
 

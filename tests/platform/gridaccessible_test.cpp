@@ -71,11 +71,7 @@ protected:
     }
 
     void show() {
-        window.show();
-        window.activateWindow();
-        other->setFocus();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-        ASSERT_TRUE(waitUntil([this] { return other->hasFocus(); }));
+        showWithFocus(window, *other);
         processEvents();
     }
 

@@ -15,6 +15,14 @@ bool waitUntil(const std::function<bool()>& condition) {
     return QTest::qWaitFor(condition, 10000);
 }
 
+void showWithFocus(QWidget& window, QWidget& control) {
+    window.show();
+    window.activateWindow();
+    control.setFocus();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    ASSERT_TRUE(waitUntil([&control] { return control.hasFocus(); }));
+}
+
 void processEvents() {
     for (int round = 0; round < 3; ++round)
         QCoreApplication::processEvents();

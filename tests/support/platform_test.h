@@ -13,6 +13,9 @@
 /// Waits until a condition holds; false when it never does.
 bool waitUntil(const std::function<bool()>& condition);
 
+/// Shows a window in front of all others, with the focus on this control of it.
+void showWithFocus(QWidget& window, QWidget& control);
+
 /// Runs all events that are due.
 void processEvents();
 
