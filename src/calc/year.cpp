@@ -14,9 +14,12 @@ int Calc::NumberDay(int c) {
 }
 
 void Calc::DateDay(int c, int dayNumber) {
+    int month = 1;
+    int day = dayNumber;
+    DayToMonth(c, month, day);
     CurDate(c, DayNumber) = dayNumber;
-    CurDate(c, Day) = dayNumber;
-    DayToMonth(c, CurDate(c, Month), CurDate(c, Day));
+    CurDate(c, Month) = month;
+    CurDate(c, Day) = day;
 }
 
 void Calc::SetYear(int c, int newYear) {
