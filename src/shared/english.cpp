@@ -3,6 +3,8 @@
 
 #include "shared/texts.h"
 
+const Table<std::string, 2> AdarSuffixes{" I", " II"};
+
 namespace {
 
 const Table<std::string, 12> romanMonths{"January",   "February", "March",    "April",

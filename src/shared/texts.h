@@ -17,9 +17,10 @@ inline constexpr int monthlyCalendarsName = 5;
 /// Nisan .. Elul from month 6 on, in a common year month 13 is empty.
 inline Table<std::string, calendarCount, monthLimit> MonthNames;
 
-/// The plain name of Adar, and what a leap year appends to it in months 6 and 7.
+/// The plain name of Adar, and what a leap year appends to it in months 6 and 7,
+/// the same in every language.
 inline std::string AdarName;
-inline const Table<std::string, 2> AdarSuffixes{" I", " II"};
+extern const Table<std::string, 2> AdarSuffixes;
 
 inline Table<std::string, 7> WeekDayNames; ///< Monday first
 inline Table<std::string, 7> WeekDayAbbrs; ///< Monday first
