@@ -3,6 +3,7 @@
 
 #include "calc/calc.h"
 #include "calc/state.h"
+#include "controls/spokenday.h"
 #include "platform/numbers.h"
 #include "platform/text.h"
 #include "shared/look.h"
@@ -32,13 +33,6 @@ std::optional<GridPlace> arrowStep(int key) {
     default:
         return std::nullopt;
     }
-}
-
-// Of the current year of calendar c.
-QString spokenDate(int c, int weekday, const QString& day, int month) {
-    return QStringLiteral("%1, %2 %3 %4, %5")
-        .arg(Text(WeekDayNames(weekday)), day, Isolated(Text(MonthNames(c, month))),
-             QString::number(CurDate(c, Year)), Text(CalendarNames(c)));
 }
 
 } // namespace
@@ -144,5 +138,5 @@ QString DayGrid::spokenText(GridPlace cell) const {
     if (text.isEmpty() || weekRow(cell.row) < 0)
         return text;
     const int weekday = Calc::WeekdayOfRow(m_calendar, weekRow(cell.row));
-    return month == 0 ? Text(WeekDayNames(weekday)) : spokenDate(m_calendar, weekday, text, month);
+    return month == 0 ? Text(WeekDayNames(weekday)) : SpokenDay(m_calendar, weekday, text, month);
 }

@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: MIT
+#include "controls/spokenday.h"
+
+#include "calc/state.h"
+#include "platform/numbers.h"
+#include "platform/text.h"
+#include "shared/texts.h"
+
+QString SpokenDay(int c, int weekday, const QString& day, int month) {
+    return QStringLiteral("%1, %2 %3 %4, %5")
+        .arg(Text(WeekDayNames(weekday)), day, Isolated(Text(MonthNames(c, month))),
+             QString::number(CurDate(c, Year)), Text(CalendarNames(c)));
+}
