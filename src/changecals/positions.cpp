@@ -73,6 +73,14 @@ void ChangeCals::PlaceForm(Form& form, int number) {
     form.Move(place.left, place.top);
 }
 
+void ChangeCals::PlaceDialog(Form& dialog) {
+    const QRect screen = QGuiApplication::primaryScreen()->geometry();
+    const int freeWidth = ToTwips(screen.width()) - ToTwips(dialog.width());
+    const int freeHeight = ToTwips(screen.height()) - ToTwips(dialog.height());
+    dialog.Move(CLng(ToTwips(screen.x()) + freeWidth / 2.0).value_or(0),
+                CLng(ToTwips(screen.y()) + freeHeight / 3.0).value_or(0));
+}
+
 const MainWindow* ChangeCals::ReadPositions() {
     if (!HasWindowPositions())
         return nullptr;

@@ -4,8 +4,8 @@
 class Form;
 class MainWindow;
 
-/// Where the main windows stand: placed as they are loaded, read back and stored
-/// at the end.
+/// Where the windows stand: the main ones are placed as they are loaded and read
+/// back to be stored at the end, the dialogs have a fixed place.
 namespace ChangeCals {
 
 /// Of a window's frame on the desktop, in twips.
@@ -21,6 +21,10 @@ Position PlaceOf(int number);
 
 /// Puts a window that is being loaded there.
 void PlaceForm(Form& form, int number);
+
+/// Puts a dialog, or the splash, in the middle of the primary monitor's width and
+/// at a third of the height that it leaves free.
+void PlaceDialog(Form& dialog);
 
 /// Reads where the six windows stand into FormTop and FormLeft. A minimised
 /// window and one whose place cannot be known keep the position read at start.

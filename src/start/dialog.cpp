@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "start/dialog.h"
 
-#include "platform/numbers.h"
-#include "platform/twips.h"
-
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QScreen>
@@ -12,13 +9,6 @@
 
 Dialog::Dialog(const QString& name) : Form(name), m_commands(*this, 0, [this] { Unload(); }) {
     setWindowFlags(Qt::Dialog);
-}
-
-void Dialog::Place() {
-    const QRect screen = QGuiApplication::primaryScreen()->geometry();
-    const double left = ToTwips(screen.x()) + (ToTwips(screen.width()) - ToTwips(width())) / 2.0;
-    const double top = ToTwips(screen.y()) + (ToTwips(screen.height()) - ToTwips(height())) / 3.0;
-    Move(CLng(left).value_or(0), CLng(top).value_or(0));
 }
 
 int Dialog::Metric(QStyle::PixelMetric which) const {

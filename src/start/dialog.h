@@ -17,11 +17,6 @@ public:
     explicit Dialog(const QString& name);
 
 protected:
-    /// Puts the dialog in the middle of the primary monitor's width and at a third
-    /// of the height that it leaves free. It is not stored; the main windows' places
-    /// are, by changecals/positions.
-    void Place();
-
     /// A measure of the style in use, in pixels.
     int Metric(QStyle::PixelMetric which) const;
 

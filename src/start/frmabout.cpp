@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "start/frmabout.h"
 
+#include "changecals/positions.h"
 #include "platform/color.h"
 #include "platform/image.h"
 #include "platform/line.h"
@@ -91,7 +92,7 @@ void frmAbout::Form_Load() {
     placeControls();
     if (ShowTips != 0)
         m_cmdOK->setToolTip(PlainTip(Text(StringTexts(CloseText))));
-    Place();
+    ChangeCals::PlaceDialog(*this);
 }
 
 void frmAbout::createControls() {

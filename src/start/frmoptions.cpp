@@ -3,6 +3,7 @@
 
 #include "calc/calc.h"
 #include "changecals/opening.h"
+#include "changecals/positions.h"
 #include "changecals/windows.h"
 #include "controls/tips.h"
 #include "platform/combobox.h"
@@ -68,7 +69,7 @@ void frmOptions::Form_Load() {
     rows->addLayout(commands);
     ScrollWhereTooHigh(frames, *rows);
     adjustSize();
-    Place();
+    ChangeCals::PlaceDialog(*this);
 }
 
 void frmOptions::Command1_Click(int index) {

@@ -41,6 +41,15 @@ TEST_F(PositionsOfWindows, AreReadBackFromTheWindows) {
     EXPECT_EQ(FormTop(MoonWindowNumber), -300);
 }
 
+TEST_F(PositionsOfWindows, ADialogIsInTheMiddleAndAThirdDown) {
+    ASSERT_EQ(QGuiApplication::primaryScreen()->geometry(), QRect(0, 0, 800, 800));
+    Form dialog(QStringLiteral("frmTest"));
+    dialog.resize(301, 200);
+    ChangeCals::PlaceDialog(dialog);
+    EXPECT_EQ(dialog.pos(), QPoint(249, 200));
+    EXPECT_EQ(dialog.Top(), 3000);
+}
+
 TEST_F(PositionsOfWindows, TellTheWindowThatStandsTooFarOut) {
     const QPoint places[] = {{2185, 10}, {10, 2185}, {-2185, 10}, {10, -2185}};
     for (const QPoint& place : places) {
