@@ -9,7 +9,6 @@
 #include "moon/moonpicture.h"
 #include "platform/message.h"
 #include "platform/numbers.h"
-#include "platform/program.h"
 #include "platform/text.h"
 #include "platform/twips.h"
 #include "shared/settings.h"
@@ -88,7 +87,7 @@ void frmMoon::Form_Load() {
 }
 
 void frmMoon::loadPicture() {
-    const QString path = ProgramFile(QStringLiteral("Moon.bmp"));
+    const QString path = MoonPictureFile();
     const QImage picture = LoadMoonPicture(path);
     if (picture.isNull())
         MsgBox(WithEmptyLine(path, Text(StringTexts(FileNotFoundText))));

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "moon/moonfile.h"
 
+#include "platform/program.h"
+
 #include <QBuffer>
 #include <QFile>
 #include <QFileInfo>
@@ -53,6 +55,10 @@ QSize sizeFor(const QSize& size) {
 }
 
 } // namespace
+
+QString MoonPictureFile() {
+    return ProgramFile(QStringLiteral("Moon.bmp"));
+}
 
 QImage LoadMoonPicture(const QString& path) {
     QByteArray bytes = readFile(path);
