@@ -5,7 +5,8 @@
 
 // What the month, day and week lists of a pane hold: each entry says the number
 // and how many there are in the current year of calendar c. The number comes
-// first: from there the pane reads what was chosen.
+// first: typed digits are matched with it, and from a day or a week that was chosen
+// the pane reads it back.
 
 /// "2/12  February": the names of the language now chosen.
 QString MonthEntry(int c, int month);

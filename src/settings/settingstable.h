@@ -6,7 +6,8 @@
 #include <vector>
 
 // The table of the settings: where each is kept, what it is when absent, and
-// which of the shared values holds it.
+// which of the shared values holds it. All are read by it; which are saved together,
+// and when, stands in storedsettings.
 
 struct NumberSetting {
     QString section;
