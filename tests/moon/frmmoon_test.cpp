@@ -159,6 +159,30 @@ TEST_F(MoonWindowTest, FollowsEveryChangeWhileItIsVisible) {
     EXPECT_EQ(accessibleName(label()), QStringLiteral("Moon age (in days) 24.3"));
 }
 
+TEST_F(MoonWindowTest, ReturnAndEnterBringBackTheMonthlyWindowAndNoOtherKeyDoes) {
+    writeBitmap();
+    ChangeCals::ShowMoonWindow();
+    for (const auto key : {Qt::Key_Space, Qt::Key_A, Qt::Key_Delete}) {
+        QTest::keyClick(&picture(), key);
+        EXPECT_FALSE(ChangeCals::IsVisible(MonthlyWindowNumber)) << key;
+    }
+    for (const auto key : {Qt::Key_Return, Qt::Key_Enter}) {
+        QTest::keyClick(&picture(), key);
+        EXPECT_TRUE(ChangeCals::IsVisible(MonthlyWindowNumber)) << key;
+        ChangeCals::LoadMonthly().Hide();
+    }
+}
+
+TEST_F(MoonWindowTest, TheNightIsDarkAndTheFrameOfThePictureIsSeenInIt) {
+    writeBitmap();
+    ChangeCals::ShowMoonWindow();
+    const QImage image = moon().grab().toImage();
+    EXPECT_EQ(image.pixelColor(0, 0), QColor(24, 26, 36));
+    EXPECT_EQ(image.pixelColor(289, 308), QColor(24, 26, 36));
+    EXPECT_EQ(image.pixelColor(4, 150), QColor(70, 76, 96));
+    EXPECT_EQ(image.pixelColor(145, 13), QColor(70, 76, 96));
+}
+
 TEST_F(MoonWindowTest, EscHidesItAlsoAfterAChangeAndOtherKeysDoNothing) {
     writeBitmap();
     ChangeCals::ShowMoonWindow();

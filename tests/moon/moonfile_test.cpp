@@ -3,8 +3,11 @@
 
 #include "support/widget_test.h"
 
+#include <QFile>
 #include <QImage>
 #include <QtEndian>
+#include <optional>
+#include <sys/stat.h>
 
 namespace {
 
@@ -93,6 +96,23 @@ TEST_F(MoonFile, EveryFormIsReadAndIsRefusedWithItsLastPixelsMissing) {
         EXPECT_TRUE(load(form.file().chopped(lastPixels)).isNull())
             << form.depth << " " << form.compression;
     }
+}
+
+TEST_F(MoonFile, WhatIsNoFileIsNotOpened) {
+    const QString path = programPath(QStringLiteral("Moon.bmp"));
+    ASSERT_EQ(mkfifo(QFile::encodeName(path), 0600), 0); // opening it would wait for a writer
+    EXPECT_TRUE(LoadMoonPicture(path).isNull());
+}
+
+TEST_F(MoonFile, MayHaveAQuarterOfAGigabyteAndNoMore) {
+    constexpr qint64 most = 268435456;
+    const Bitmap small{.width = 2, .height = 2, .data = QByteArray(16, '\xFF')};
+    EXPECT_FALSE(load(small).isNull());
+    const QString path = programPath(QStringLiteral("Moon.bmp"));
+    ASSERT_TRUE(QFile::resize(path, most)); // with nothing behind the pixels
+    EXPECT_FALSE(LoadMoonPicture(path).isNull());
+    ASSERT_TRUE(QFile::resize(path, most + 1));
+    EXPECT_TRUE(LoadMoonPicture(path).isNull());
 }
 
 TEST_F(MoonFile, ASizeFieldHidesNoDamage) {

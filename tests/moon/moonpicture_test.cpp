@@ -70,6 +70,17 @@ protected:
     }
 };
 
+TEST_F(MoonPictures, AnotherPictureOfTheSameSizeTakesTheFormersPlace) {
+    MoonPicture alone(QStringLiteral("Picture1"), nullptr);
+    alone.resize(side, side);
+    for (const QColor& color : {red, blue}) {
+        QImage image(16, 16, QImage::Format_RGB32);
+        image.fill(color);
+        alone.SetPicture(image);
+        EXPECT_EQ(alone.grab().toImage().pixelColor(side / 2, side / 2), color);
+    }
+}
+
 TEST_F(MoonPictures, StandTheRightWayRoundAndFillTheFieldWhateverTheirSize) {
     for (const int size : {64, 280, 560}) {
         store(quarters(size));

@@ -68,6 +68,12 @@ TEST(MoonShadow, CasesAndTheirBounds) {
         {-0.1F, Case::New},
         {100.0F, Case::New},
         {std::nanf(""), Case::New},
+        // On a bound, where single precision has it.
+        {quarter - 0.5F, Case::WaxingCrescent},
+        {quarter + 0.5F, Case::FirstQuarter},
+        {2 * quarter - 0.5F, Case::WaxingGibbous},
+        {2 * quarter + 0.5F, Case::Full},
+        {4 * quarter - 0.5F, Case::WaningCrescent},
     };
     for (const auto& row : rows)
         EXPECT_EQ(caseOf(ShadowOf(row.age, side, side)), row.expected) << row.age;
