@@ -4,6 +4,9 @@
 #include "yearcals/year_test.h"
 
 #include <QAbstractItemModel>
+#include <QCursor>
+#include <QGuiApplication>
+#include <utility>
 
 namespace {
 
@@ -93,24 +96,52 @@ TEST_F(YearGridLook, OnlyTheMarkedDayAndTheTitlesAreBold) {
     }
 }
 
+/// The pointers that a grid was seen to change under.
+class PointerWatch {
+public:
+    explicit PointerWatch(MSFlexGrid& grid) {
+        QObject::connect(grid.model(), &QAbstractItemModel::dataChanged, &m_context, [this] {
+            const QCursor* pointer = QGuiApplication::overrideCursor();
+            m_seen.append(pointer != nullptr ? pointer->shape() : Qt::ArrowCursor);
+        });
+    }
+
+    /// Whether the grid changed since the last call, and only under this one.
+    bool SawOnly(Qt::CursorShape pointer) {
+        const QList<Qt::CursorShape> seen = std::exchange(m_seen, {});
+        return !seen.isEmpty() && seen.count(pointer) == seen.size();
+    }
+
+private:
+    QObject m_context;
+    QList<Qt::CursorShape> m_seen;
+};
+
 TEST_F(YearGridLook, ThePointerIsAnHourglassWhileAYearIsFilledInAndOnlyThen) {
     for (const int c : {Julian, Gregorian, Jewish, Moslem}) {
         open(c);
-        QList<Qt::CursorShape> pointers;
-        QObject context;
-        QObject::connect(grid(c).model(), &QAbstractItemModel::dataChanged, &context, [&] {
-            const QCursor* pointer = QGuiApplication::overrideCursor();
-            pointers.append(pointer != nullptr ? pointer->shape() : Qt::ArrowCursor);
-        });
+        PointerWatch pointers(grid(c));
         goTo(2461365 + 400);
-        ASSERT_FALSE(pointers.isEmpty());
-        EXPECT_EQ(pointers.count(Qt::WaitCursor), pointers.size());
+        EXPECT_TRUE(pointers.SawOnly(Qt::WaitCursor)) << c;
         EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
-        pointers.clear();
         goTo(2461365 + 401);
-        ASSERT_FALSE(pointers.isEmpty());
-        EXPECT_EQ(pointers.count(Qt::ArrowCursor), pointers.size());
+        EXPECT_TRUE(pointers.SawOnly(Qt::ArrowCursor)) << c;
         goTo(2461365);
+    }
+}
+
+TEST_F(YearGridLook, TheEndsOfAYearBelongToIt) {
+    open(Gregorian);
+    PointerWatch pointers(grid(Gregorian));
+    for (const int day : {2461406, 2461042}) { // 31 December and 1 January
+        goTo(day);
+        EXPECT_TRUE(pointers.SawOnly(Qt::ArrowCursor)) << day;
+    }
+    for (const int day : {2461041, 2461407}) {
+        goTo(day);
+        EXPECT_TRUE(pointers.SawOnly(Qt::WaitCursor)) << day;
+        goTo(2461365);
+        pointers.SawOnly(Qt::WaitCursor);
     }
 }
 

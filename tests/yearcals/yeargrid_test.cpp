@@ -45,6 +45,17 @@ TEST_F(YearGrids, EveryCellIsRightWhateverOpensTheWeek) {
     }
 }
 
+TEST_F(YearGrids, AYearThatWasForgottenIsFilledAnew) {
+    for (const int c : {Julian, Gregorian, Jewish, Moslem}) {
+        open(c);
+        EXPECT_EQ(grid(c).TextMatrix(1, 0), QStringLiteral("Su"));
+        FirstWeekDay(c) = Wednesday;
+        year(c).ForgetYear();
+        year(c).ShowYear();
+        EXPECT_EQ(grid(c).TextMatrix(1, 0), QStringLiteral("We"));
+    }
+}
+
 TEST_F(YearGrids, PlacesOfTheMark) {
     const struct {
         int calendar, day, month, year, row, column;
