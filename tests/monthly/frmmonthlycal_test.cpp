@@ -174,24 +174,6 @@ TEST_F(MonthlyWindowTest, TabGoesThroughTheWindowInReadingOrder) {
     EXPECT_EQ(passed, expected);
 }
 
-TEST_F(MonthlyWindowTest, ControlsNeitherOverlapNorStickOut) {
-    QList<QWidget*> controls =
-        window().findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
-    for (QWidget* a : controls) {
-        if (a->isHidden())
-            continue;
-        EXPECT_TRUE(window().rect().contains(a->geometry())) << a->objectName().toStdString();
-        for (QWidget* b : controls) {
-            const bool stacked = a->objectName().startsWith(QLatin1String("Command2")) &&
-                                 b->objectName().startsWith(QLatin1String("Command2"));
-            if (a != b && !b->isHidden() && !stacked) {
-                EXPECT_FALSE(a->geometry().intersects(b->geometry()))
-                    << a->objectName().toStdString() << " " << b->objectName().toStdString();
-            }
-        }
-    }
-}
-
 TEST_F(MonthlyWindowTest, EmblemsStandAboveTheirCalendarsPanes) {
     const int lefts[] = {20, 176, 332, 488};
     CalendarOrder = {Moslem, Jewish, Gregorian, Julian};

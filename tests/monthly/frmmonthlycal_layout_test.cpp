@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: MIT
+// Where the controls of the monthly window stand, in small letters and in large.
+#include "monthly/monthly_test.h"
+#include "shared/texts.h"
+
+#include <QApplication>
+#include <QFont>
+
+namespace {
+
+constexpr int lefts[] = {20, 176, 332, 488}; // of the panes
+constexpr int right = 488 + 148;
+constexpr int gap = 6;
+
+class MonthlyLayout : public MonthlyTest {
+protected:
+    MonthlyLayout() : m_formerFont(QApplication::font()) {}
+    ~MonthlyLayout() override { QApplication::setFont(m_formerFont); }
+
+    void enlargeLetters() const {
+        QFont large = m_formerFont;
+        large.setPixelSize(40);
+        QApplication::setFont(large);
+        processEvents();
+    }
+
+    static QRect line() { return child<QWidget>(window(), "Line1")->geometry(); }
+
+    static int rightOf(const QWidget& control) { return control.x() + control.width(); }
+
+    static void expectNothingOverlapsOrSticksOut() {
+        const auto controls = window().findChildren<QWidget*>(Qt::FindDirectChildrenOnly);
+        for (const QWidget* a : controls) {
+            EXPECT_TRUE(a->isHidden() || window().rect().contains(a->geometry()))
+                << a->objectName().toStdString();
+            for (const QWidget* b : controls)
+                EXPECT_FALSE(overlap(*a, *b))
+                    << a->objectName().toStdString() << " " << b->objectName().toStdString();
+        }
+    }
+
+private:
+    // The moon buttons stand one upon the other.
+    static bool overlap(const QWidget& a, const QWidget& b) {
+        const QString moon = QStringLiteral("Command2");
+        const bool stacked = a.objectName().startsWith(moon) && b.objectName().startsWith(moon);
+        return &a != &b && !a.isHidden() && !b.isHidden() && !stacked &&
+               a.geometry().intersects(b.geometry());
+    }
+
+    QFont m_formerFont;
+};
+
+TEST_F(MonthlyLayout, ControlsNeitherOverlapNorStickOut) {
+    expectNothingOverlapsOrSticksOut();
+    const int height = window().height();
+    enlargeLetters();
+    expectNothingOverlapsOrSticksOut();
+    EXPECT_GT(window().height(), height + 5 * 20) << "five lists above each other have grown";
+}
+
+TEST_F(MonthlyLayout, PanesStandBelowTheirEmblems) {
+    for (int pane = 1; pane <= 4; ++pane) {
+        const int left = lefts[pane - 1];
+        EXPECT_EQ(
+            child<QWidget>(window(), qPrintable(QStringLiteral("Image1_%1").arg(pane)))->geometry(),
+            QRect(left, 10, 32, 32));
+        EXPECT_EQ(combo(1, pane).pos(), QPoint(left, 10 + 32 + gap));
+        EXPECT_EQ(combo(1, pane).width(), 148);
+    }
+}
+
+TEST_F(MonthlyLayout, ALineDividesThePanesFromWhatTheyHaveInCommon) {
+    const int panesEnd = combo(5, 1).y() + combo(5, 1).height();
+    EXPECT_EQ(line(), QRect(20, panesEnd + gap, right - 20, 2 * gap));
+}
+
+TEST_F(MonthlyLayout, TheCommandsStandAtTheRight) {
+    EXPECT_EQ(rightOf(command(5)), right);
+    EXPECT_EQ(window().width(), right + 20);
+    for (int index = 2; index <= 5; ++index) {
+        EXPECT_EQ(command(index).x(), rightOf(command(index - 1)) + gap);
+        EXPECT_EQ(command(index).y(), command(1).y());
+    }
+}
+
+TEST_F(MonthlyLayout, LargeListsKeepTheirDistanceFromTheLine) {
+    enlargeLetters();
+    EXPECT_GE(combo(6).y() - (line().y() + line().height()), 2 * gap);
+    EXPECT_NEAR(command(1).y() - (combo(6).y() + combo(6).height()), 2 * gap, 1)
+        << "an odd height is not halved evenly";
+}
+
+TEST_F(MonthlyLayout, TheListOfWeekdaysTakesTheRoomThatItsNamesNeedOrElseWhatIsLeft) {
+    EXPECT_EQ(combo(6).width(), combo(6).WidthFor(QStringLiteral("Wednesday")));
+    WeekDayNames(3) = std::string(100, 'W');
+    window().SetTexts();
+    EXPECT_EQ(rightOf(combo(8)), right);
+    expectNothingOverlapsOrSticksOut();
+}
+
+} // namespace
