@@ -51,6 +51,7 @@ ComboBox::ComboBox(const QString& name, QWidget* parent)
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     setMinimumContentsLength(1);
     connect(this, &QComboBox::activated, this, &ComboBox::Click);
+    connect(this, &QComboBox::currentTextChanged, this, [this] { m_ownFitted.reset(); });
 }
 
 void ComboBox::Clear() {
@@ -165,6 +166,12 @@ void ComboBox::paintEvent(QPaintEvent* event) {
                           option.palette, isEnabled(), option.currentText);
 }
 
+// The toolkit calls it for another font or style as well.
+void ComboBox::resizeEvent(QResizeEvent* event) {
+    m_ownFitted.reset();
+    QComboBox::resizeEvent(event);
+}
+
 void ComboBox::fill() {
     if (!m_filler || ListCount() > 1)
         return;
@@ -181,11 +188,15 @@ int ComboBox::chromeWidth() const {
     return option.rect.width() - textField(*this, option).width();
 }
 
-QFont ComboBox::ownFittedFont() const {
-    QStyleOptionComboBox option;
-    initStyleOption(&option);
-    return FittedFont(font(), option.currentText,
-                      textField(*this, option).width() - 2 * textMargin);
+// Kept, since all lists of one letter size ask for it whenever one is painted.
+const QFont& ComboBox::ownFittedFont() const {
+    if (!m_ownFitted) {
+        QStyleOptionComboBox option;
+        initStyleOption(&option);
+        m_ownFitted = FittedFont(font(), option.currentText,
+                                 textField(*this, option).width() - 2 * textMargin);
+    }
+    return *m_ownFitted;
 }
 
 QFont ComboBox::fittedFont() const {

@@ -3,6 +3,7 @@
 
 #include <QComboBox>
 #include <functional>
+#include <optional>
 #include <vector>
 
 class ListTyping;
@@ -78,16 +79,18 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void fill();
 
     int chromeWidth() const;
-    QFont ownFittedFont() const;
+    const QFont& ownFittedFont() const;
     QFont fittedFont() const;
 
     QStringListModel* m_items; ///< takes thousands of entries at once
     ListTyping* m_typing;
     Filler m_filler;
-    std::vector<ComboBox*> m_sharing; ///< of one letter size
+    std::vector<ComboBox*> m_sharing;         ///< of one letter size
+    mutable std::optional<QFont> m_ownFitted; ///< of the text, font and width as they are
 };

@@ -94,6 +94,18 @@ TEST_F(Combo, ARowIsShownInTheLetterSizeThatItsLongestTextNeeds) {
     EXPECT_EQ(inkHeight(*neighbour), whole);
 }
 
+TEST_F(Combo, ItsLettersFollowTheFont) {
+    list->SetOnlyItem(QStringLiteral("HHH"));
+    list->resize(80, 60);
+    QFont font = list->font();
+    font.setPixelSize(40);
+    list->setFont(font);
+    const int narrowed = inkHeight(*list);
+    font.setPixelSize(8);
+    list->setFont(font);
+    EXPECT_LT(inkHeight(*list), narrowed - 2);
+}
+
 TEST_F(Combo, ItsWidthIsTakenFromTheFont) {
     for (const int points : {9, 14, 22}) {
         QFont font = list->font();
