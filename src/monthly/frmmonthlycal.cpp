@@ -133,7 +133,6 @@ void frmMonthlyCal::place() {
     int bottom = 0;
     for (int pane = 1; pane <= paneCount; ++pane)
         bottom = m_panes(pane)->Place(emblemTop + emblemSide + gap);
-    placeEmblems();
     const int right = ToPixels(PaneLeft(paneCount)) + Pane::width;
     m_line1->setGeometry(margin, bottom + gap, right - margin, 2 * gap);
     bottom = placeCommon(bottom + 3 * gap, right - margin);
