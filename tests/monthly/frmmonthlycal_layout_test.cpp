@@ -5,12 +5,15 @@
 
 #include <QApplication>
 #include <QFont>
+#include <QImage>
+#include <string>
 
 namespace {
 
 constexpr int lefts[] = {20, 176, 332, 488}; // of the panes
 constexpr int right = 488 + 148;
 constexpr int gap = 6;
+constexpr int paneGap = 4;
 
 class MonthlyLayout : public MonthlyTest {
 protected:
@@ -68,6 +71,25 @@ TEST_F(MonthlyLayout, PanesStandBelowTheirEmblems) {
         EXPECT_EQ(combo(1, pane).pos(), QPoint(left, 10 + 32 + gap));
         EXPECT_EQ(combo(1, pane).width(), 148);
     }
+}
+
+TEST_F(MonthlyLayout, APaneIsAsHighAsItsControls) {
+    for (int pane = 1; pane <= 4; ++pane) {
+        const int height = combo(1, pane).height();
+        EXPECT_EQ(combo(2, pane).y(), combo(1, pane).y() + height + paneGap);
+        EXPECT_EQ(combo(3, pane).y(), combo(2, pane).y() + height + paneGap);
+        EXPECT_EQ(grid(pane).y(), combo(3, pane).y() + height + 2 * paneGap);
+        EXPECT_EQ(combo(4, pane).y(), grid(pane).y() + grid(pane).height() + 2 * paneGap);
+        EXPECT_EQ(combo(5, pane).y(), combo(4, pane).y() + height + paneGap);
+    }
+}
+
+TEST_F(MonthlyLayout, OneLongNameMakesTheLettersOfItsRowSmaller) {
+    const QImage before = combo(3, 2).grab().toImage();
+    MonthNames(Moslem, CurDate(Moslem, Month)) = std::string(30, 'W');
+    ChangeCals::UpdateWindows();
+    EXPECT_NE(combo(3, 2).grab().toImage(), before);
+    EXPECT_EQ(combo(3, 2).Text(), QStringLiteral("11/12  November"));
 }
 
 TEST_F(MonthlyLayout, ALineDividesThePanesFromWhatTheyHaveInCommon) {

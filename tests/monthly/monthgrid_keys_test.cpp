@@ -89,7 +89,15 @@ TEST_F(MonthKeys, PageKeysKeepToTheRange) {
         press(c, Qt::Key_PageUp);
         press(c, Qt::Key_PageUp, Qt::ShiftModifier);
         EXPECT_EQ(dateIn(c), row.first);
+        press(c, Qt::Key_PageDown, Qt::ShiftModifier);
+        EXPECT_EQ(dateIn(c), (Date{3, 1, row.first.year + 1}));
+        press(c, Qt::Key_PageUp, Qt::ShiftModifier);
+        EXPECT_EQ(dateIn(c), row.first);
         enter(c, row.last.day, row.last.month, row.last.year);
+        press(c, Qt::Key_PageDown, Qt::ShiftModifier);
+        EXPECT_EQ(dateIn(c), row.last);
+        press(c, Qt::Key_PageUp, Qt::ShiftModifier);
+        EXPECT_EQ(dateIn(c).year, row.last.year - 1);
         press(c, Qt::Key_PageDown, Qt::ShiftModifier);
         EXPECT_EQ(dateIn(c), row.last);
         if (c != Jewish) { // whose last year has a thirteenth month or not

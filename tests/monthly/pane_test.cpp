@@ -35,6 +35,18 @@ TEST_F(Selectors, HoldOnlyTheChosenDayUntilTheyAreUsed) {
     }
 }
 
+TEST_F(Selectors, CalendarsAreOfferedOnceHoweverOftenTheWindowIsReset) {
+    window().ReSetForm();
+    window().ReSetForm();
+    for (int pane = 1; pane <= paneCount; ++pane)
+        EXPECT_EQ(combo(1, pane).ListCount(), 4);
+}
+
+TEST_F(Selectors, AnEntryAloneInItsListIsTheChosenOne) {
+    Q_EMIT combo(3, 2).activated(0);
+    EXPECT_EQ(CurJD, 2461365) << "it stands first, but is no January";
+}
+
 TEST_F(Selectors, AreFullWithTheChosenEntrySelectedOnceTheyHaveTheFocus) {
     for (int pane = 1; pane <= paneCount; ++pane) {
         const int c = CalendarOrder(pane);
