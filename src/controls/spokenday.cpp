@@ -2,7 +2,6 @@
 #include "controls/spokenday.h"
 
 #include "calc/state.h"
-#include "platform/numbers.h"
 #include "platform/text.h"
 #include "shared/texts.h"
 
