@@ -8,27 +8,16 @@
 #include "changecals/windows.h"
 #include "monthly/frmmonthlycal.h"
 #include "moon/frmmoon.h"
-#include "platform/clock.h"
 #include "settings/storedsettings.h"
 #include "shared/flags.h"
-#include "shared/look.h"
 #include "shared/settings.h"
 #include "start/frmabout.h"
 #include "start/frmoptions.h"
 #include "start/language.h"
+#include "start/splash.h"
 #include "yearcals/frmyearcal.h"
 
-#include <QCoreApplication>
-#include <QThread>
-#include <QWindow>
-
 namespace {
-
-using Clock = std::chrono::steady_clock;
-
-constexpr double splashDays = 0.000012;
-constexpr int standardSplashColor = 2;
-constexpr auto exposeLimit = std::chrono::milliseconds(500);
 
 void beginRun() {
     ChangeCals::BeginRun({
@@ -40,39 +29,11 @@ void beginRun() {
     });
 }
 
-int splashColor() {
-    const bool known = StartupWindow >= 1 && StartupWindow <= ChosenDayBackground;
-    return CalendarColors(known ? StartupWindow : standardSplashColor);
-}
-
-void letWindowsPaint() {
-    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-}
-
-// A window is painted only when the desktop has put it up, which takes a few
-// events; a desktop that never does must not hold up the start.
-void showSplash(frmAbout& splash) {
-    splash.BecomeSplash(splashColor());
-    splash.Show();
-    const auto limit = Clock::now() + exposeLimit;
-    while (!splash.windowHandle()->isExposed() && Clock::now() < limit)
-        letWindowsPaint();
-    splash.repaint();
-    letWindowsPaint();
-}
-
 void loadWindows() {
     ChangeCals::LoadMonthly();
     for (int c = 1; c <= calendarCount; ++c)
         ChangeCals::LoadYear(c);
     ChangeCals::LoadMoon();
-}
-
-void waitUntil(Clock::time_point release) {
-    while (Clock::now() < release) {
-        letWindowsPaint();
-        QThread::msleep(1);
-    }
 }
 
 void showStartupWindow() {
@@ -92,17 +53,14 @@ bool Start::Main() {
     beginRun();
     if (!ReadSettings())
         return false;
-    frmAbout splash;
-    showSplash(splash);
-    const auto release =
-        Clock::now() + std::chrono::duration_cast<Clock::duration>(Days(splashDays));
+    Splash splash;
     Calc::FillConstantRows();
     LoadLanguage(LanguageName);
     Calc::SetMoslemType();
     ChangeCals::GoToToday(0);
     loadWindows();
     ChangeCals::SetAllTexts();
-    waitUntil(release);
+    splash.WaitItsTime();
     showStartupWindow();
     splash.Hide();
     ChangeCals::RefreshCloseTips();

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The splash of the start: its colour, its time, and that it is deaf.
+#include "start/splash.h"
+
 #include "start/splashwatch.h"
 #include "start/start.h"
 #include "support/platform_input.h"
