@@ -134,7 +134,8 @@ void YearGrid::setTitle(int month) {
 
 // Only the Jewish grid has the columns.
 void YearGrid::blankAdarTwo() {
-    for (int row = bandRows; row < 2 * bandRows; ++row) {
+    const int top = YearLayout::adarTwoBand * bandRows;
+    for (int row = top; row < top + bandRows; ++row) {
         for (int column = YearLayout::adarTwoColumn; column < Cols(); ++column)
             SetTextMatrix(row, column, QString());
     }

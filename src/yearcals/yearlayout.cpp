@@ -25,5 +25,5 @@ GridPlace YearLayout::BlockOf(int c, int month) {
 int YearLayout::MonthOf(int c, GridPlace cell) {
     const int band = cell.row / bandRows;
     const int month = (cell.column - 1) / DayGrid::monthColumns + band * monthsInBand + 1;
-    return hasAdarTwo(c) && band >= 2 ? month + 1 : month;
+    return hasAdarTwo(c) && band > adarTwoBand ? month + 1 : month;
 }

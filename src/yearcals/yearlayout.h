@@ -15,6 +15,9 @@ inline constexpr int titleRows = 1;
 inline constexpr int bandRows = titleRows + daysInWeek;
 inline constexpr int monthsInBand = 3;
 
+/// The band, counted from 0, that Adar II is added to.
+inline constexpr int adarTwoBand = 1;
+
 /// Week columns without and with the fourth month of a band, which begins at
 /// adarTwoColumn. Column 0 holds the weekdays' names.
 inline constexpr int commonColumns = monthsInBand * DayGrid::monthColumns;
