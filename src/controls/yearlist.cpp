@@ -5,15 +5,19 @@
 #include "changecals/changecals.h"
 #include "shared/flags.h"
 
+QString Controls::YearEntry(int year) {
+    return QString::number(year);
+}
+
 ListEntries Controls::YearEntries(int c) {
-    return NumberedEntries(MinYear(c), MaxYear(c), CurDate(c, Year));
+    return NumberedEntries(MinYear(c), MaxYear(c), CurDate(c, Year), YearEntry);
 }
 
 void Controls::ShowYearInList(ComboBox& list, int c) {
     const int year = CurDate(c, Year);
     const bool isInList = year >= MinYear(c) && year <= MaxYear(c);
     if (list.ListCount() <= 1 || !isInList)
-        list.SetOnlyItem(QString::number(year));
+        list.SetOnlyItem(YearEntry(year));
     else if (list.ListIndex() != year - MinYear(c))
         list.SetListIndex(year - MinYear(c));
 }

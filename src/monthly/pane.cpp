@@ -160,7 +160,7 @@ void Pane::selectCalendar() {
 
 void Pane::showOnlyChosenDay() {
     const int c = calendar();
-    m_combo2->SetOnlyItem(QString::number(CurDate(c, Year)));
+    m_combo2->SetOnlyItem(Controls::YearEntry(CurDate(c, Year)));
     m_combo3->SetOnlyItem(MonthEntry(c, CurDate(c, Month)));
     m_combo4->SetOnlyItem(DayEntry(c, CurDate(c, DayNumber)));
     m_combo5->SetOnlyItem(WeekEntry(c, CurDate(c, WeekNumber)));
