@@ -118,6 +118,11 @@ TEST_F(MonthKeys, HomeAndEndGoToTheFirstAndLastDay) {
     calls.clear();
     press(Gregorian, Qt::Key_Home);
     EXPECT_TRUE(takeCalls().empty());
+    press(Gregorian, Qt::Key_Right);
+    EXPECT_EQ(current(Gregorian), QStringLiteral("8"));
+    press(Gregorian, Qt::Key_Home);
+    EXPECT_EQ(current(Gregorian), QStringLiteral("1")) << "it is the day that is chosen";
+    EXPECT_TRUE(takeCalls().empty());
 }
 
 // November 2026 begins on a Sunday, the first weekday, and ends on a Monday.

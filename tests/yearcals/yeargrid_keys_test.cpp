@@ -37,6 +37,12 @@ TEST_F(YearKeys, HomeAndEndGoToTheFirstAndLastDay) {
     EXPECT_EQ(dateIn(Jewish), (Date{29, 13, 5784}));
     press(Jewish, Qt::Key_Home);
     EXPECT_EQ(dateIn(Jewish), (Date{1, 1, 5784}));
+    const QPoint first(grid(Jewish).Col(), grid(Jewish).Row());
+    press(Jewish, Qt::Key_Right);
+    EXPECT_EQ(grid(Jewish).Col(), first.x() + 1);
+    press(Jewish, Qt::Key_Home);
+    EXPECT_EQ(QPoint(grid(Jewish).Col(), grid(Jewish).Row()), first);
+    EXPECT_EQ(dateIn(Jewish), (Date{1, 1, 5784})) << "it is the day that is chosen";
 }
 
 // 2026 begins on a Thursday; the weeks begin on Sundays.
