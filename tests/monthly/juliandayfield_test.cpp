@@ -3,6 +3,7 @@
 
 #include <QClipboard>
 #include <QLineEdit>
+#include <QMessageBox>
 
 namespace {
 
@@ -129,10 +130,27 @@ TEST_F(JulianDayEntry, ARefusedNumberKeepsTheFocusAndThePressThatLeftItDoesNothi
     EXPECT_EQ(CurJD, 2451554) << "presses do what they do again";
 }
 
-TEST_F(JulianDayEntry, TabFromARefusedNumberGivesOneMessage) {
+/// Keeps which control of its window has the focus when a message comes up.
+class MessageSeen : public QObject {
+public:
+    MessageSeen() { qApp->installEventFilter(this); }
+
+    bool eventFilter(QObject* object, QEvent* event) override {
+        const auto* box = qobject_cast<QMessageBox*>(object);
+        if (box != nullptr && event->type() == QEvent::Show)
+            focus = box->parentWidget()->focusWidget();
+        return false;
+    }
+
+    const QWidget* focus = nullptr;
+};
+
+TEST_F(JulianDayEntry, TabFromARefusedNumberGivesOneMessageOverTheFieldThatHasTheFocusBack) {
+    const MessageSeen message;
     type(QStringLiteral("5"));
     QTest::keyClick(&combo(8), Qt::Key_Tab);
     expectOneRangeMessage();
+    EXPECT_EQ(message.focus, &combo(8));
     goTo(2461365);
 }
 
