@@ -5,6 +5,7 @@
 #include "endurance/expected.h"
 #include "shared/settings.h"
 
+#include <cstddef>
 #include <vector>
 
 void Walker::Play() {
@@ -38,7 +39,9 @@ void Walker::choosePlace() {
         if (isUsable(place))
             usable.push_back(place);
     }
-    m_place = usable.empty() ? int{Nowhere} : usable[m_hand.Below(static_cast<int>(usable.size()))];
+    m_place = usable.empty()
+                  ? int{Nowhere}
+                  : usable[static_cast<std::size_t>(m_hand.Below(static_cast<int>(usable.size())))];
 }
 
 Form& Walker::form(int place) {

@@ -151,6 +151,8 @@ TEST_F(YearWindows, BeforeTheRangeTheGridDisappearsAfterItIsDisabled) {
                 const bool enabled = shown && !isAfterRange(c);
                 EXPECT_EQ(grid(c).isVisible(), shown) << julianDay << " " << c;
                 EXPECT_EQ(selector(c).isEnabled(), enabled);
+                EXPECT_EQ(selector(c).Text(),
+                          shown ? QString::number(CurDate(c, Year)) : QString());
                 EXPECT_EQ(command(c, NextYear).isEnabled(),
                           enabled && CurDate(c, Year) != lastYear(c));
                 EXPECT_EQ(command(c, PreviousYear).isEnabled(),
