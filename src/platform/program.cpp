@@ -8,6 +8,7 @@ namespace {
 
 QString replacedFolder;
 std::function<void(int)> replacedEnd;
+std::function<bool()> replacedPositions;
 
 } // namespace
 
@@ -39,5 +40,11 @@ void SetEndProgram(std::function<void(int)> end) {
 }
 
 bool HasWindowPositions() {
+    if (replacedPositions)
+        return replacedPositions();
     return !QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
+}
+
+void SetHasWindowPositions(std::function<bool()> has) {
+    replacedPositions = std::move(has);
 }

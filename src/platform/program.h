@@ -28,3 +28,6 @@ void SetEndProgram(std::function<void(int status)> end);
 /// Whether windows can be placed and know where they stand. On Wayland they
 /// do not.
 bool HasWindowPositions();
+
+/// Replaces what HasWindowPositions asks; an empty function puts it back.
+void SetHasWindowPositions(std::function<bool()> has);

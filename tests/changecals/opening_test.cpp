@@ -51,8 +51,9 @@ TEST_F(Opening, PanesWithoutCalendarsOpenNothing) {
 
 TEST_F(Opening, TheMoonWindowIsRedrawnOnOpeningOnlyWhenItWasNotVisible) {
     ChangeCals::ShowMoonWindow();
-    ChangeCals::ShowMoonWindow();
     EXPECT_EQ(takeCalls(), Calls{"moon.ReSetForm, CurrentWindow 0"});
+    ChangeCals::ShowMoonWindow();
+    EXPECT_EQ(takeCalls(), Calls{});
 }
 
 TEST_F(Opening, TheMonthlyWindowIsRebuiltAndTheDayCarriedOnceWhenItWasNotVisible) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "changecals/positions.h"
 
+#include "platform/program.h"
 #include "platform/twips.h"
 #include "support/recording_windows.h"
 #include "support/widget_test.h"
@@ -48,6 +49,14 @@ TEST_F(PositionsOfWindows, ADialogIsInTheMiddleAndAThirdDown) {
     ChangeCals::PlaceDialog(dialog);
     EXPECT_EQ(dialog.pos(), QPoint(249, 200));
     EXPECT_EQ(dialog.Top(), 3000);
+}
+
+TEST_F(PositionsOfWindows, AreLeftAsTheyWereStoredWhereTheDesktopDoesNotTellThem) {
+    SetHasWindowPositions([] { return false; });
+    ChangeCals::LoadYear(Moslem).move(2185, 10);
+    ChangeCals::LoadMoon().move(33, -20);
+    EXPECT_EQ(ChangeCals::ReadPositions(), nullptr);
+    EXPECT_EQ(FormLeft(MoonWindowNumber), 32737);
 }
 
 TEST_F(PositionsOfWindows, TellTheWindowThatStandsTooFarOut) {

@@ -75,6 +75,7 @@ Desk::~Desk() {
     SetBeep({});
     SetClock({});
     SetEndProgram({});
+    SetHasWindowPositions({});
     SetProgramFolder({});
 }
 
