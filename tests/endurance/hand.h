@@ -9,6 +9,7 @@
 #include <random>
 #include <sstream>
 #include <string>
+#include <vector>
 
 class ComboBox;
 class Controls;
@@ -46,6 +47,11 @@ public:
     template <typename T, std::size_t size>
     T AnyOf(const T (&all)[size]) {
         return all[Below(static_cast<int>(size))];
+    }
+
+    template <typename T>
+    T AnyOf(const std::vector<T>& all) {
+        return all[static_cast<std::size_t>(Below(static_cast<int>(all.size())))];
     }
 
     /// Remembers what is being done, for the message of a failure.

@@ -5,7 +5,6 @@
 #include "endurance/expected.h"
 #include "shared/settings.h"
 
-#include <cstddef>
 #include <vector>
 
 void Walker::Play() {
@@ -39,9 +38,7 @@ void Walker::choosePlace() {
         if (isUsable(place))
             usable.push_back(place);
     }
-    m_place = usable.empty()
-                  ? int{Nowhere}
-                  : usable[static_cast<std::size_t>(m_hand.Below(static_cast<int>(usable.size())))];
+    m_place = usable.empty() ? int{Nowhere} : m_hand.AnyOf(usable);
 }
 
 Form& Walker::form(int place) {

@@ -113,7 +113,7 @@ int WindowActions::anyWindow(const Table<bool, mainWindowCount>& among) {
         if (among(number))
             found.push_back(number);
     }
-    return found.empty() ? 0 : found[m_hand.Below(static_cast<int>(found.size()))];
+    return found.empty() ? 0 : m_hand.AnyOf(found);
 }
 
 // A minimised window has nothing to press; its frame can be closed all the same.

@@ -22,7 +22,7 @@ protected:
         QTest::keyClick(&combo(8), Qt::Key_Return);
     }
 
-    void expectOneRangeMessage() {
+    void waitForMessages() {
         ASSERT_TRUE(waitUntil([] { return QApplication::activeModalWidget() == nullptr; }));
         processEvents();
         ASSERT_TRUE(waitUntil([this] {
@@ -31,6 +31,10 @@ protected:
         }));
         processEvents();
         m_seen += m_messages.take();
+    }
+
+    void expectOneRangeMessage() {
+        waitForMessages();
         EXPECT_EQ(m_seen, QStringList{QStringLiteral(
                               "Julian Days admissible range:\r\n1721319 \u2014 2817404")});
         m_seen.clear();

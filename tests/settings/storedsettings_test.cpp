@@ -7,6 +7,7 @@
 #include "support/tables.h"
 
 #include <QDir>
+#include <iterator>
 #include <optional>
 #include <utility>
 
@@ -205,7 +206,7 @@ TEST_F(StoredSettings, EveryNumberWithstandsHostileTexts) {
         }
     }
     recordWithstood("hostile texts in place of a stored number",
-                    static_cast<long long>(NumberSettings().size() * std::size(texts)));
+                    std::ssize(NumberSettings()) * std::ssize(texts));
 }
 
 TEST_F(StoredSettings, AFileCutAnywhereIsReadOrToldAndCanBeSaved) {
