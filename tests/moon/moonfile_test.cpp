@@ -116,7 +116,8 @@ TEST_F(MoonFile, MayHaveAQuarterOfAGigabyteAndNoMore) {
 }
 
 TEST_F(MoonFile, ASizeFieldHidesNoDamage) {
-    const Bitmap whole{.width = 64, .height = 64, .data = QByteArray(64 * 64 * 3, '\xFF')};
+    const Bitmap whole{
+        .width = 64, .height = 64, .data = QByteArray(qsizetype{64} * 64 * 3, '\xFF')};
     EXPECT_FALSE(load(whole).isNull());
     const QByteArray file = whole.file();
     EXPECT_TRUE(load(file.left(file.size() / 2)).isNull());
