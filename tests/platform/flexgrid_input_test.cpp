@@ -117,9 +117,9 @@ protected:
     }
 
     std::vector<int> spans() const {
-        std::vector<int> found;
-        for (int column = 0; column < columns; ++column)
-            found.push_back(grid->columnSpan(0, column));
+        std::vector<int> found(columns);
+        for (int column = 0; int& span : found)
+            span = grid->columnSpan(0, column++);
         return found;
     }
 };

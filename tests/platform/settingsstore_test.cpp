@@ -273,7 +273,7 @@ TEST_F(SettingsStore, AFullDiskLeavesTheFileWholeAndIsTold) {
     const QByteArray lines("[Startup]\nWindow=1\nLanguage=German\n");
     load(lines);
     save("Window", "2");
-    for (const rlim_t bytes : {0, 1, 20, 34}) {
+    for (const rlim_t bytes : {0UL, 1UL, 20UL, 34UL}) {
         const FullDisk disk(bytes);
         EXPECT_FALSE(FlushSettings()) << bytes;
         EXPECT_EQ(readFile(settingsPath()), lines) << bytes;
