@@ -65,18 +65,21 @@ void expectYearGridFits(const std::string& language) {
         expectFits(grid->font(), Text(WeekDayAbbrs(weekday)), 17, language);
 }
 
+void expectLabelsFit(const Form& options, const std::string& language) {
+    for (const QLabel* label : options.findChildren<QLabel*>()) {
+        if (!label->isVisible())
+            continue;
+        EXPECT_GE(label->width(), label->minimumSizeHint().width()) << language;
+        EXPECT_GE(label->height(), label->heightForWidth(label->width())) << language;
+    }
+}
+
 // A layout gives every control of the options at least the size of its text.
 void expectOptionsFit(const std::string& language) {
     Form& options = ChangeCals::LoadOptions();
     EXPECT_LE(options.width(), 700) << language;
     EXPECT_LE(options.height(), 560) << language;
-    const auto controls = options.findChildren<QWidget*>();
-    for (QWidget* control : controls) {
-        if (qobject_cast<QLabel*>(control) == nullptr || !control->isVisible())
-            continue;
-        EXPECT_GE(control->width(), control->minimumSizeHint().width()) << language;
-        EXPECT_GE(control->height(), control->heightForWidth(control->width())) << language;
-    }
+    expectLabelsFit(options, language);
     for (const char* name : {"Option1_1", "Option1_2", "Check1"}) {
         auto* control = child<QWidget>(options, name);
         EXPECT_GE(control->width(), control->sizeHint().width()) << language << " " << name;
