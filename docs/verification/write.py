@@ -111,7 +111,7 @@ def mutations():
     return f"""## Changes that tests must notice
 
 Of all changes of one operator, constant, pair of arguments or statement a sample was drawn with the seed
-{run["run"]["seed"]}. The tests of the changed room and of the rooms above noticed {number(total["noticed"])} of
+{run["run"]["seed"]}. The tests of the changed room, of the rooms above and on several monitors noticed {number(total["noticed"])} of
 {number(judged)} changes, {percent(total["noticed"], judged)}. {total["equivalent"]} more change nothing that
 anybody could see; each has its reason in `tests/mutations/equivalents.json`.
 
