@@ -44,8 +44,10 @@ bool isAcceptable(int pane) {
 
 // The first pane's number is only compared, never checked by itself.
 void checkCalendarOrder() {
-    if (!isAcceptable(2) || !isAcceptable(3) || !isAcceptable(4))
-        CalendarOrder = {Julian, Gregorian, Jewish, Moslem};
+    for (int pane = 2; pane <= paneCount; ++pane) {
+        if (!isAcceptable(pane))
+            CalendarOrder = {Julian, Gregorian, Jewish, Moslem};
+    }
 }
 
 void saveNumber(const NumberSetting& row, int value) {
