@@ -24,7 +24,6 @@ void preferX11() {
 int main(int argc, char* argv[]) {
     preferX11();
     QApplication app(argc, argv);
-    QApplication::setQuitOnLastWindowClosed(false); // closing decides by itself
     QApplication::setApplicationName(ProgramTitle());
     InstallAssistiveInterfaces();
     InstallOutlines();

@@ -17,9 +17,12 @@
 #include "start/splash.h"
 #include "yearcals/frmyearcal.h"
 
+#include <QApplication>
+
 namespace {
 
 void beginRun() {
+    QApplication::setQuitOnLastWindowClosed(false); // closing decides by itself
     ChangeCals::BeginRun({
         [] { return new frmMonthlyCal; },
         [](int c) { return new frmYearCal(c); },

@@ -85,6 +85,13 @@ INSTANTIATE_TEST_SUITE_P(Stored, StartupWindows, testing::Values(0, 1, 2, 3, 4, 
                                                      : "Number" + std::to_string(number.param);
                          });
 
+TEST_F(Starting, LeavesItToTheClosingWhenTheProgramEnds) {
+    QApplication::setQuitOnLastWindowClosed(true);
+    ASSERT_TRUE(Start::Main());
+    EXPECT_FALSE(QApplication::quitOnLastWindowClosed());
+    QApplication::setQuitOnLastWindowClosed(false);
+}
+
 TEST_F(Starting, ChoosesTodayInAllCalendars) {
     ASSERT_TRUE(Start::Main());
     EXPECT_EQ(dateIn(Gregorian), (Date{20, 11, 2026}));
