@@ -14,8 +14,6 @@
 
 namespace {
 
-constexpr float quarter = 29.530588F / 4;
-
 class MoonWindowTest : public WidgetTest {
 protected:
     MoonWindowTest() {
