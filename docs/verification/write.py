@@ -134,7 +134,7 @@ def long_tests():
             for row in run["results"]]
     return f"""## The long tests
 
-`./test --long`, everything once:
+`./test --long`, everything once, with a million random actions on all windows among the tests of endurance:
 
 {table(("what", "passed", "failed", "took"), rows)}
 """
