@@ -12,6 +12,8 @@ import sys
 import tempfile
 import time
 
+from checks import compile_database
+
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 ASAN = ROOT / "build" / "asan"
 BENCH = ROOT / "build" / "bench"
@@ -84,9 +86,9 @@ def formatting():
     return check("clang-format", ["clang-format", "--dry-run", "-Werror", *files])
 
 
-def linting(folder, tree=ASAN):
+def linting(folder, database):
     # The optimised build has options of the compiler that the linter does not know.
-    command = ["run-clang-tidy", "-quiet", "-j1", "-p", tree,
+    command = ["run-clang-tidy", "-quiet", "-j1", "-p", database,
                "-extra-arg=-Wno-ignored-optimization-argument", rf"/{folder}/[^/]*\.cpp$"]
     return check(f"clang-tidy of {folder}", command)
 
@@ -120,7 +122,7 @@ def reproducible():
 
 def includes(part):
     return check(f"includes of {part}", [sys.executable, "tests/checks/includes.py",
-                                         ASAN / "compile_commands.json", part])
+                                         ASAN, part])
 
 
 def licences():
@@ -164,8 +166,9 @@ def main():
     jobs = [end_to_end]
     jobs += [lambda room=room: room_tests(room, options) for room in TESTED]
     folders = [*LINTED, *(LINTED_AT_LENGTH if long else [])]
-    jobs += [lambda folder=folder: linting(folder) for folder in folders]
-    jobs += [lambda folder=folder: linting(folder, BENCH) for folder in LINTED_OF_BENCH]
+    database, bench_database = compile_database.write(ASAN), compile_database.write(BENCH)
+    jobs += [lambda folder=folder: linting(folder, database) for folder in folders]
+    jobs += [lambda folder=folder: linting(folder, bench_database) for folder in LINTED_OF_BENCH]
     jobs += [formatting, floors, licences, papers, desktop_entry, moon_picture,
              keys, pictures, installing, cross_building]
     if long:

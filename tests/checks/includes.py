@@ -11,6 +11,8 @@ import subprocess
 import sys
 import tempfile
 
+import compile_database
+
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 OURS = re.compile(r"/(src|tests|bench|docs|assets)/(?!.*_autogen/).*\.cpp$")
 
@@ -56,8 +58,8 @@ def idle(entry, mappings):
                 yield f"{pathlib.Path(path).relative_to(ROOT)}: {line[2:]}"
 
 
-def main(database, part):
-    entries = [entry for entry in json.loads(pathlib.Path(database).read_text())
+def main(tree, part):
+    entries = [entry for entry in compile_database.commands(tree)
                if OURS.search(entry["file"]) and f"/{part}/" in entry["file"]]
     with tempfile.NamedTemporaryFile("w", suffix=".imp") as mappings:
         mappings.write(mapping([entry["command"] for entry in entries]))
