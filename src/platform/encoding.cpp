@@ -43,7 +43,8 @@ private:
     iconv_t m_handle;
 };
 
-bool isCentralEuropean(QLocale::Language language) {
+// The languages in Latin letters that have a code page of their own.
+int latinCodePage(QLocale::Language language) {
     switch (language) {
     case QLocale::Polish:
     case QLocale::Czech:
@@ -51,11 +52,16 @@ bool isCentralEuropean(QLocale::Language language) {
     case QLocale::Hungarian:
     case QLocale::Slovenian:
     case QLocale::Croatian:
+    case QLocale::Bosnian:
+    case QLocale::Serbian:
     case QLocale::Romanian:
     case QLocale::Albanian:
-        return true;
+        return 1250;
+    case QLocale::Turkish:
+    case QLocale::Azerbaijani:
+        return 1254;
     default:
-        return false;
+        return 1252;
     }
 }
 
@@ -75,10 +81,6 @@ bool IsUtf8(const QByteArray& bytes) {
 }
 
 int CodePageOf(const QLocale& locale) {
-    if (isCentralEuropean(locale.language()))
-        return 1250;
-    if (locale.language() == QLocale::Turkish || locale.language() == QLocale::Azerbaijani)
-        return 1254;
     switch (locale.script()) {
     case QLocale::CyrillicScript:
         return 1251;
@@ -89,7 +91,7 @@ int CodePageOf(const QLocale& locale) {
     case QLocale::GreekScript:
         return 1253;
     default:
-        return 1252;
+        return latinCodePage(locale.language());
     }
 }
 

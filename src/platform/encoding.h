@@ -12,8 +12,8 @@ QByteArray WithoutMark(const QByteArray& bytes);
 bool IsUtf8(const QByteArray& bytes);
 
 /// The 8-bit Windows code page of a language by its script, as a number: 1251
-/// Cyrillic, 1255 Hebrew, 1256 Arabic and Persian, 1254 Turkish, 1250 Central
-/// European, 1253 Greek, 1252 otherwise.
+/// Cyrillic, 1253 Greek, 1255 Hebrew, 1256 Arabic and Persian; in Latin letters 1250
+/// Central European, 1254 Turkish and Azerbaijani, 1252 otherwise.
 int CodePageOf(const QLocale& locale);
 int UserCodePage();
 
