@@ -9,6 +9,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QRegularExpression>
 #include <map>
 #include <set>
 #include <tuple>
@@ -139,17 +140,20 @@ protected:
         return m_deliberate[section].toObject()[QString::number(key)].toString();
     }
 
-    /// Whether the language writes a section's names as in a heading, where CLDR
-    /// has them as inside a sentence.
-    bool isHeading(const QString& section) const {
-        return m_deliberate[QStringLiteral("with a large first letter")].toArray().contains(
-            section);
+    /// Whether the language writes a section's names with another first letter
+    /// than CLDR.
+    bool hasFirstLetters(const char* size, const QString& section) const {
+        return m_deliberate[QLatin1String(size)].toArray().contains(section);
     }
 
     /// A name as the file should have it, by CLDR.
     QString expectedName(const QString& section, int key) const {
         const QString name = cldr(section)[key - 1].toString();
-        return isHeading(section) ? name.left(1).toUpper() + name.mid(1) : name;
+        if (hasFirstLetters("with a large first letter", section))
+            return name.left(1).toUpper() + name.mid(1);
+        if (hasFirstLetters("with a small first letter", section))
+            return name.left(1).toLower() + name.mid(1);
+        return name;
     }
 
 private:
@@ -204,6 +208,13 @@ TEST_P(LanguageFiles, LeaveNothingInEnglish) {
         const bool mayBeTheSame = !cldr(section).isEmpty() || beginsItsName;
         EXPECT_TRUE(mayBeTheSame || text != english || text == deliberate(section, key)) << entry;
     }
+}
+
+// A line may end behind a common hyphen, and a number would lose its word.
+TEST_P(LanguageFiles, JoinNumbersToWordsByAHyphenThatDoesNotBreak) {
+    const QRegularExpression breaking(QStringLiteral("[0-9][-\u2010][^0-9]"));
+    for (const auto& [entry, text] : texts())
+        EXPECT_FALSE(text.contains(breaking)) << entry;
 }
 
 TEST_P(LanguageFiles, WeekdaysAreShortenedToTwoCharacters) {
