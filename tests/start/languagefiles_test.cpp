@@ -148,7 +148,7 @@ protected:
 
     /// A name as the file should have it, by CLDR.
     QString expectedName(const QString& section, int key) const {
-        const QString name = cldr(section)[key - 1].toString();
+        QString name = cldr(section)[key - 1].toString();
         if (hasFirstLetters("with a large first letter", section))
             return name.left(1).toUpper() + name.mid(1);
         if (hasFirstLetters("with a small first letter", section))
