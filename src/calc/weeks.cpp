@@ -4,54 +4,31 @@
 #include "calc/state.h"
 #include "shared/settings.h"
 
-#include <cstdint>
-
 namespace {
 
-// The circle of all 32-bit numbers stands for a week and a seventh of it, rounded
-// up, for a day. So days add up round the circle with no remainder to take, and
-// where they end tells the weekday: over some hundred millions of days, what the
-// rounding adds stays within the day that is meant. The compiler would take many
-// of these remainders by dividing, which took a fifth of the time of a new day.
-// After D. Lemire, O. Kaser, N. Kurz, "Faster remainder by direct computation",
-// Software: Practice and Experience 49 (2019).
-constexpr std::uint32_t seventhOfCircle = 613566757;
-
-std::uint32_t onCircle(int days) {
-    return static_cast<std::uint32_t>(days) * seventhOfCircle;
-}
-
-// Days gone since the beginning of the week, 0..6.
-int daysOfWeekAt(std::uint32_t place) {
-    return static_cast<int>(std::uint64_t{place} * daysInWeek >> 32);
-}
-
-// Days beyond whole weeks, 0..6. Stored weekdays have 16 bits and may be negative;
-// the weeks that are added are more than they can take away.
+// Days beyond whole weeks, 0..6. Stored weekdays are 16-bit numbers and may be
+// negative: the weeks that are added are more than they can take away.
 int daysBeyondWeeks(int days) {
     constexpr int manyWeeks = 10000 * daysInWeek;
-    return daysOfWeekAt(onCircle(days + manyWeeks));
-}
-
-int wholeWeeks(int days) {
-    return static_cast<int>(static_cast<std::uint64_t>(days) * seventhOfCircle >> 32);
+    return (days + manyWeeks) % daysInWeek;
 }
 
 int weeksTouchedBy(int days) {
-    return wholeWeeks(days + daysInWeek - 1);
+    return (days + daysInWeek - 1) / daysInWeek;
 }
 
 } // namespace
 
+// No Julian Day is negative, and the remainder of a plain number takes less time.
 int Calc::WeekdayOf(int julianDay) {
-    return daysOfWeekAt(onCircle(julianDay)) + 1;
+    return static_cast<int>(static_cast<unsigned>(julianDay) % daysInWeek) + Monday;
 }
 
 void Calc::SetMonthStarts(int c) {
-    std::uint32_t place = onCircle(YearJD(c, FirstDay));
+    int firstDay = YearJD(c, FirstDay);
     for (int month = 1; month <= monthLimit; ++month) {
-        MonthDays(c, weekdayRow + month) = daysOfWeekAt(place) + 1;
-        place += onCircle(MonthDays(c, month));
+        MonthDays(c, weekdayRow + month) = WeekdayOf(firstDay);
+        firstDay += MonthDays(c, month);
     }
     SetWeeks(c);
 }

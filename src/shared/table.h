@@ -29,14 +29,14 @@ public:
     }
 
     constexpr T& operator()(int row, int column = 1) {
-        if (isInside(row, column)) [[likely]]
+        if (isInside(row, column))
             return m_cells[offset(row, column)];
         reportOutside(row, column);
         return m_outside = T{};
     }
 
     constexpr const T& operator()(int row, int column = 1) const {
-        if (isInside(row, column)) [[likely]]
+        if (isInside(row, column))
             return m_cells[offset(row, column)];
         reportOutside(row, column);
         return nothing;
@@ -51,7 +51,8 @@ private:
                static_cast<unsigned>(column) - 1U < static_cast<unsigned>(Columns);
     }
 
-    static void reportOutside(int row, int column) {
+    // Cold, so that what follows an access is always taken for the usual way.
+    [[gnu::cold]] static void reportOutside(int row, int column) {
         if (onOutOfBounds == nullptr)
             return;
         if (row < 1 || row > Rows)
