@@ -134,11 +134,11 @@ void frmYearCal::Form_Resize() {
         m_grid->FitYear();
 }
 
-// At the first and at the last year nothing happens.
+// Each way has its own end, so that a year beyond the last one has a way back.
 void frmYearCal::StepYear(int by) {
     const UpdatingGuard updating;
     const int year = CurDate(m_calendar, Year) + by;
-    if (year < MinYear(m_calendar) || year > MaxYear(m_calendar))
+    if (by < 0 ? year < MinYear(m_calendar) : year > MaxYear(m_calendar))
         return;
     CurDate(m_calendar, Year) = year;
     CurrentWindow = m_calendar;

@@ -115,6 +115,6 @@ void YearActions::openOtherYear(int c) {
 void YearActions::step(int c, int by) {
     const Reckoning::Date date = m_expected.In(c).date;
     const int year = date.year + by;
-    if (year >= Reckoning::FirstYear(c) && year <= Reckoning::LastYear(c))
+    if (by < 0 ? year >= Reckoning::FirstYear(c) : year <= Reckoning::LastYear(c))
         m_expected.Choose(c, {date.day, date.month, year});
 }

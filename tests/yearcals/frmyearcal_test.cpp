@@ -169,6 +169,17 @@ TEST_F(YearWindows, BeforeTheRangeTheGridDisappearsAfterItIsDisabled) {
 
 // Buttons
 
+TEST_F(YearWindows, FromYearsBeyondTheLastTheYearBeforeLeadsBack) {
+    setDate(Gregorian, 20, 11, 3003);
+    ChangeCals::ChangeCal(Gregorian);
+    for (const int year : {3002, 3001, 3000, 2999}) {
+        open(Gregorian);
+        clickCommand(Gregorian, PreviousYear);
+        EXPECT_EQ(dateIn(Gregorian), (Date{20, 11, year}));
+        EXPECT_EQ(selector(Gregorian).Text(), QString::number(year));
+    }
+}
+
 TEST_F(YearWindows, YearsStepWithinTheRangeOnly) {
     for (const int c : {Julian, Gregorian, Jewish, Moslem}) {
         open(c);
