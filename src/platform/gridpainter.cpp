@@ -46,7 +46,9 @@ void GridPainter::paint(QPainter* painter, const QStyleOptionViewItem& option,
     painter->fillRect(option.rect, ToColor(cell.back));
     if (!cell.text.isEmpty()) {
         painter->setOpacity(option.state.testFlag(QStyle::State_Enabled) ? 1 : fadedOpacity);
+        painter->setClipRect(option.rect); // marks can be piled on a letter
         paintText(painter, cell, option.rect);
+        painter->setClipping(false);
         painter->setOpacity(1);
     }
     if (option.state.testFlag(QStyle::State_HasFocus))
@@ -65,7 +67,11 @@ const GridPainter::LaidOutText& GridPainter::laidOut(const QString& text, bool b
         return known->second;
     if (m_texts.size() >= mostTexts)
         m_texts.clear();
-    LaidOutText entry{QStaticText(text), FittedFont(m_fonts[bold ? 1 : 0], text, width)};
+    LaidOutText entry{QStaticText(text), FittedFont(m_fonts[bold ? 1 : 0], text, width), 0};
+    const QFontMetrics metrics(entry.font);
+    if (metrics.horizontalAdvance(text) > width)
+        entry.text.setText(metrics.elidedText(text, Qt::ElideRight, width));
+    entry.advance = QFontMetricsF(entry.font).horizontalAdvance(entry.text.text());
     entry.text.setTextFormat(Qt::PlainText);
     entry.text.setPerformanceHint(QStaticText::AggressiveCaching);
     entry.text.prepare({}, entry.font);
@@ -74,12 +80,11 @@ const GridPainter::LaidOutText& GridPainter::laidOut(const QString& text, bool b
 
 void GridPainter::paintText(QPainter* painter, const GridCell& cell, const QRect& rect) const {
     const LaidOutText& entry = laidOut(cell.text, cell.bold, rect.width());
-    const QSizeF size = entry.text.size();
     // A single digit stands below the second digit of larger numbers.
-    const double digitShift = isSingleDigit(cell.text) ? size.width() / 2 : 0;
-    const double indent = (rect.width() - size.width()) / 2 + digitShift;
+    const double digitShift = isSingleDigit(cell.text) ? entry.advance / 2 : 0;
+    const double indent = (rect.width() - entry.advance) / 2 + digitShift;
     const QPointF at(rect.x() + std::floor(indent),
-                     rect.y() + std::round((rect.height() - size.height()) / 2));
+                     rect.y() + std::round((rect.height() - entry.text.size().height()) / 2));
     painter->setPen(ToColor(cell.fore));
     painter->setFont(entry.font);
     painter->drawStaticText(at, entry.text);

@@ -10,9 +10,10 @@ class GridModel;
 struct GridCell;
 
 /// Paints a grid cell: its ground, its text, and nothing of the desktop's theme.
-/// A text too wide for its cell is shown in a smaller font. The current cell of
-/// the grid that has the focus is outlined in the colour of its text; the texts of
-/// a disabled grid are faded to half.
+/// A text too wide for its cell is shown in a smaller font, and shortened where
+/// the smallest is too wide. The current cell of the grid that has the focus is
+/// outlined in the colour of its text; the texts of a disabled grid are faded to
+/// half.
 class GridPainter : public QAbstractItemDelegate {
     Q_OBJECT
 
@@ -31,6 +32,7 @@ private:
     struct LaidOutText {
         QStaticText text;
         QFont font;
+        double advance; ///< the text's own size would count what juts out of its last letter
     };
 
     const LaidOutText& laidOut(const QString& text, bool bold, int width) const;

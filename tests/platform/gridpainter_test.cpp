@@ -136,8 +136,9 @@ QColor darkest(const QImage& image, int row, int column) {
 }
 
 TEST_F(GridLook, TextsOfADisabledGridFadeToHalfAndTheGroundStays) {
-    grid->SetFontPixelSize(15);
-    grid->SetTextMatrix(0, 0, QStringLiteral("\u2588")); // a full block
+    grid->SetFontPixelSize(18);
+    grid->SetTextMatrix(0, 0, QStringLiteral("l")); // some pixels wide
+    grid->SetCellFontBold(true);
     EXPECT_EQ(darkest(picture(), 0, 0), ToColor(navy));
     grid->setEnabled(false);
     const QImage faded = picture();

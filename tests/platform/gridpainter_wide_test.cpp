@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
-// Texts that are too wide for their cell: they are narrowed, not cut, and stay
-// inside.
+// Texts that are too wide for their cell: they are narrowed, shortened only where
+// that is not enough, and stay inside.
 #include "platform/color.h"
 #include "platform/flexgrid.h"
 #include "platform/twips.h"
 #include "support/platform_test.h"
+
+#include <QAccessible>
 
 namespace {
 
@@ -63,6 +65,25 @@ TEST_F(WideTexts, NumbersThatFitKeepTheirSize) {
     const int height = inkOf(QStringLiteral("1")).height();
     EXPECT_EQ(inkOf(QStringLiteral("11")).height(), height);
     EXPECT_LT(inkOf(QStringLiteral("11111111")).height(), height);
+}
+
+TEST_F(WideTexts, OfAnyLengthStayInTheirCellWithAllOfTheirLettersToAssistiveTools) {
+    QAccessibleInterface* table = QAccessible::queryAccessibleInterface(&grid);
+    const QString latin = QStringLiteral("(12)  ") + QString(60, u'W');
+    const QString hebrew = QStringLiteral("(12)  \u2068") + QString(60, u'\u05DE') + u'\u2069';
+    const QString stacked = u'W' + QString(30, u'\u0301');
+    for (const QString& text : {latin, hebrew, stacked}) {
+        const QRect drawn = inkOf(text, true);
+        EXPECT_TRUE(middle.contains(drawn)) << text.toStdString();
+        EXPECT_FALSE(drawn.isEmpty());
+        EXPECT_EQ(table->tableInterface()->cellAt(1, 1)->text(QAccessible::Name), text);
+    }
+}
+
+TEST_F(WideTexts, HaveTheRoomOfAllCellsThatAreMerged) {
+    grid.SetMergeRow(1);
+    grid.SetTextMatrix(1, 2, QString(60, u'W'));
+    EXPECT_GT(inkOf(QString(60, u'W')).width(), cellWidth);
 }
 
 } // namespace
