@@ -49,10 +49,9 @@ void JDToJewish();
 /// YearDays(Jewish, DaysInYear) days.
 void SetJewishMonths();
 
-/// Tells the Jewish tables that the names are back in the layout of a common
-/// year, as after loading a language: lengths and JewishLeap follow and month 13
-/// loses its name. SetJewishMonths then restores the layout of the year.
-void ResetJewishLayout();
+/// Brings new Jewish month names, which come in the layout of a common year, into
+/// the layout of the current year. AdarName is to be set before.
+void ArrangeJewishNames();
 
 /// Applies MoslemType to the cycle and to the Moslem range. JDToMoslem brings
 /// the date up to date afterwards.

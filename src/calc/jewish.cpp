@@ -158,9 +158,10 @@ void Calc::SetJewishMonths() {
     setVaryingLengths(yearDays);
 }
 
-void Calc::ResetJewishLayout() {
+void Calc::ArrangeJewishNames() {
     if (JewishLeap)
         moveLengthsToCommonLayout();
     JewishLeap = false;
     MonthNames(Jewish, lastMonth).clear();
+    SetJewishMonths();
 }

@@ -34,7 +34,7 @@ inline Table<int, calendarCount, 2> YearJD;
 inline Table<int, 30> MoslemCycle;
 
 /// The Jewish row of MonthDays and MonthNames is in the layout of 13 months.
-/// Written only by Calc::SetJewishMonths and Calc::ResetJewishLayout.
+/// Written only by Calc::SetJewishMonths and Calc::ArrangeJewishNames.
 inline bool JewishLeap = false;
 
 /// What each calendar can show. The windows keep what the user enters inside;

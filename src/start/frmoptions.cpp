@@ -259,8 +259,6 @@ void frmOptions::save() const {
 // all the same.
 void frmOptions::applyNewLanguage() {
     LoadLanguage(m_language);
-    Calc::ResetJewishLayout();
-    Calc::SetJewishMonths();
     applyMoslemType();
     applyFirstWeekDays();
     LanguageName = m_language;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "start/language.h"
 
+#include "calc/calc.h"
 #include "platform/message.h"
 #include "platform/numbers.h"
 #include "platform/profile.h"
@@ -80,12 +81,8 @@ void tellAndFallBack(const QString& path, const QString& what, std::string& name
     name = englishLanguage;
 }
 
-} // namespace
-
-void LoadLanguage(std::string& name) {
-    SetEnglishTexts();
-    if (name == englishLanguage)
-        return;
+// Replaces the English texts by those of a language's file.
+void readLanguage(std::string& name) {
     const QString asked = ProgramFile(Text(name) + suffix());
     const QString found = languageFile(Text(name));
     if (found.isEmpty()) {
@@ -104,6 +101,15 @@ void LoadLanguage(std::string& name) {
         tellAndFallBack(asked, QStringLiteral("The file is too large for a language file."), name);
         break;
     }
+}
+
+} // namespace
+
+void LoadLanguage(std::string& name) {
+    SetEnglishTexts();
+    if (name != englishLanguage)
+        readLanguage(name);
+    Calc::ArrangeJewishNames();
 }
 
 std::string ReadLngString(const ProfileFile& file, const char* section, int key,

@@ -7,9 +7,9 @@
 class ProfileFile;
 
 /// Fills the text tables: with the English texts, and then with the entries of
-/// the language's file, where it has them. When there is no such file, or it
-/// cannot be read, the user is told and `name` becomes englishLanguage. Month 13
-/// of the Jewish names is left as it is.
+/// the language's file, where it has them; the Jewish months are those of the
+/// current year. When there is no such file, or it cannot be read, the user is told
+/// and `name` becomes englishLanguage.
 void LoadLanguage(std::string& name);
 
 /// The entry of a language file, or `standard` where the file has none.

@@ -10,8 +10,7 @@ void applyNames(const Table<std::string, 12>& names) {
     for (int month = 1; month <= 12; ++month)
         MonthNames(Jewish, month) = names(month);
     AdarName = MonthNames(Jewish, 6);
-    Calc::ResetJewishLayout();
-    Calc::SetJewishMonths();
+    Calc::ArrangeJewishNames();
 }
 
 // The same days under whatever names: two leap years, common years before,
@@ -125,16 +124,15 @@ TEST_F(JewishCalendar, AYearOfNoLegalLengthLeavesTheLengths) {
     }
 }
 
-TEST_F(JewishCalendar, ResettingTheLayoutForNewNamesKeepsEveryNumber) {
+TEST_F(JewishCalendar, ArrangingNewNamesKeepsEveryNumber) {
     for (const int year : {5763, 5784, 5762}) {
         enter(Jewish, {14, 7, year});
         const StateSnapshot before;
         for (int round = 0; round < 3; ++round) {
             const std::string last = MonthNames(Jewish, 13);
             setJewishNames();
-            MonthNames(Jewish, 13) = last; // loading a language leaves month 13 alone
-            Calc::ResetJewishLayout();
-            Calc::SetJewishMonths();
+            MonthNames(Jewish, 13) = last; // the texts of a language have none
+            Calc::ArrangeJewishNames();
             EXPECT_EQ(StateSnapshot{}, before) << year;
         }
         EXPECT_EQ(MonthNames(Jewish, 6), year == 5762 ? "Adar" : "Adar I");

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The texts of every shipped language in year grids and the options, at the sizes
 // that desktops use.
+#include "calc/calc.h"
 #include "changecals/opening.h"
 #include "monthly/frmmonthlycal.h"
 #include "moon/frmmoon.h"
@@ -58,7 +59,7 @@ void expectYearGridFits(const std::string& language) {
     QFont bold = grid->font();
     bold.setBold(true);
     for (int c = 1; c <= calendarCount; ++c) {
-        for (int month = 1; month <= 12; ++month)
+        for (int month = 1; month <= Calc::MonthsInYear(c); ++month)
             expectFits(bold, QStringLiteral("(12)  ") + Text(MonthNames(c, month)), 120, language);
     }
     for (int weekday = 1; weekday <= 7; ++weekday)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The texts of every shipped language in the lists of every window, judged on
 // pixels: what a list draws is what one twice as wide draws in some letter size.
+#include "calc/calc.h"
 #include "changecals/opening.h"
 #include "monthly/frmmonthlycal.h"
 #include "moon/frmmoon.h"
@@ -129,7 +130,7 @@ TEST_P(InkOfNames, IsWholeInEveryLanguage) {
         ChangeCals::SetAllTexts();
         for (int c = 1; c <= calendarCount; ++c) {
             expectWholeInRow("Combo1", Text(CalendarNames(c)), language);
-            for (int month = 1; month <= 12 && c != Gregorian; ++month)
+            for (int month = 1; month <= Calc::MonthsInYear(c) && c != Gregorian; ++month)
                 expectWholeInRow("Combo3",
                                  QStringLiteral("12/12  ") + Isolated(Text(MonthNames(c, month))),
                                  language);
