@@ -5,7 +5,7 @@
 add_library(project_options INTERFACE)
 target_compile_features(project_options INTERFACE cxx_std_20)
 target_compile_options(project_options INTERFACE
-    -Wall -Wextra -Wpedantic -Wconversion -Werror
+    -Wall -Wextra -Wpedantic -Wconversion
     # Dates rest on exact floating-point steps: no fused multiply-add.
     -ffp-contract=off)
 target_include_directories(project_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
@@ -16,11 +16,7 @@ if(ORVALEN_SANITIZE)
     target_link_options(project_options INTERFACE -fsanitize=address,undefined)
 endif()
 
-# What is given to others is hardened as Debian's packages are, and does not tell
-# where it was built.
-target_compile_options(project_options INTERFACE "$<$<CONFIG:Release>:SHELL:\
--fstack-protector-strong -D_FORTIFY_SOURCE=2 -ffile-prefix-map=${PROJECT_SOURCE_DIR}=.>")
-target_link_options(project_options INTERFACE "$<$<CONFIG:Release>:-Wl,-z,relro,-z,now>")
+include(cmake/Hardening.cmake)
 
 if(CMAKE_INTERPROCEDURAL_OPTIMIZATION)
     target_link_options(project_options INTERFACE -flto=auto) # on all processors

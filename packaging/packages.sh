@@ -2,12 +2,12 @@
 # What the project needs from Debian 12, and how it is installed. Sourced by the
 # commands at the top of the tree.
 
-build_packages=(cmake ninja-build g++ qt6-base-dev qt6-svg-dev librsvg2-bin dpkg-dev)
+build_packages=(cmake ninja-build g++ qt6-base-dev qt6-svg-dev librsvg2-bin)
 run_packages=(libqt6widgets6 libqt6svg6 fonts-dejavu-core)
 screen_packages=(xvfb openbox xdotool x11-utils xclip imagemagick libfaketime)
 test_packages=(adwaita-qt6 libgtest-dev libbenchmark-dev libicu-dev qt6-base-private-dev clang-format
     clang-tidy clang-tools iwyu python3 python3-gi git appstream desktop-file-utils man-db lintian fakeroot
-    at-spi2-core dbus-daemon gir1.2-atspi-2.0)
+    dpkg-dev debhelper file clang autopkgtest at-spi2-core dbus-daemon gir1.2-atspi-2.0)
 
 is_installed() {
     [ "$(dpkg-query -W -f='${db:Status-Status}' "$1" 2>/dev/null)" = installed ]
@@ -30,10 +30,10 @@ need_packages() {
         apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
 }
 
-# Configures a preset once and builds it.
+# Builds a preset, which is configured anew when the presets have changed.
 build_preset() {
     local preset=$1
     shift
-    [ -f "build/$preset/build.ninja" ] || cmake --preset "$preset" >/dev/null
+    [ "build/$preset/build.ninja" -nt CMakePresets.json ] || cmake --preset "$preset" >/dev/null
     cmake --build --preset "$preset" "$@"
 }

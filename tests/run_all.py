@@ -54,7 +54,7 @@ def room_tests(room, options):
         environment = {
             "QT_QPA_PLATFORM": "offscreen",
             "XDG_RUNTIME_DIR": folder,
-            "LSAN_OPTIONS": f"suppressions={ROOT}/tests/support/lsan.supp:print_suppressions=0",
+            "LSAN_OPTIONS": f"suppressions='{ROOT}/tests/support/lsan.supp':print_suppressions=0",
             "GTEST_OUTPUT": f"json:{report}",
         }
         status, output, seconds = run([ASAN / "bin" / f"{room}_tests", *options], environment)
@@ -120,6 +120,14 @@ def reproducible():
     return check("reproducible", [sys.executable, "tests/checks/reproducible.py"])
 
 
+def compilers():
+    return check("compilers", [sys.executable, "tests/checks/compilers.py"])
+
+
+def autopkgtest():
+    return check("autopkgtest", ["/usr/bin/python3", "tests/checks/autopkgtest.py", PROGRAM])
+
+
 def includes(part):
     return check(f"includes of {part}", [sys.executable, "tests/checks/includes.py",
                                          ASAN, part])
@@ -127,6 +135,10 @@ def includes(part):
 
 def licences():
     return check("licences", [sys.executable, "tests/checks/licences.py"])
+
+
+def release():
+    return check("release", [sys.executable, "tests/checks/release.py"])
 
 
 def papers():
@@ -169,10 +181,10 @@ def main():
     database, bench_database = compile_database.write(ASAN), compile_database.write(BENCH)
     jobs += [lambda folder=folder: linting(folder, database) for folder in folders]
     jobs += [lambda folder=folder: linting(folder, bench_database) for folder in LINTED_OF_BENCH]
-    jobs += [formatting, floors, licences, papers, desktop_entry, moon_picture,
+    jobs += [formatting, floors, licences, release, papers, desktop_entry, moon_picture,
              keys, pictures, installing, cross_building]
     if long:
-        jobs += [reproducible]
+        jobs += [reproducible, compilers, autopkgtest]
         jobs += [lambda part=part: includes(part) for part in ("src", "assets", "tests")]
     with concurrent.futures.ThreadPoolExecutor(max_workers=3) as pool:
         for result in pool.map(lambda job: job(), jobs):

@@ -1,43 +1,72 @@
 # SPDX-License-Identifier: MIT
-"""Fails when the link in the folder of programs does not lead to the installed
-program, whether the folder of libraries goes along with the prefix or not."""
+"""Fails unless sources in a folder whose name has a blank and a letter beyond ASCII
+build, and install for everybody what a user with a strict umask has built: with a
+link that leads to the program and a manual page that names its folder, wherever the
+libraries' programs go."""
 
+import os
 import pathlib
 import shutil
+import stat
 import subprocess
 import sys
 import tempfile
 
+import sources
+
 NAME = "orvalen-years-calendar"
+STRICT = 0o077
+TARGETS = ["shared", "moon_picture", "languages", "icons"]
 
 
 def cmake(*arguments):
-    subprocess.run(["cmake", *arguments], check=True, stdout=subprocess.DEVNULL)
+    subprocess.run(["cmake", *arguments], check=True)
 
 
-def installed(programs, folder, libraries):
-    """Installs the built program; returns its link and the program itself."""
-    build, prefix = folder / "build", folder / "prefix"
-    cmake("-G", "Ninja", "-S", ".", "-B", build, f"-DCMAKE_INSTALL_LIBDIR={libraries}",
-          f"-DCMAKE_INSTALL_PREFIX={prefix}", f"-DORVALEN_MAKE_MOON={programs}/make_moon")
-    cmake("--build", build, "--target", "moon_picture", "languages", "documents", "icons")
-    shutil.copy(pathlib.Path(programs) / NAME, build / "bin")
-    cmake("--install", build)
-    return prefix / "bin" / NAME, prefix / libraries / NAME / NAME
+class Installation:
+    """The built program, installed below a folder."""
+
+    def __init__(self, programs, folder, programs_folder):
+        build = folder / "build"
+        self.prefix = folder / "prefix"
+        self.folder = self.prefix / programs_folder / NAME
+        cmake("-G", "Ninja", "-S", sources.copy(folder / "sources"), "-B", build,
+              "-DCMAKE_BUILD_TYPE=Release", f"-DCMAKE_INSTALL_LIBEXECDIR={programs_folder}",
+              f"-DORVALEN_MAKE_MOON={programs}/make_moon")
+        cmake("--build", build, "--target", *TARGETS)
+        shutil.copy(pathlib.Path(programs) / NAME, build / "bin")
+        cmake("--install", build, "--prefix", self.prefix)
+
+    def faults(self):
+        link, program = self.prefix / "bin" / NAME, self.folder / NAME
+        if not (link.is_symlink() and program.is_file() and link.resolve() == program.resolve()):
+            yield "the link does not lead to the program"
+        page = (self.prefix / "share/man/man1" / f"{NAME}.1").read_text(encoding="utf-8")
+        if f"\n.I {self.folder}/\n" not in page.replace("\\-", "-"):
+            yield "the manual page names another folder"
+        for path in [self.prefix, *self.prefix.rglob("*")]:
+            if not path.is_symlink() and stat.S_IMODE(path.stat().st_mode) != usual_mode(path):
+                yield f"{path.relative_to(self.prefix)} has the mode {path.stat().st_mode:o}"
 
 
-def leads_to_program(programs, libraries):
+def usual_mode(path):
+    return 0o755 if path.is_dir() or path.name == NAME else 0o644
+
+
+def faults(programs, programs_folder):
     with tempfile.TemporaryDirectory(prefix="orvalen-install-") as name:
-        folder = pathlib.Path(name)
-        link, program = installed(programs, folder, str(libraries).format(folder=folder))
-        return link.is_symlink() and program.is_file() and link.resolve() == program.resolve()
+        folder = pathlib.Path(name) / sources.AWKWARD_NAME
+        folder.mkdir()
+        installation = Installation(programs, folder, programs_folder.format(folder=folder))
+        return [f"{programs_folder}: {fault}" for fault in installation.faults()]
 
 
 def main(programs):
-    faults = [libraries for libraries in ("lib", "lib/one/more", "{folder}/elsewhere/lib")
-              if not leads_to_program(programs, libraries)]
-    print("\n".join(faults) or "the links lead to the program")
-    sys.exit(1 if faults else 0)
+    os.umask(STRICT)
+    found = [fault for programs_folder in ("libexec", "lib/one/more", "{folder}/elsewhere")
+             for fault in faults(programs, programs_folder)]
+    print("\n".join(found) or "everybody can use what is installed")
+    sys.exit(1 if found else 0)
 
 
 if __name__ == "__main__":

@@ -7,7 +7,7 @@ import sys
 
 # Data, prose, and files whose form has no place for a comment.
 WITHOUT_COMMENTS = {".md", ".csv", ".json", ".png"}
-EXEMPT = {"LICENSE", ".gitignore", "packaging/debian/changelog"}
+EXEMPT = {"LICENSE", ".gitignore", "debian/changelog", "debian/source/format"}
 
 
 def main():

@@ -1,32 +1,36 @@
 # SPDX-License-Identifier: MIT
-"""Fails when the last commit, built and packed in two folders, gives two different
-packages."""
+"""Fails when the last commit, made into a package by different people in different
+folders, gives two different packages."""
 
+import os
 import pathlib
 import subprocess
 import sys
 import tempfile
 
+import sources
 
-def run(folder, *command):
-    subprocess.run(command, cwd=folder, check=True, stdout=subprocess.DEVNULL)
+MAKERS = {
+    "here": ({"TZ": "Pacific/Kiritimati", "LC_ALL": "C"}, 0o022),
+    f"another/deeper/{sources.AWKWARD_NAME}/place":
+        ({"TZ": "Etc/GMT+12", "LC_ALL": "C.UTF-8"}, 0o077),
+}
 
 
-def package(folder):
-    run(".", "git", "clone", "--quiet", ".", folder)
-    run(folder, "cmake", "--preset", "release")
-    run(folder, "cmake", "--build", "--preset", "release")
-    run(folder / "build/release", "cpack")
-    made, = folder.glob("build/release/*.deb")
+def package(folder, variables, umask):
+    subprocess.run(["git", "clone", "--quiet", sources.ROOT, folder], check=True)
+    subprocess.run(["dpkg-buildpackage", "--build=binary", "--no-sign"], cwd=folder, check=True,
+                   stdout=subprocess.DEVNULL, env={**os.environ, **variables}, umask=umask)
+    made, = folder.parent.glob("orvalen-years-calendar_*.deb")
     return made.read_bytes()
 
 
 def main():
     with tempfile.TemporaryDirectory(prefix="orvalen-reproducible-") as name:
-        folder = pathlib.Path(name)
-        same = package(folder / "here") == package(folder / "another/deeper/place")
-    print("both packages are the same" if same else "the packages differ")
-    sys.exit(0 if same else 1)
+        made = {package(pathlib.Path(name) / folder / "calendar", *maker)
+                for folder, maker in MAKERS.items()}
+    print("both packages are the same" if len(made) == 1 else "the packages differ")
+    sys.exit(0 if len(made) == 1 else 1)
 
 
 if __name__ == "__main__":

@@ -52,7 +52,7 @@ def load_tests():
     return unittest.defaultTestLoader.discover(folder, "test_*.py", folder)
 
 
-def run_tests():
+def run_tests(tests):
     # A shell has it ignored in what it runs in the background.
     signal.signal(signal.SIGINT, signal.default_int_handler)
     runner = unittest.TextTestRunner(stream=sys.stdout, verbosity=2, resultclass=Result)
@@ -60,7 +60,7 @@ def run_tests():
         testcase.EndToEndTest.desktop = desktop.Desktop(folder)
         try:
             testcase.EndToEndTest.desktop.start()
-            return runner.run(load_tests())
+            return runner.run(tests)
         finally:
             testcase.EndToEndTest.desktop.stop()
 
@@ -71,7 +71,7 @@ def main(arguments):
         print(__doc__, file=sys.stderr)
         return 2
     testcase.EndToEndTest.built = built.resolve()
-    result = run_tests()
+    result = run_tests(load_tests())
     failed = len(result.failed)
     print(f"{result.testsRun - failed} passed, {failed} failed", flush=True)
     return 1 if failed or result.testsRun == 0 else 0

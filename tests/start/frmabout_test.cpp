@@ -41,7 +41,7 @@ protected:
     void expectEnglish() const {
         EXPECT_EQ(box->windowTitle(), QStringLiteral("About Orvalen Years Calendar"));
         EXPECT_EQ(label(1), QStringLiteral("Orvalen Years Calendar"));
-        EXPECT_EQ(label(2), QStringLiteral("Version 1.0.0"));
+        EXPECT_EQ(label(2), QStringLiteral("Version 1.1.0"));
         EXPECT_EQ(label(3).split(QStringLiteral("\r\n")).value(2),
                   QString::fromUtf8("The Orvalen Years Calendar developers © 1998—2001"));
     }
@@ -68,7 +68,7 @@ TEST_F(About, IsInRussianInThatLanguage) {
     load();
     EXPECT_EQ(box->windowTitle(), QString::fromUtf8("О Календаре на Orvalen лет"));
     EXPECT_EQ(label(1), QString::fromUtf8("Календарь на Orvalen лет"));
-    EXPECT_EQ(label(2), QString::fromUtf8("Версия 1.0.0"));
+    EXPECT_EQ(label(2), QString::fromUtf8("Версия 1.1.0"));
     const QStringList lines = label(3).split(QStringLiteral("\r\n"));
     ASSERT_EQ(lines.size(), 6);
     EXPECT_EQ(lines[2], QString::fromUtf8("Разработчики Календаря на Orvalen лет © 1998—2001"));
