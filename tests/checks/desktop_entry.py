@@ -1,15 +1,19 @@
 # SPDX-License-Identifier: MIT
 """Fails unless the entry in the desktop's menu is valid, speaks every language of
-the program, and uses the program's own words."""
+the program, and uses the program's own words, and the entry for software catalogues
+says in each language what it says in English."""
 
 import json
 import pathlib
 import re
 import subprocess
 import sys
+import xml.etree.ElementTree as xml
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent.parent
 ENTRY = ROOT / "packaging" / "orvalen-years-calendar.desktop"
+CATALOGUE_ENTRY = ROOT / "packaging" / "org.example.orvalen_years_calendar.metainfo.xml"
+LANGUAGE = "{http://www.w3.org/XML/1998/namespace}lang"
 
 # What the program calls itself and its four calendars, by section and key.
 GENERIC_NAME = ("STRINGS", "1")
@@ -51,6 +55,22 @@ def wrong_words(entry, language, locale):
         yield f"{language}: there is no Comment[{locale}]"
 
 
+def wrong_in_catalogue(entry, locale):
+    """In the entry for software catalogues."""
+    root = xml.parse(CATALOGUE_ENTRY).getroot()
+
+    def texts(path, language):
+        return [one.text for one in root.findall(path) if one.get(LANGUAGE) == language]
+
+    for path in ("description/p", "description/ul/li", "screenshots/screenshot/caption"):
+        if len(texts(path, locale)) != len(texts(path, None)):
+            yield f"the catalogue's {path} is not said in {locale}"
+    for path, words in (("summary", entry.get(f"Comment[{locale}]")),
+                        ("keywords/keyword", entry.get(f"Keywords[{locale}]", "").rstrip(";"))):
+        if ";".join(texts(path, locale)) != words:
+            yield f"the catalogue's {path} differs from the menu's in {locale}"
+
+
 def unknown_locales(entry, locales):
     for key in entry:
         locale = re.search(r"\[(.*)\]$", key)
@@ -81,6 +101,7 @@ def main():
               *unknown_locales(entry, locales.values())]
     for language, locale in locales.items():
         faults += wrong_words(entry, language, locale)
+        faults += wrong_in_catalogue(entry, locale)
     print("\n".join(faults) or f"the entry speaks English and {len(locales)} languages more")
     sys.exit(1 if faults else 0)
 
