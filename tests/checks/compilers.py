@@ -12,27 +12,16 @@ import sources
 PROGRAM = "orvalen-years-calendar"
 
 
-def debian_flags():
-    said = subprocess.run(["dpkg-buildflags", "--export=cmdline"], text=True, check=True,
-                          stdout=subprocess.PIPE, env={**os.environ, "DEB_BUILD_OPTIONS": ""}).stdout
-    return subprocess.run(["sh", "-c", f'env -0 {said}'], text=True, check=True,
-                          stdout=subprocess.PIPE).stdout.split("\0")
+def debian(flags):
+    return subprocess.run(["dpkg-buildflags", "--get", flags], text=True, check=True,
+                          stdout=subprocess.PIPE).stdout.strip()
 
 
-# A level of its own, as some distributions have it, and in the words of others.
-FORTIFIED = {"CXXFLAGS": "-O2 -Wp,-U_FORTIFY_SOURCE,-D_FORTIFY_SOURCE=3"}
-
-
-def environments():
-    debian = dict(line.split("=", 1) for line in debian_flags() if "=" in line)
-    return {"clang": {"CXX": "clang++"}, "Debian's flags": debian, "another level": FORTIFIED}
-
-
-def builds(variables):
+def builds(target, variables):
     with tempfile.TemporaryDirectory(prefix="orvalen-compiler-") as folder:
         for command in (["-G", "Ninja", "-S", sources.ROOT, "-B", folder,
                          "-DCMAKE_COMPILE_WARNING_AS_ERROR=ON"],
-                        ["--build", folder, "--target", PROGRAM]):
+                        ["--build", folder, "--target", target]):
             if subprocess.run(["cmake", *command], env={**os.environ, **variables},
                               check=False).returncode:
                 return False
@@ -40,7 +29,11 @@ def builds(variables):
 
 
 def main():
-    faults = [name for name, variables in environments().items() if not builds(variables)]
+    debians = {"CXXFLAGS": f"{debian('CXXFLAGS')} {debian('CPPFLAGS')}", "LDFLAGS": debian("LDFLAGS")}
+    environments = {"clang": (PROGRAM, {"CXX": "clang++"}), "Debian's flags": (PROGRAM, debians),
+                    # The same hardening at another level and in other words.
+                    "another level": ("shared", {"CXXFLAGS": "-O2 -Wp,-D_FORTIFY_SOURCE=3"})}
+    faults = [name for name, environment in environments.items() if not builds(*environment)]
     print("\n".join(f"{name}: the build is not clean" for name in faults) or "all builds are clean")
     sys.exit(1 if faults else 0)
 

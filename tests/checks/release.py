@@ -12,6 +12,7 @@ VERSION = r"(\d+\.\d+\.\d+)"
 VERSIONS = {
     "CMakeLists.txt": rf"^project\(\S+ VERSION {VERSION} ",
     "CHANGELOG.md": rf"^## {VERSION}$",
+    "CONTRIBUTING.md": rf"_{VERSION}\.orig\.tar",
     "debian/changelog": rf"^\S+ \({VERSION}-\d+\) ",
     "packaging/org.example.orvalen_years_calendar.metainfo.xml": rf'<release version="{VERSION}" ',
     "tests/start/frmabout_test.cpp": rf'"Version {VERSION}"',
