@@ -86,6 +86,13 @@ void ChangeCals::ChangeJD() {
     UpdateWindows();
 }
 
+void ChangeCals::MeasureFrom(int day) {
+    if (day == CurJD)
+        return;
+    CurJD = day;
+    deriveAll(0);
+}
+
 void ChangeCals::UpdateWindows() {
     const int asking = CurrentWindow;
     if (IsCalendar(asking))

@@ -12,6 +12,10 @@ void ChangeCal(int c);
 /// The same after CurJD was written.
 void ChangeJD();
 
+/// A choice that replaces an earlier one is measured from the day before that: makes
+/// `day` the chosen day in the tables only. The new choice then tells the windows.
+void MeasureFrom(int day);
+
 /// Redraws what is visible: first the window named by CurrentWindow, which is
 /// then 0 again.
 void UpdateWindows();

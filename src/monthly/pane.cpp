@@ -116,6 +116,7 @@ void Pane::Combo3_Click() {
     const int month = m_combo3->ListIndex() + 1;
     if (Updating || m_combo3->ListCount() < 2 || month == CurDate(c, Month))
         return;
+    ChangeCals::MeasureFrom(m_combo3->Origin());
     CurDate(c, Month) = month;
     ChangeCals::ChangeCal(c);
 }
@@ -130,9 +131,11 @@ void Pane::Combo4_Click() {
 
 void Pane::Combo5_Click() {
     const int c = calendar();
-    const double weeks = Val(m_combo5->Text()) - CurDate(c, WeekNumber);
-    if (Updating || weeks == 0)
+    const double week = Val(m_combo5->Text());
+    if (Updating || week == CurDate(c, WeekNumber))
         return;
+    ChangeCals::MeasureFrom(m_combo5->Origin());
+    const double weeks = week - CurDate(c, WeekNumber);
     const int sameWeekday = CLng(weeks * daysInWeek + CurJD).value_or(CurJD);
     CurJD = std::clamp(sameWeekday, YearJD(c, FirstDay), YearJD(c, LastDay));
     ChangeCals::ChangeJD();
@@ -143,6 +146,7 @@ void Pane::setFillers() {
         list->SetFiller([this, entries] {
             return IsCalendar(calendar()) ? entries(calendar()) : ListEntries();
         });
+        list->SetOrigin([] { return CurJD; });
     };
     fill(m_combo2, Controls::YearEntries);
     fill(m_combo3, MonthEntries);

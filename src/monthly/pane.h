@@ -14,7 +14,8 @@ inline const Table<int, paneCount> PaneLeft{300, 2640, 4980, 7320};
 
 /// One of the four panes: the selectors of one calendar and its month grid. A
 /// list holds only the entry of the chosen day until it is used. What a choice
-/// changes is measured against the chosen day, never against an earlier text.
+/// changes is measured against the chosen day, for a typed number against the day at
+/// which the typing began, never against an earlier text.
 class Pane : public QObject {
     Q_OBJECT
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/combobox.h"
 
-#include "platform/listtyping.h"
 #include "platform/pointer.h"
 #include "platform/text.h"
 
@@ -43,7 +42,7 @@ ListEntries NumberedEntries(int first, int last, int chosen,
 }
 
 ComboBox::ComboBox(const QString& name, QWidget* parent)
-    : QComboBox(parent), m_items(new QStringListModel(this)), m_typing(new ListTyping(this)) {
+    : QComboBox(parent), m_items(new QStringListModel(this)), m_typing(*this) {
     setObjectName(name);
     setModel(m_items);
     setFocusPolicy(Qt::StrongFocus);
@@ -54,20 +53,10 @@ ComboBox::ComboBox(const QString& name, QWidget* parent)
     connect(this, &QComboBox::currentTextChanged, this, [this] { m_ownFitted.reset(); });
 }
 
-void ComboBox::Clear() {
-    m_typing->Forget();
-    clear();
-}
-
 void ComboBox::SetItems(const QStringList& texts, int position) {
     if (m_items->stringList() != texts)
         m_items->setStringList(texts);
     SetListIndex(position);
-}
-
-void ComboBox::SetListIndex(int position) {
-    m_typing->Forget();
-    setCurrentIndex(position);
 }
 
 int ComboBox::WidthFor(const QString& text) const {
@@ -98,7 +87,6 @@ void ComboBox::showPopup() {
     // Many styles show a list as a menu as high as the screen, without a bar.
     if (styleSheet().isEmpty())
         setStyleSheet(QStringLiteral("QComboBox { combobox-popup: 0; }"));
-    m_typing->End();
     fill();
     view()->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     view()->setAccessibleName(accessibleName());
@@ -109,6 +97,11 @@ void ComboBox::showPopup() {
     view()->scrollTo(view()->currentIndex(), QAbstractItemView::PositionAtCenter);
 }
 
+bool ComboBox::event(QEvent* event) {
+    m_typing.Notice(*event);
+    return QComboBox::event(event);
+}
+
 void ComboBox::focusInEvent(QFocusEvent* event) {
     // The list gives the focus back when its popup closes: that is no arrival.
     if (event->reason() != Qt::PopupFocusReason)
@@ -116,26 +109,10 @@ void ComboBox::focusInEvent(QFocusEvent* event) {
     QComboBox::focusInEvent(event);
 }
 
-void ComboBox::focusOutEvent(QFocusEvent* event) {
-    // A window that is being closed may lose the focus before it is told to hide.
-    if (!window()->isHidden())
-        m_typing->End();
-    QComboBox::focusOutEvent(event);
-}
-
-// A window that is closed lets the typed number go.
-void ComboBox::hideEvent(QHideEvent* event) {
-    m_typing->LetGo();
-    QComboBox::hideEvent(event);
-}
-
 void ComboBox::keyPressEvent(QKeyEvent* event) {
     fill();
-    if (m_typing->TakesKey(*event))
-        return;
-    m_typing->End();
-    fill(); // a choice may have left one entry
-    QComboBox::keyPressEvent(event);
+    if (!m_typing.TakesKey(*event))
+        QComboBox::keyPressEvent(event);
 }
 
 void ComboBox::wheelEvent(QWheelEvent* event) {
@@ -143,7 +120,6 @@ void ComboBox::wheelEvent(QWheelEvent* event) {
         event->ignore();
         return;
     }
-    m_typing->End();
     fill();
     QComboBox::wheelEvent(event);
 }

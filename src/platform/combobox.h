@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/listtyping.h"
+
 #include <QComboBox>
 #include <functional>
 #include <optional>
 #include <vector>
 
-class ListTyping;
 class QStringListModel;
 
 /// The entries of a list and the position of the chosen one.
@@ -26,8 +27,7 @@ ListEntries NumberedEntries(
 /// the focus. A text too wide for the list is shown in a smaller font rather than
 /// cut. At most 15 entries drop down, the chosen one in their middle.
 ///
-/// A number typed into the list is one choice (ListTyping), made at the latest when
-/// the list is left or used in another way.
+/// A number typed into the list chooses at each digit (ListTyping).
 class ComboBox : public QComboBox {
     Q_OBJECT
 
@@ -40,8 +40,14 @@ public:
     /// the focus or is about to be used. Without entries it stays as it is.
     void SetFiller(Filler filler) { m_filler = std::move(filler); }
 
+    /// From where choices are measured, as a number of the owner's. What one digit
+    /// chose is replaced by the next one's choice, so that in a Click of a typed number
+    /// Origin is still what it was when the typing began.
+    void SetOrigin(std::function<int()> origin) { m_typing.SetOrigin(std::move(origin)); }
+    int Origin() const { return m_typing.Origin(); }
+
     void AddItem(const QString& text) { addItem(text); }
-    void Clear();
+    void Clear() { clear(); }
 
     /// Replaces the list by these entries and selects one by its position.
     void SetItems(const QStringList& texts, int position);
@@ -49,7 +55,7 @@ public:
     int ListIndex() const { return currentIndex(); }
 
     /// A position outside the list selects nothing.
-    void SetListIndex(int position);
+    void SetListIndex(int position) { setCurrentIndex(position); }
     QString Text() const { return currentText(); }
 
     /// Clears the list and makes `text` its only entry, selected.
@@ -73,9 +79,8 @@ Q_SIGNALS:
     void Click();
 
 protected:
+    bool event(QEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
-    void focusOutEvent(QFocusEvent* event) override;
-    void hideEvent(QHideEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
@@ -89,7 +94,7 @@ private:
     QFont fittedFont() const;
 
     QStringListModel* m_items; ///< takes thousands of entries at once
-    ListTyping* m_typing;
+    ListTyping m_typing;
     Filler m_filler;
     std::vector<ComboBox*> m_sharing;         ///< of one letter size
     mutable std::optional<QFont> m_ownFitted; ///< of the text, font and width as they are

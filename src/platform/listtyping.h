@@ -1,45 +1,44 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QObject>
 #include <QString>
-#include <QTimer>
+#include <functional>
 
 class QComboBox;
+class QEvent;
 class QKeyEvent;
 
-/// A number typed into a list is one choice. The first entry that begins with
-/// the digits so far is shown at once; it is chosen when no other begins so, on
-/// Return, or after a pause. Backspace takes a digit back, Escape all of them.
-/// Names are left to the toolkit, which chooses at each letter; an editable list
-/// is left to its editor.
-class ListTyping : public QObject {
+/// A number typed into a list. Each digit chooses the entry of the number so far at
+/// once; a number that is no entry yet chooses nothing. Digits go on while they
+/// follow each other as fast as the toolkit's own lists ask of letters and nothing
+/// else is done; then the next one begins anew. A digit with which no entry can go on
+/// is refused with a beep. Names are left to the toolkit, which chooses at each
+/// letter; an editable list is left to its editor.
+class ListTyping {
 public:
-    /// `list` raises `activated` when what was typed is chosen.
-    explicit ListTyping(QComboBox* list);
+    /// `list` raises `activated` at each choice.
+    explicit ListTyping(QComboBox& list) : m_list(list) {}
+
+    /// As ComboBox has them.
+    void SetOrigin(std::function<int()> origin) { m_origin = std::move(origin); }
+    int Origin() const { return m_choosing ? m_began : m_origin(); }
 
     /// Whether the key belongs to a number that is being typed.
     bool TakesKey(const QKeyEvent& event);
 
-    /// Chooses what was typed, if it still waits to be chosen.
-    void End();
-
-    /// Gives up what was typed and shows the entry that was chosen before.
-    void LetGo();
-
-    /// The program has chosen an entry: what was typed waits no more.
-    void Forget() { m_pending = false; }
+    /// Is told of every event of the list, since most of them end a number.
+    void Notice(const QEvent& event);
 
 private:
-    bool takesCorrection(const QKeyEvent& event);
-    bool takesText(const QString& text);
-    bool show(const QString& text);
-    void takeBack(qsizetype digits);
-    void choose();
+    bool goesOn(const QKeyEvent& event) const;
+    bool takes(const QString& text);
+    void choose(int position);
 
-    QComboBox* m_list;
+    QComboBox& m_list;
+    std::function<int()> m_origin = [] { return 0; };
     QString m_typed;
-    bool m_pending = false; ///< what was typed is shown, but not yet chosen
-    int m_before = -1;      ///< the position before it was shown
-    QTimer m_pause;
+    quint64 m_time = 0; ///< of the last digit, in milliseconds by the desktop's clock
+    int m_began = 0;    ///< the origin before the first digit
+    int m_reached = 0;  ///< the origin after the last one
+    bool m_choosing = false;
 };

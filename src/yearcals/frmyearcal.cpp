@@ -160,6 +160,7 @@ void frmYearCal::createControls() {
 
 void frmYearCal::connectControls() {
     m_combo1->SetFiller([c = m_calendar] { return Controls::YearEntries(c); });
+    m_combo1->SetOrigin([] { return CurJD; });
     connect(m_combo1, &ComboBox::Click, this, &frmYearCal::Combo1_Click);
     connect(m_grid, &MSFlexGrid::MouseDown, this, &frmYearCal::MSFlexGrid1_MouseDown);
     connect(m_grid, &MSFlexGrid::DblClick, this, &ChangeCals::ShowMonthlyWindow);

@@ -90,10 +90,8 @@ void Hand::Use(const ListInUse& list) {
         chooseInPopup(list);
     else if (way < 5)
         turnWheel(list);
-    else if (way < 12 && list.firstNumber >= 0)
+    else if (way < 13 && list.firstNumber >= 0)
         typeNumber(list);
-    else if (way == 12 && list.firstNumber >= 0)
-        typeDigitAndTakeItBack(list);
     else
         moveInList(list);
 }
@@ -118,26 +116,12 @@ void Hand::typeNumber(const ListInUse& list) {
     // Near ones mostly, as far ones make every window begin another year.
     const int near = list.chosen - 5 + Below(11);
     const int position = OneIn(3) ? Below(list.entries) : std::clamp(near, 0, list.entries - 1);
-    const QString number = QString::number(list.firstNumber + position);
-    Say("  typed ", qPrintable(number));
-    QTest::keyClicks(&list.box, number);
-    Key(list.box, Qt::Key_Return);
+    const int number = list.firstNumber + position;
+    Say("  typed ", number);
+    QTest::keyClicks(&list.box, QString::number(number));
+    if (10 * number >= list.firstNumber + list.entries)
+        Key(list.box, Qt::Key_0); // beyond the last entry: refused
     list.choose(position);
-}
-
-// A digit with which no other entry begins has chosen its entry already.
-void Hand::typeDigitAndTakeItBack(const ListInUse& list) {
-    const QString digit = QString::number(1 + Below(9));
-    std::vector<int> found;
-    for (int position = 0; position < list.entries; ++position) {
-        if (QString::number(list.firstNumber + position).startsWith(digit))
-            found.push_back(position);
-    }
-    Say("  typed ", qPrintable(digit), " and took it back");
-    QTest::keyClicks(&list.box, digit);
-    Key(list.box, Qt::Key_Escape);
-    if (found.size() == 1)
-        list.choose(found.front());
 }
 
 void Hand::turnWheel(const ListInUse& list) {

@@ -98,7 +98,6 @@ public:
 private:
     void moveInList(const ListInUse& list);
     void typeNumber(const ListInUse& list);
-    void typeDigitAndTakeItBack(const ListInUse& list);
     void turnWheel(const ListInUse& list);
     void chooseInPopup(const ListInUse& list);
 

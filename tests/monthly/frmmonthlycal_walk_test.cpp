@@ -120,8 +120,8 @@ private:
         return step;
     }
 
-    /// Where a list stands by its text; one that has taken a typed number may hold
-    /// that alone.
+    /// Where a list stands by its text; one that has taken a digit may hold its
+    /// entry alone.
     static int positionSaid(const List& list, int c) {
         const int number = list.box.Text().section(u'/', 0, 0).toInt();
         switch (list.kind) {
@@ -192,7 +192,6 @@ private:
             const int to = positionAfter(key, from, list.box.ListCount());
             const float age = list.box.Text().toFloat();
             QTest::keyClick(&list.box, key);
-            QTest::keyClick(&list.box, Qt::Key_Return); // chooses a number that waits for more
             if (to >= 0)
                 step.day = dayOfChoice(list, c, before, from, to);
             else if (list.kind == 7) // in tenths, and so by the difference
