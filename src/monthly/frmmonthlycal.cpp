@@ -101,6 +101,7 @@ void frmMonthlyCal::ReSetForm() {
 }
 
 void frmMonthlyCal::Form_Unload() {
+    m_common->JulianDay()->Leave();
     ChangeCals::AfterWindowClosed();
 }
 

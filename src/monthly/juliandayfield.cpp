@@ -14,6 +14,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QWindow>
 
 namespace {
 
@@ -31,7 +32,7 @@ QString rangeText() {
            QStringLiteral("%1 \u2014 %2").arg(lowestDay()).arg(highestDay());
 }
 
-// Switching to another window, or a popup, is not leaving the field.
+// A popup is not leaving the field; of another window its activation tells.
 bool leavesField(Qt::FocusReason reason) {
     return reason == Qt::MouseFocusReason || reason == Qt::TabFocusReason ||
            reason == Qt::BacktabFocusReason || reason == Qt::ShortcutFocusReason;
@@ -49,6 +50,7 @@ JulianDayField::JulianDayField(const QString& name, QWidget* parent) : ComboBox(
     setInsertPolicy(QComboBox::NoInsert);
     connect(lineEdit(), &QLineEdit::textEdited, this, &JulianDayField::Combo8_Change);
     connect(this, &ComboBox::Click, this, &JulianDayField::Combo8_Click);
+    connect(qApp, &QGuiApplication::focusWindowChanged, this, &JulianDayField::focusWindowChanged);
 }
 
 int JulianDayField::OwnWidth() const {
@@ -137,6 +139,14 @@ void JulianDayField::Leave() {
         Show(CurJD);
 }
 
+// While another program has the keyboard no window of ours has it, and the number
+// waits. A window that is being closed asks by Leave.
+void JulianDayField::focusWindowChanged(const QWindow* focus) {
+    const bool isOther = focus != nullptr && focus != window()->windowHandle();
+    if (isOther && focus->type() != Qt::Popup && !window()->isHidden())
+        Combo8_LostFocus();
+}
+
 void JulianDayField::accept() {
     if (m_refusing || Text() == m_shown)
         return;
@@ -175,7 +185,8 @@ void JulianDayField::tellRange() {
     qApp->removeEventFilter(this);
     if (!ChangeCals::IsLeaving()) {
         setFocus();
-        MsgBox(rangeText());
+        MsgBox(rangeText(), window());
+        window()->activateWindow();
         setFocus();
         lineEdit()->selectAll(); // the next digit replaces it
     }

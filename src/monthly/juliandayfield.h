@@ -6,11 +6,12 @@
 #include <optional>
 
 /// The Julian Day of the chosen day (Combo8), into which another can be typed. A
-/// whole number is taken on Return, when the field is left by mouse or keyboard,
-/// and when the list's entry is chosen. Anything but a whole number is refused
-/// while it is typed, with a beep; a number outside the range that the program
-/// can show, with a message when it is to be taken; it then stands selected. Escape
-/// puts the chosen day back.
+/// whole number is taken on Return, when the field is left by mouse or keyboard or for
+/// another window of the program, and when the list's entry is chosen; while another
+/// program is in use it waits. Anything but a whole number is refused while it is
+/// typed, with a beep; a number outside the range that the program can show, with a
+/// message when it is to be taken; it then stands selected. Escape puts the chosen day
+/// back.
 class JulianDayField : public ComboBox {
     Q_OBJECT
 
@@ -42,6 +43,7 @@ private:
     void Combo8_LostFocus();
     void Combo8_Click();
 
+    void focusWindowChanged(const QWindow* focus);
     void accept();
     std::optional<int> typedDay() const;
     void refuseText();

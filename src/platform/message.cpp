@@ -29,9 +29,9 @@ void widenToTitle(QMessageBox& box) {
 
 } // namespace
 
-void MsgBox(const QString& text) {
+void MsgBox(const QString& text, QWidget* owner) {
     QMessageBox box(QMessageBox::Warning, ProgramTitle(), text, QMessageBox::Ok,
-                    QApplication::activeWindow());
+                    owner != nullptr ? owner : QApplication::activeWindow());
     box.setTextFormat(Qt::PlainText);
     box.setTextInteractionFlags(Qt::NoTextInteraction);
     widenToTitle(box);

@@ -3,9 +3,12 @@
 
 #include <QString>
 
+class QWidget;
+
 /// A message box with the exclamation icon and the product's title, wide enough
 /// for the title to be read; returns when the user has closed it. The text is shown as it stands.
-void MsgBox(const QString& text);
+/// The box belongs to `owner`, or else to the window that has the keyboard.
+void MsgBox(const QString& text, QWidget* owner = nullptr);
 
 /// Two texts with an empty line between them.
 QString WithEmptyLine(const QString& first, const QString& second);

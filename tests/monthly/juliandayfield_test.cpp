@@ -1,11 +1,28 @@
 // SPDX-License-Identifier: MIT
 #include "monthly/monthly_test.h"
+#include "platform/form.h"
+#include "support/platform_input.h"
 
 #include <QClipboard>
 #include <QLineEdit>
 #include <QMessageBox>
 
 namespace {
+
+/// Keeps which control of its window has the focus when a message comes up.
+class MessageSeen : public QObject {
+public:
+    MessageSeen() { qApp->installEventFilter(this); }
+
+    bool eventFilter(QObject* object, QEvent* event) override {
+        const auto* box = qobject_cast<QMessageBox*>(object);
+        if (box != nullptr && event->type() == QEvent::Show)
+            focus = box->parentWidget()->focusWidget();
+        return false;
+    }
+
+    const QWidget* focus = nullptr;
+};
 
 class JulianDayEntry : public MonthlyTest {
 protected:
@@ -43,6 +60,13 @@ protected:
         EXPECT_TRUE(waitUntil([] { return combo(8).hasFocus(); }));
     }
 
+    void showOtherWindow() {
+        m_other.show();
+        m_other.activateWindow();
+        ASSERT_TRUE(waitUntil([this] { return m_other.isActiveWindow(); }));
+    }
+
+    Form m_other{QStringLiteral("other")};
     QStringList m_seen;
 };
 
@@ -75,14 +99,64 @@ TEST_F(JulianDayEntry, LeavingByTabOrMouseTakesTheNumber) {
     expectPanesShowTheState();
 }
 
-TEST_F(JulianDayEntry, SwitchingToAnotherWindowDoesNotTakeIt) {
+TEST_F(JulianDayEntry, LeavingForAnotherWindowTakesTheNumber) {
     type(QStringLiteral("2451545"));
-    Form other(QStringLiteral("other"));
-    other.show();
-    other.activateWindow();
-    ASSERT_TRUE(waitUntil([&other] { return other.isActiveWindow(); }));
+    showOtherWindow();
+    EXPECT_EQ(CurJD, 2451545);
+    expectPanesShowTheState();
+}
+
+TEST_F(JulianDayEntry, LeavingForAnotherWindowIsRefusedWithOneMessageOverTheField) {
+    const MessageSeen message;
+    type(QStringLiteral("5"));
+    showOtherWindow();
+    expectOneRangeMessage();
+    EXPECT_EQ(message.focus, &combo(8));
     EXPECT_EQ(CurJD, 2461365);
-    EXPECT_EQ(combo(8).Text(), QStringLiteral("2451545"));
+    EXPECT_EQ(edit().selectedText(), QStringLiteral("5"));
+    goTo(2461365);
+}
+
+TEST_F(JulianDayEntry, LeavingForAnotherProgramKeepsTheNumberWaiting) {
+    for (const int day : {2451545, 5}) {
+        type(QString::number(day));
+        goToAnotherProgram();
+        ASSERT_FALSE(combo(8).hasFocus());
+        window().activateWindow();
+        ASSERT_TRUE(waitUntil([] { return combo(8).hasFocus(); }));
+        EXPECT_EQ(CurJD, 2461365);
+        EXPECT_EQ(combo(8).Text(), QString::number(day));
+        goTo(2461365);
+    }
+}
+
+TEST_F(JulianDayEntry, AnotherWindowAfterAnotherProgramTakesTheNumber) {
+    type(QStringLiteral("2451545"));
+    goToAnotherProgram();
+    showOtherWindow();
+    EXPECT_EQ(CurJD, 2451545);
+}
+
+TEST_F(JulianDayEntry, TheFrameThatClosesTakesAValidNumber) {
+    ChangeCals::LoadYear(Gregorian).Show();
+    window().activateWindow();
+    ASSERT_TRUE(waitUntil([] { return window().isActiveWindow(); }));
+    type(QStringLiteral("2451545"));
+    calls.clear();
+    window().close();
+    processEvents();
+    EXPECT_EQ(CurJD, 2451545);
+    EXPECT_EQ(takeCalls(), std::vector<std::string>{"year2.ShowYear"});
+}
+
+TEST_F(JulianDayEntry, TheFrameThatClosesLetsAnyOtherNumberGo) {
+    ChangeCals::LoadYear(Gregorian).Show();
+    window().activateWindow();
+    ASSERT_TRUE(waitUntil([] { return window().isActiveWindow(); }));
+    type(QStringLiteral("5"));
+    window().close();
+    processEvents();
+    EXPECT_EQ(CurJD, 2461365);
 }
 
 TEST_F(JulianDayEntry, BoundsAreTakenAndOneBeyondIsRefused) {
@@ -133,21 +207,6 @@ TEST_F(JulianDayEntry, ARefusedNumberKeepsTheFocusAndThePressThatLeftItDoesNothi
     pressDay(2, 10);
     EXPECT_EQ(CurJD, 2451554) << "presses do what they do again";
 }
-
-/// Keeps which control of its window has the focus when a message comes up.
-class MessageSeen : public QObject {
-public:
-    MessageSeen() { qApp->installEventFilter(this); }
-
-    bool eventFilter(QObject* object, QEvent* event) override {
-        const auto* box = qobject_cast<QMessageBox*>(object);
-        if (box != nullptr && event->type() == QEvent::Show)
-            focus = box->parentWidget()->focusWidget();
-        return false;
-    }
-
-    const QWidget* focus = nullptr;
-};
 
 TEST_F(JulianDayEntry, TabFromARefusedNumberGivesOneMessageOverTheFieldThatHasTheFocusBack) {
     const MessageSeen message;

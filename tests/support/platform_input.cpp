@@ -8,3 +8,8 @@ void queueKey(QWindow& window, Qt::Key key) {
     for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease})
         QWindowSystemInterface::handleKeyEvent<Async>(&window, type, key, Qt::NoModifier);
 }
+
+void goToAnotherProgram() {
+    using Now = QWindowSystemInterface::SynchronousDelivery;
+    QWindowSystemInterface::handleWindowActivated<Now>(nullptr);
+}
