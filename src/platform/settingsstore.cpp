@@ -1,20 +1,22 @@
 // SPDX-License-Identifier: MIT
 #include "platform/settingsstore.h"
 
-#include "platform/folderlock.h"
 #include "platform/initext.h"
 #include "platform/program.h"
 
 #include <QDir>
 #include <QFileInfo>
-#include <QSaveFile>
+#include <QLockFile>
 #include <QStandardPaths>
+#include <filesystem>
 #include <unistd.h>
 #include <vector>
 
 namespace {
 
 constexpr qint64 largestFile = 1 << 20; // bytes
+constexpr int longestWait = 900;        // milliseconds, for another program that saves
+constexpr int longestSave = 5000;       // milliseconds, after which a lock was left behind
 
 struct Setting {
     QString section;
@@ -25,10 +27,15 @@ struct Setting {
 IniText settings;             // as loaded, with what was saved since
 std::vector<Setting> unsaved; // in the order in which they were saved
 
-// A relative folder is none, as the rules for base directories say.
+// A relative folder is none, as the rules for base directories say. Without a home
+// the toolkit would take the root of the file system: the name says what is missing.
 QString configurationFolder() {
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
-    return QDir::isAbsolutePath(folder) ? folder : QDir::homePath() + QStringLiteral("/.config");
+    const QString folder =
+        QDir::cleanPath(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation));
+    const bool isNamed = QDir::isAbsolutePath(folder) && folder != QLatin1String("/.config");
+    const QString home =
+        QDir::homePath() == QDir::rootPath() ? QStringLiteral("$HOME") : QDir::homePath();
+    return isNamed ? folder : home + QStringLiteral("/.config");
 }
 
 QString settingsFolder() {
@@ -39,11 +46,32 @@ QString settingsPath() {
     return settingsFolder() + QStringLiteral("/settings.ini");
 }
 
+bool haveAPlace() {
+    return QDir::isAbsolutePath(settingsPath());
+}
+
+// With the folders above it, for the user alone where they are missing.
+bool makeFolder(const QString& path) {
+    const auto userOnly = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
+    return QFileInfo(path).isDir() ||
+           (makeFolder(QFileInfo(path).path()) &&
+            (QDir().mkdir(path, userOnly) || QFileInfo(path).isDir())); // by another meanwhile
+}
+
+// False also for what cannot be looked for.
+bool isAbsent(const QFileInfo& file) {
+    std::error_code unknown;
+    const auto status = std::filesystem::status(file.filesystemFilePath(), unknown);
+    return status.type() == std::filesystem::file_type::not_found;
+}
+
 // Empty when there is no file, nothing when it cannot be read.
 std::optional<QByteArray> readFile() {
+    if (!haveAPlace())
+        return std::nullopt;
     QFile file(settingsPath());
     const QFileInfo info(file);
-    if (!info.exists())
+    if (isAbsent(info))
         return QByteArray();
     if (!info.isFile() || info.size() > largestFile || !file.open(QIODevice::ReadOnly))
         return std::nullopt;
@@ -51,16 +79,40 @@ std::optional<QByteArray> readFile() {
     return file.error() == QFile::NoError ? std::optional(bytes) : std::nullopt;
 }
 
-// The bytes are known to be on disk before they take the old file's place.
-bool writeFile(const QByteArray& bytes) {
-    QSaveFile file(settingsPath());
+bool writeToDisk(QFile& file, const QByteArray& bytes) {
     return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush() &&
-           fsync(file.handle()) == 0 && file.commit();
+           fsync(file.handle()) == 0;
+}
+
+// The bytes are known to be on disk before they take the old file's place. Their
+// place until then has one name, so that what a killed program left there goes.
+bool writeFile(const QByteArray& bytes) {
+    const QFileInfo info(settingsPath());
+    const QFileInfo target(info.exists() ? info.canonicalFilePath() : settingsPath());
+    QFile part(target.filePath() + QStringLiteral(".part"));
+    std::error_code failure = std::make_error_code(std::errc::io_error);
+    if ((!target.exists() || target.isWritable()) && writeToDisk(part, bytes)) {
+        if (target.exists())
+            part.setPermissions(target.permissions());
+        part.close();
+        std::filesystem::rename(part.filesystemFileName(), target.filesystemFilePath(), failure);
+    }
+    if (failure)
+        part.remove();
+    return !failure;
 }
 
 void setAll(IniText& text, const std::vector<Setting>& values) {
     for (const Setting& setting : values)
         text.SetValue(setting.section, setting.key, setting.value);
+}
+
+// What is written can be read again.
+bool merge() {
+    const auto bytes = readFile();
+    IniText text(bytes.value_or(QByteArray()));
+    setAll(text, unsaved);
+    return bytes && text.Bytes().size() <= largestFile && writeFile(text.Bytes());
 }
 
 } // namespace
@@ -84,15 +136,11 @@ void SaveSetting(const QString& section, const QString& key, const QString& valu
 bool FlushSettings() {
     if (unsaved.empty())
         return true;
-    if (!QDir().mkpath(settingsFolder()))
+    if (!haveAPlace() || !makeFolder(settingsFolder()))
         return false;
-    const FolderLock lock(settingsFolder());
-    const auto bytes = readFile();
-    if (!lock.IsHeld() || !bytes)
-        return false;
-    IniText text(*bytes);
-    setAll(text, unsaved);
-    if (!writeFile(text.Bytes()))
+    QLockFile lock(settingsPath() + QStringLiteral(".lock"));
+    lock.setStaleLockTime(longestSave);
+    if (!lock.tryLock(longestWait) || !merge())
         return false;
     unsaved.clear();
     return true;

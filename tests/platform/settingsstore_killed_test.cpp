@@ -4,6 +4,7 @@
 #include "support/judgement.h"
 #include "support/platform_test.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <csignal>
 #include <sys/ptrace.h>
@@ -14,6 +15,8 @@ namespace {
 
 const QByteArray before("[Startup]\nWindow=1\nShowTips=1\n");
 const QByteArray after("[Startup]\nWindow=2\nShowTips=0\n");
+
+constexpr auto everything = QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden | QDir::System;
 
 class SettingsKilled : public PlatformTest {
 protected:
@@ -41,9 +44,19 @@ protected:
         waitpid(child, &status, 0);
         return true;
     }
+
+    /// As if time had passed: what was killed while it made the lock has left no name in it.
+    void ageEmptyLock() const {
+        QFile lock(settingsPath() + QStringLiteral(".lock"));
+        if (lock.exists() && lock.size() == 0) {
+            ASSERT_TRUE(lock.open(QIODevice::ReadWrite));
+            ASSERT_TRUE(lock.setFileTime(QDateTime::currentDateTimeUtc().addSecs(-60),
+                                         QFileDevice::FileModificationTime));
+        }
+    }
 };
 
-TEST_F(SettingsKilled, TheFileHoldsTheOldValuesOrTheNew) {
+TEST_F(SettingsKilled, TheFileHoldsTheOldValuesOrTheNewAndCanBeSaved) {
     int stop = 0;
     int changed = 0;
     for (bool killed = true; killed; ++stop) {
@@ -57,6 +70,12 @@ TEST_F(SettingsKilled, TheFileHoldsTheOldValuesOrTheNew) {
         const QByteArray found = readFile(settingsPath());
         ASSERT_TRUE(found == after || (found == before && killed)) << stop << found.constData();
         changed += static_cast<int>(found == after);
+        ageEmptyLock();
+        ASSERT_TRUE(FlushSettings()) << stop;
+        ASSERT_EQ(readFile(settingsPath()), after) << stop;
+        ASSERT_EQ(QFileInfo(settingsPath()).dir().entryList(everything),
+                  QStringList{QStringLiteral("settings.ini")})
+            << "what the killed one left is cleared: " << stop;
     }
     EXPECT_GT(stop, 20) << "calls were looked at";
     EXPECT_GT(changed, 0);

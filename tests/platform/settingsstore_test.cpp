@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QLockFile>
 #include <QSettings>
 #include <csignal>
 #include <fcntl.h>
@@ -249,6 +250,107 @@ TEST_F(SettingsStore, AFileTooLargeForSettingsIsToldAndLeftAlone) {
     EXPECT_EQ(QFileInfo(settingsPath()).size(), (1 << 20) + 1);
 }
 
+TEST_F(SettingsStore, WhatIsWrittenCanBeRead) {
+    const QByteArray lines =
+        QByteArray("[Startup]\nWindow=1\n;").leftJustified((1 << 20) - 1, 'x') + '\n';
+    load(lines);
+    save("ShowTips", "0");
+    EXPECT_FALSE(FlushSettings()) << "the file would be too large to be read";
+    EXPECT_EQ(readFile(settingsPath()), lines);
+    EXPECT_TRUE(LoadSettings());
+    save("Window", "2");
+    EXPECT_TRUE(FlushSettings()) << "as large as it was";
+    EXPECT_TRUE(LoadSettings());
+    EXPECT_EQ(get("Window"), QStringLiteral("2"));
+}
+
+TEST_F(SettingsStore, FoldersThatAreMissingAreMadeForTheUserAlone) {
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(configFolder() + QStringLiteral("/below")));
+    ASSERT_TRUE(LoadSettings());
+    save("Window", "2");
+    EXPECT_TRUE(FlushSettings());
+    for (const char* folder : {"", "/below", "/below/Orvalen Years Calendar"}) {
+        struct stat found = {};
+        ASSERT_EQ(stat(QFile::encodeName(configFolder() + QLatin1String(folder)), &found), 0);
+        EXPECT_EQ(found.st_mode & 07777U, 0700U) << folder;
+    }
+}
+
+TEST_F(SettingsStore, TheFileKeepsItsPermissionsAndItsLink) {
+    const QString linked = m_folder.filePath(QStringLiteral("elsewhere"));
+    writeFile(linked, "[Startup]\nWindow=1\n");
+    ASSERT_TRUE(QFile::setPermissions(linked, QFile::ReadOwner | QFile::WriteOwner));
+    ASSERT_TRUE(QDir().mkpath(QFileInfo(settingsPath()).path()));
+    ASSERT_TRUE(QFile::link(linked, settingsPath()));
+    ASSERT_TRUE(LoadSettings());
+    save("Window", "2");
+    EXPECT_TRUE(FlushSettings());
+    EXPECT_TRUE(QFileInfo(settingsPath()).isSymLink());
+    EXPECT_EQ(readFile(linked), "[Startup]\nWindow=2\n");
+    struct stat found = {};
+    ASSERT_EQ(stat(QFile::encodeName(linked), &found), 0);
+    EXPECT_EQ(found.st_mode & 07777U, 0600U);
+}
+
+/// Takes the rights of the superuser, who may read everything, from this process.
+class UsualRights {
+public:
+    UsualRights() { become(m_former == 0 ? nobody : m_former); }
+    ~UsualRights() { become(m_former); }
+    UsualRights(const UsualRights&) = delete;
+    UsualRights& operator=(const UsualRights&) = delete;
+
+private:
+    void become(uid_t user) const { EXPECT_EQ(setresuid(user, user, m_former), 0); }
+
+    static constexpr uid_t nobody = 65534;
+    const uid_t m_former = geteuid();
+};
+
+TEST_F(SettingsStore, AFolderThatCannotBeEnteredIsTold) {
+    load("[Startup]\nWindow=1\n");
+    const QString folder = QFileInfo(settingsPath()).path();
+    ASSERT_TRUE(QFile::setPermissions(folder, {}));
+    {
+        const UsualRights usual;
+        EXPECT_FALSE(LoadSettings());
+        save("Window", "2");
+        EXPECT_FALSE(FlushSettings());
+    }
+    ASSERT_TRUE(
+        QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+    EXPECT_TRUE(LoadSettings());
+    EXPECT_EQ(get("Window"), QStringLiteral("1"));
+}
+
+TEST_F(SettingsStore, AFileThatMayOnlyBeReadStaysAsItIs) {
+    load("[Startup]\nWindow=1\n");
+    save("Window", "2");
+    const QFileInfo file(settingsPath());
+    const auto readOnly = QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther;
+    ASSERT_TRUE(QFile::setPermissions(file.path(), QFile::Permissions(0x7777)));
+    ASSERT_TRUE(QFile::setPermissions(m_folder.path(), QFile::Permissions(0x7777)));
+    ASSERT_TRUE(QFile::setPermissions(settingsPath(), readOnly));
+    {
+        const UsualRights usual;
+        EXPECT_FALSE(FlushSettings());
+    }
+    EXPECT_EQ(readFile(settingsPath()), "[Startup]\nWindow=1\n");
+}
+
+TEST_F(SettingsStore, WithoutAHomeNothingIsReadOrWritten) {
+    const QByteArray home = qgetenv("HOME");
+    qunsetenv("HOME");
+    qunsetenv("XDG_CONFIG_HOME");
+    EXPECT_EQ(SettingsFile(), QStringLiteral("$HOME/.config/Orvalen Years Calendar/settings.ini"));
+    EXPECT_FALSE(LoadSettings());
+    save("Window", "2");
+    EXPECT_FALSE(FlushSettings());
+    EXPECT_FALSE(QFileInfo::exists(QStringLiteral("/.config/Orvalen Years Calendar")));
+    EXPECT_FALSE(QFileInfo::exists(QStringLiteral("$HOME")));
+    qputenv("HOME", home);
+}
+
 /// Lets this process write files of so many bytes only, as a full disk would.
 class FullDisk {
 public:
@@ -286,22 +388,31 @@ TEST_F(SettingsStore, AFullDiskLeavesTheFileWholeAndIsTold) {
 TEST_F(SettingsStore, ALockThatIsNeverFreeHoldsForASecondAtMost) {
     load("[Startup]\nWindow=1\n");
     save("Window", "2");
-    const int folder = open(QFile::encodeName(QFileInfo(settingsPath()).path()).constData(),
-                            O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    ASSERT_EQ(flock(folder, LOCK_EX), 0);
+    QLockFile other(settingsPath() + QStringLiteral(".lock"));
+    ASSERT_TRUE(other.tryLock());
     QElapsedTimer watch;
     watch.start();
     EXPECT_FALSE(FlushSettings());
     EXPECT_LT(watch.elapsed(), 2000) << "on a busy machine";
     EXPECT_EQ(readFile(settingsPath()), "[Startup]\nWindow=1\n");
-    close(folder);
+    other.unlock();
     EXPECT_TRUE(FlushSettings());
+}
+
+// Whoever may read a folder may lock it.
+TEST_F(SettingsStore, WhoeverReadsTheFolderCannotHoldItsLock) {
+    load("[Startup]\nWindow=1\n");
+    save("Window", "2");
+    const int folder = open(QFile::encodeName(QFileInfo(settingsPath()).path()).constData(),
+                            O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    ASSERT_EQ(flock(folder, LOCK_EX), 0);
+    EXPECT_TRUE(FlushSettings());
+    close(folder);
 }
 
 TEST_F(SettingsStore, LockFilesOfKilledProgramsHoldNobody) {
     load("[Startup]\nWindow=1\n");
-    writeFile(settingsPath() + QStringLiteral(".lock"), "");
-    ASSERT_TRUE(QDir().mkdir(QFileInfo(settingsPath()).path() + QStringLiteral("/lock")));
+    writeFile(settingsPath() + QStringLiteral(".lock"), "999999999\nanother program\n\n\n\n");
     save("Window", "2");
     QElapsedTimer watch;
     watch.start();
