@@ -26,7 +26,7 @@ QPixmap moonAt(float age, const QImage& picture) {
 }
 
 QImage sheetOf(const std::vector<float>& ages, int columns) {
-    const QImage picture = LoadMoonPicture(ProgramFile(QStringLiteral("Moon.bmp")));
+    const QImage picture = LoadMoonPicture(ProgramFile(QStringLiteral("Moon.bmp"))).picture;
     const int rows = (static_cast<int>(ages.size()) + columns - 1) / columns;
     QImage sheet(columns * (side + gap) + gap, rows * (side + labelHeight + gap) + gap,
                  QImage::Format_RGB32);

@@ -88,10 +88,12 @@ void frmMoon::Form_Load() {
 
 void frmMoon::loadPicture() {
     const QString path = MoonPictureFile();
-    const QImage picture = LoadMoonPicture(path);
-    if (picture.isNull())
+    const MoonFile file = LoadMoonPicture(path);
+    if (file.isTooLarge)
+        MsgBox(WithEmptyLine(path, QStringLiteral("The picture is too large.")));
+    else if (file.picture.isNull())
         MsgBox(WithEmptyLine(path, Text(StringTexts(FileNotFoundText))));
-    m_picture1->SetPicture(picture);
+    m_picture1->SetPicture(file.picture);
 }
 
 void frmMoon::placeControls() {

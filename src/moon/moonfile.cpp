@@ -10,8 +10,9 @@
 
 namespace {
 
-constexpr qint64 largestFile = 256 << 20;  // bytes
-constexpr qint64 largestPicture = 4 << 20; // pixels; larger ones are scaled down
+constexpr qint64 largestFile = 256 << 20;   // bytes
+constexpr qint64 largestPicture = 64 << 20; // pixels
+constexpr qint64 mostPixels = 4 << 20;      // of a picture that is not scaled down
 constexpr QSize scaledSize(2048, 2048);
 
 /// A file's bytes, which notice when more is asked for than is there: the reader
@@ -38,20 +39,29 @@ private:
     bool m_isWhole = true;
 };
 
-QByteArray readFile(const QString& path) {
-    QFile file(path);
-    const QFileInfo info(path);
-    if (!info.isFile() || info.size() > largestFile || !file.open(QIODevice::ReadOnly))
-        return {};
-    return file.read(largestFile);
+// The height is negative where the upper row comes first.
+qreal pixelsOf(const QSize& size) {
+    return size.width() * qAbs(qreal(size.height()));
 }
 
-// The height is negative where the upper row comes first.
 QSize sizeFor(const QSize& size) {
     const QSizeF upright(size.width(), qAbs(qreal(size.height())));
-    const bool isLarge = upright.width() * upright.height() > qreal(largestPicture);
-    return isLarge ? upright.scaled(scaledSize, Qt::KeepAspectRatio).toSize().expandedTo({1, 1})
-                   : QSize();
+    return pixelsOf(size) > mostPixels
+               ? upright.scaled(scaledSize, Qt::KeepAspectRatio).toSize().expandedTo({1, 1})
+               : QSize();
+}
+
+MoonFile loadFrom(QByteArray bytes) {
+    WatchedBytes device(&bytes);
+    device.open(QIODevice::ReadOnly);
+    QImageReader reader(&device, "bmp");
+    if (pixelsOf(reader.size()) > largestPicture)
+        return {.isTooLarge = true};
+    QImageReader::setAllocationLimit(0); // the toolkit's own is lower
+    reader.setScaledSize(sizeFor(reader.size()));
+    const QImage picture = reader.read();
+    // In full colours, which scaling would otherwise reduce to a few.
+    return {device.IsWhole() ? picture.convertToFormat(QImage::Format_RGB32) : QImage()};
 }
 
 } // namespace
@@ -60,13 +70,12 @@ QString MoonPictureFile() {
     return ProgramFile(QStringLiteral("Moon.bmp"));
 }
 
-QImage LoadMoonPicture(const QString& path) {
-    QByteArray bytes = readFile(path);
-    WatchedBytes device(&bytes);
-    device.open(QIODevice::ReadOnly);
-    QImageReader reader(&device, "bmp");
-    reader.setScaledSize(sizeFor(reader.size()));
-    const QImage picture = reader.read();
-    // In full colours, which scaling would otherwise reduce to a few.
-    return device.IsWhole() ? picture.convertToFormat(QImage::Format_RGB32) : QImage();
+MoonFile LoadMoonPicture(const QString& path) {
+    QFile file(path);
+    const QFileInfo info(path);
+    if (!info.isFile() || !file.open(QIODevice::ReadOnly))
+        return {};
+    if (info.size() > largestFile)
+        return {.isTooLarge = true};
+    return loadFrom(file.read(largestFile));
 }

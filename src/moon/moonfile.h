@@ -7,6 +7,11 @@
 /// Where the picture of the full moon is looked for: a bitmap beside the program.
 QString MoonPictureFile();
 
-/// A bitmap file as a picture, a large one scaled down; a null image when it is
-/// missing, no bitmap, or a part of its pixels is not in it.
-QImage LoadMoonPicture(const QString& path);
+struct MoonFile {
+    QImage picture{};        ///< null when there is none
+    bool isTooLarge = false; ///< for the program
+};
+
+/// A bitmap file as a picture, a large one scaled down; none when it is missing, no
+/// bitmap, too large, or a part of its pixels is not in it.
+MoonFile LoadMoonPicture(const QString& path);

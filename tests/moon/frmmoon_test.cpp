@@ -48,10 +48,10 @@ protected:
                                  static_cast<int>(image.height() * y))) > 128;
     }
 
-    void expectMissing() {
+    void expectMissing(const char* told = "File not found") {
         EXPECT_EQ(moon().windowTitle(), QStringLiteral("Moon"));
         EXPECT_EQ(m_messages.take(), QStringList{QDir::toNativeSeparators(bitmapPath()) +
-                                                 QStringLiteral("\r\n\r\nFile not found")});
+                                                 QStringLiteral("\r\n\r\n") + QLatin1String(told)});
         const QImage disc = drawn(14.8F);
         EXPECT_EQ(disc.pixelColor(disc.width() / 2, disc.height() / 2), QColor(255, 255, 192));
         EXPECT_FALSE(isLit(drawn(7.4F), 0.25, 0.5));
@@ -60,6 +60,12 @@ protected:
         processEvents();
     }
 };
+
+TEST_F(MoonWindowTest, APictureThatIsTooLargeIsToldAsSuch) {
+    writeBitmap();
+    ASSERT_TRUE(QFile::resize(bitmapPath(), 300'000'000));
+    expectMissing("The picture is too large.");
+}
 
 TEST_F(MoonWindowTest, SizesCaptionAndTip) {
     writeBitmap();

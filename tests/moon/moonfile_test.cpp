@@ -64,7 +64,7 @@ protected:
     QImage load(const QByteArray& file) const {
         const QString path = programPath(QStringLiteral("Moon.bmp"));
         writeFile(path, file);
-        return LoadMoonPicture(path);
+        return LoadMoonPicture(path).picture;
     }
 
     QImage load(const Bitmap& bitmap) const { return load(bitmap.file()); }
@@ -101,7 +101,7 @@ TEST_F(MoonFile, EveryFormIsReadAndIsRefusedWithItsLastPixelsMissing) {
 TEST_F(MoonFile, WhatIsNoFileIsNotOpened) {
     const QString path = programPath(QStringLiteral("Moon.bmp"));
     ASSERT_EQ(mkfifo(QFile::encodeName(path), 0600), 0); // opening it would wait for a writer
-    EXPECT_TRUE(LoadMoonPicture(path).isNull());
+    EXPECT_TRUE(LoadMoonPicture(path).picture.isNull());
 }
 
 TEST_F(MoonFile, MayHaveAQuarterOfAGigabyteAndNoMore) {
@@ -110,9 +110,28 @@ TEST_F(MoonFile, MayHaveAQuarterOfAGigabyteAndNoMore) {
     EXPECT_FALSE(load(small).isNull());
     const QString path = programPath(QStringLiteral("Moon.bmp"));
     ASSERT_TRUE(QFile::resize(path, most)); // with nothing behind the pixels
-    EXPECT_FALSE(LoadMoonPicture(path).isNull());
+    EXPECT_FALSE(LoadMoonPicture(path).picture.isNull());
+    EXPECT_FALSE(LoadMoonPicture(path).isTooLarge);
     ASSERT_TRUE(QFile::resize(path, most + 1));
-    EXPECT_TRUE(LoadMoonPicture(path).isNull());
+    EXPECT_TRUE(LoadMoonPicture(path).picture.isNull());
+    EXPECT_TRUE(LoadMoonPicture(path).isTooLarge);
+}
+
+// Runs of one colour, so that a small file has many pixels.
+TEST_F(MoonFile, MayHaveTheSquareOf8192PixelsAndNoMore) {
+    const QByteArray end("\0\1", 2);
+    for (const int height : {8192, 8193}) {
+        const QByteArray row =
+            QByteArray("\xFF\xFF", 2).repeated(32) + QByteArray("\x20\xFF\0\0", 4);
+        const Bitmap runs{.width = 8192,
+                          .height = height,
+                          .depth = 8,
+                          .compression = Rle8,
+                          .data = row.repeated(height) + end};
+        EXPECT_EQ(load(runs).isNull(), height > 8192) << height;
+        EXPECT_EQ(LoadMoonPicture(programPath(QStringLiteral("Moon.bmp"))).isTooLarge,
+                  height > 8192);
+    }
 }
 
 TEST_F(MoonFile, ASizeFieldHidesNoDamage) {
@@ -181,8 +200,9 @@ TEST_F(MoonFile, WhatIsNoBitmapIsNoPicture) {
     for (const QByteArray& file : {QByteArray(), QByteArray("BM"), QByteArray("not a bitmap"),
                                    QByteArray(100, '\0'), QByteArray(100, '\xFF')})
         EXPECT_TRUE(load(file).isNull());
-    EXPECT_TRUE(LoadMoonPicture(programPath(QStringLiteral("missing"))).isNull());
-    EXPECT_TRUE(LoadMoonPicture(m_folder.path()).isNull());
+    EXPECT_FALSE(LoadMoonPicture(programPath(QStringLiteral("Moon.bmp"))).isTooLarge);
+    EXPECT_TRUE(LoadMoonPicture(programPath(QStringLiteral("missing"))).picture.isNull());
+    EXPECT_TRUE(LoadMoonPicture(m_folder.path()).picture.isNull());
 }
 
 } // namespace
