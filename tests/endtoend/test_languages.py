@@ -1,9 +1,11 @@
 # SPDX-License-Identifier: MIT
 """Choosing a language, and language files of every condition."""
 
+import os
 import random
 import time
 
+from program import copy_program
 from testcase import EndToEndTest, monthly_title_of
 from windows import MONTHLY_TITLE
 
@@ -49,6 +51,17 @@ class German(EndToEndTest):
         self.settings.write({"Startup/Language": "German"})
         self.file.rename(self.file.with_name("GERMAN.LNG"))
         self.start_monthly(title=self.title)
+        self.assertEqual(self.program.message_boxes_seen(), 0)
+
+
+class FolderOfAnotherEncoding(EndToEndTest):
+    def install(self, folder):
+        return copy_program(self.built, folder / os.fsdecode(b"kalend\xe4r"))
+
+    def test_its_languages_and_its_moon_are_found(self):
+        title = monthly_title_of(self.program.folder / "German.lng")
+        self.settings.write({"Startup/Language": "German"})
+        self.start_monthly(title=title)
         self.assertEqual(self.program.message_boxes_seen(), 0)
 
 
