@@ -13,8 +13,14 @@ public:
     using Form::Form;
     int unloads = 0;
     bool visibleAtUnload = false;
+    int raises = 0;
 
 protected:
+    bool event(QEvent* event) override {
+        raises += static_cast<int>(event->type() == QEvent::ZOrderChange);
+        return Form::event(event);
+    }
+
     void Form_Unload() override {
         ++unloads;
         visibleAtUnload = isVisible();
@@ -121,6 +127,13 @@ TEST_F(Forms, ShowingBringsToTheFront) {
     ASSERT_TRUE(QTest::qWaitForWindowActive(&second));
     form->Show();
     EXPECT_TRUE(QTest::qWaitForWindowActive(form));
+}
+
+TEST_F(Forms, ShowingInFrontRaisesOneThatIsOpen) {
+    show();
+    form->raises = 0;
+    form->ShowInFront();
+    EXPECT_EQ(form->raises, 1);
 }
 
 TEST_F(Forms, ClosingUnloadsOnce) {

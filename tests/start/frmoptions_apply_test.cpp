@@ -30,6 +30,14 @@ TEST_F(Options, ApplyWithNothingChangedWritesItsValuesAndRedrawsNothing) {
     EXPECT_EQ(monthly->record.refilled, 0);
 }
 
+TEST_F(Options, ApplyLeavesNoYearWindowWithWhatIsFilledIn) {
+    open();
+    press("Option1_2");
+    apply();
+    for (int c = 1; c <= calendarCount; ++c)
+        EXPECT_EQ(years(c)->record.forgotten, 1) << "hidden, and shown again later: " << c;
+}
+
 TEST_F(Options, ReturnOnTheButtonApplies) {
     open();
     auto* button = child<CommandButton>(*dialog, "Command1_1");
