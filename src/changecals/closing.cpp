@@ -52,7 +52,7 @@ void ChangeCals::ExitProgram(int) {
     if (const MainWindow* window = ReadPositions()) {
         MsgBox(QStringLiteral("Overflow: the window “%1” stands too far out for its position to "
                               "be stored. No position was saved.")
-                   .arg(window->windowTitle()));
+                   .arg(Told(window->windowTitle())));
         LeaveProgram(1);
         return;
     }

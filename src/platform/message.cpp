@@ -8,6 +8,7 @@
 #include <QGridLayout>
 #include <QMessageBox>
 #include <QStyle>
+#include <algorithm>
 
 namespace {
 
@@ -27,6 +28,16 @@ void widenToTitle(QMessageBox& box) {
         layout->addItem(new QSpacerItem(titleBarWidth(box), 0), layout->rowCount(), 0, 1, -1);
 }
 
+constexpr std::size_t longestTold = 60; // letters
+
+char32_t seen(char32_t letter) {
+    constexpr char32_t controlPictures = 0x2400;
+    if (letter < U' ')
+        return controlPictures + letter;
+    const bool isBlank = QChar::isSpace(letter) && letter != U' ';
+    return QChar::isPrint(letter) && !isBlank ? letter : char32_t{QChar::ReplacementCharacter};
+}
+
 } // namespace
 
 void MsgBox(const QString& text, QWidget* owner) {
@@ -37,6 +48,15 @@ void MsgBox(const QString& text, QWidget* owner) {
     widenToTitle(box);
     const PointerShape normal(Qt::ArrowCursor); // also amid work under the hourglass
     box.exec();
+}
+
+QString Told(const QString& text) {
+    constexpr char32_t ellipsis = 0x2026;
+    std::u32string letters = text.toStdU32String();
+    if (letters.size() > longestTold)
+        letters.replace(longestTold, letters.npos, 1, ellipsis);
+    std::transform(letters.begin(), letters.end(), letters.begin(), seen);
+    return QString::fromStdU32String(letters);
 }
 
 QString WithEmptyLine(const QString& first, const QString& second) {

@@ -10,6 +10,10 @@ class QWidget;
 /// The box belongs to `owner`, or else to the window that has the keyboard.
 void MsgBox(const QString& text, QWidget* owner = nullptr);
 
+/// A text from outside as it is told: on one line, shortened, and with a sign in the
+/// place of each letter that cannot be seen.
+QString Told(const QString& text);
+
 /// Two texts with an empty line between them.
 QString WithEmptyLine(const QString& first, const QString& second);
 

@@ -10,17 +10,11 @@
 
 namespace {
 
-constexpr int longestTold = 60; // characters of a text that is no number
-
 bool told = false;
-
-QString shortened(const QString& text) {
-    return text.size() <= longestTold ? text : text.left(longestTold) + QChar(0x2026);
-}
 
 void tellNoNumber(const NumberSetting& row, const QString& text) {
     MsgBox(QStringLiteral("The stored setting is not a number from -32768 to 32767:") +
-           LineBreak() + QStringLiteral("[%1] %2=%3").arg(row.section, row.key, shortened(text)) +
+           LineBreak() + QStringLiteral("[%1] %2=%3").arg(row.section, row.key, Told(text)) +
            LineBreak() + LineBreak() + SettingsFile());
 }
 

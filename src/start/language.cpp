@@ -12,6 +12,7 @@
 #include "shared/texts.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QMap>
 
 namespace {
@@ -47,8 +48,10 @@ QMap<QString, QString> listedFiles() {
 // listed under it. Empty when there is none.
 QString languageFile(const QString& name) {
     const QString exact = name + suffix();
-    const bool exists = QDir(ProgramFolder()).entryList(QDir::Files).contains(exact);
-    return exists ? exact : listedFiles().value(ListedName(name));
+    const bool isInFolder = QFileInfo(exact).fileName() == exact;
+    return isInFolder && QFileInfo(ProgramFile(exact)).isFile()
+               ? exact
+               : listedFiles().value(ListedName(name));
 }
 
 template <int size>
@@ -83,7 +86,7 @@ void tellAndFallBack(const QString& path, const QString& what, std::string& name
 
 // Replaces the English texts by those of a language's file.
 void readLanguage(std::string& name) {
-    const QString asked = ProgramFile(Text(name) + suffix());
+    const QString asked = ProgramFile(Told(Text(name)) + suffix());
     const QString found = languageFile(Text(name));
     if (found.isEmpty()) {
         tellAndFallBack(asked, Text(StringTexts(FileNotFoundText)), name);

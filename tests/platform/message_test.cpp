@@ -85,6 +85,25 @@ TEST_F(Messages, TwoTextsStandWithAnEmptyLineBetween) {
               QStringLiteral("a\r\n\r\nb"));
 }
 
+TEST_F(Messages, ForeignTextsAreToldOnOneLineWithAllThatTheyHold) {
+    using namespace std::string_literals;
+    const struct {
+        std::u16string text;
+        std::u16string told;
+    } rows[] = {{u"", u""},
+                {u"a b; c=1", u"a b; c=1"},
+                {u"Русский 中 𐐀", u"Русский 中 𐐀"},
+                {u"a\nb\r\tc", u"a\u240Ab\u240D\u2409c"},
+                {u"a\0b"s, u"a\u2400b"},
+                {u"\u007F\u0085\u00A0", u"\uFFFD\uFFFD\uFFFD"},
+                {u"a\u2028b\u2029\u202E\u200B", u"a\uFFFDb\uFFFD\uFFFD\uFFFD"},
+                {std::u16string(60, u'x'), std::u16string(60, u'x')},
+                {std::u16string(61, u'x'), std::u16string(60, u'x') + u'\u2026'},
+                {std::u16string(4000, u'\n'), std::u16string(60, u'\u240A') + u'\u2026'}};
+    for (const auto& row : rows)
+        EXPECT_EQ(Told(QString::fromStdU16String(row.text)).toStdU16String(), row.told);
+}
+
 /// Keeps the window that a message belongs to.
 class OwnerWatch : public QObject {
 public:

@@ -2,6 +2,7 @@
 #include "platform/settingsstore.h"
 
 #include "support/platform_test.h"
+#include "support/usualrights.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -291,21 +292,6 @@ TEST_F(SettingsStore, TheFileKeepsItsPermissionsAndItsLink) {
     ASSERT_EQ(stat(QFile::encodeName(linked), &found), 0);
     EXPECT_EQ(found.st_mode & 07777U, 0600U);
 }
-
-/// Takes the rights of the superuser, who may read everything, from this process.
-class UsualRights {
-public:
-    UsualRights() { become(m_former == 0 ? nobody : m_former); }
-    ~UsualRights() { become(m_former); }
-    UsualRights(const UsualRights&) = delete;
-    UsualRights& operator=(const UsualRights&) = delete;
-
-private:
-    void become(uid_t user) const { EXPECT_EQ(setresuid(user, user, m_former), 0); }
-
-    static constexpr uid_t nobody = 65534;
-    const uid_t m_former = geteuid();
-};
 
 TEST_F(SettingsStore, AFolderThatCannotBeEnteredIsTold) {
     load("[Startup]\nWindow=1\n");

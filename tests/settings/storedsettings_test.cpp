@@ -39,7 +39,7 @@ protected:
 
     QStringList toldOf(const char* entry) const {
         return {QStringLiteral("The stored setting is not a number from -32768 to 32767:\r\n") +
-                QLatin1String(entry) + QStringLiteral("\r\n\r\n") +
+                QString::fromUtf8(entry) + QStringLiteral("\r\n\r\n") +
                 QDir::toNativeSeparators(m_path)};
     }
 
@@ -166,6 +166,20 @@ TEST_F(StoredSettings, ALongTextIsToldShortened) {
     QStringList expected = toldOf(entry.constData());
     expected.front().replace(QString(60, u'9'), QString(60, u'9') + QChar(0x2026));
     EXPECT_EQ(m_messages.take(), expected);
+}
+
+TEST_F(StoredSettings, WhatIsToldStandsOnOneLineAndIsWhole) {
+    store("[Startup]\nWindow=a" + QByteArray("\\n").repeated(59) + "\n");
+    EXPECT_FALSE(ReadSettings());
+    const QByteArray lines = "[Startup] Window=a" + QByteArray("\u240A").repeated(59);
+    EXPECT_EQ(m_messages.take(),
+              QStringList{QString::fromUtf8("The stored setting is not a number from -32768 to "
+                                            "32767:\r\n" +
+                                            lines + "\r\n\r\n" + m_path.toUtf8())});
+    store("[Startup]\nWindow=1\\x0z\n");
+    EXPECT_FALSE(ReadSettings());
+    EXPECT_EQ(m_messages.take(), toldOf("[Startup] Window=1"
+                                        "\u2400z"));
 }
 
 TEST_F(StoredSettings, AnUnclosedQuoteEndsWithItsLine) {

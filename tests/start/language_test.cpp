@@ -4,6 +4,7 @@
 #include "platform/profile.h"
 #include "shared/english.h"
 #include "support/texttables.h"
+#include "support/usualrights.h"
 #include "support/widget_test.h"
 
 #include <QDir>
@@ -146,6 +147,33 @@ TEST_F(Language, NamesThatLeaveTheFolderFindNothing) {
     writeFile(m_folder.filePath(QStringLiteral("x.lng")), "[STRINGS]\n1=x\n");
     for (const char* name : {"../x", "../program/x", "", "*", "?"})
         expectEnglishAfter(name, "File not found");
+}
+
+TEST_F(Language, ALongNameAndItsLineBreaksAreToldOnOneLine) {
+    const std::string breaks(3000, '\n');
+    EXPECT_EQ(load(breaks), englishLanguage);
+    const std::string name(4000, 'x');
+    EXPECT_EQ(load(name), englishLanguage);
+    const QString toldBreaks = QString(60, QChar(0x240A)) + QChar(0x2026);
+    const QString toldName = QString(60, u'x') + QChar(0x2026);
+    EXPECT_EQ(m_messages.take(), told(toldBreaks.toUtf8().constData(), "File not found") +
+                                     told(toldName.toUtf8().constData(), "File not found"));
+}
+
+TEST_F(Language, AFolderThatMayBeEnteredButNotListedHasItsFiles) {
+    writeLanguage("German.lng", "[STRINGS]\n1=x\n");
+    const QString folder = programPath(QString());
+    const auto enter = QFile::ExeOwner | QFile::ExeGroup | QFile::ExeOther;
+    ASSERT_TRUE(QFile::setPermissions(folder, enter));
+    ASSERT_TRUE(QFile::setPermissions(m_folder.path(), enter));
+    {
+        const UsualRights usual;
+        EXPECT_EQ(load("German"), "German");
+        EXPECT_EQ(StringTexts(1), "x");
+    }
+    const auto all = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
+    ASSERT_TRUE(QFile::setPermissions(m_folder.path(), all));
+    ASSERT_TRUE(QFile::setPermissions(folder, all));
 }
 
 TEST_F(Language, FilesInOtherCaseAreListedAndFound) {
