@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "changecals/closing.h"
 #include "changecals/windows.h"
 #include "platform/assistive.h"
 #include "platform/outlines.h"
 #include "platform/pictures.h"
 #include "platform/program.h"
-#include "platform/terminationsignals.h"
 #include "start/start.h"
 
 #include <QApplication>
@@ -29,10 +27,7 @@ int main(int argc, char* argv[]) {
     InstallOutlines();
     QApplication::setWindowIcon(Picture(QStringLiteral("icon"))); // of every window
     QApplication::setDesktopFileName(QStringLiteral("orvalen-years-calendar"));
-    const bool started = Start::Main();
-    // Until here there is nothing to close: the signals just end the process.
-    const TerminationSignals signals([] { ChangeCals::LeaveProgram(0); });
-    const int status = started ? QApplication::exec() : 1;
+    const int status = Start::Main() ? QApplication::exec() : 1;
     ChangeCals::EndRun();
     return status;
 }
