@@ -30,7 +30,7 @@ class Program:
         self.config = folder / "config"
         self.settings = SettingsFile(self.config / PROGRAM_TITLE / "settings.ini")
         self._command = [str(executable)]
-        self.more_environment = {}
+        self.more_environment = {}  # a name without a value is not set
         self._home = folder / "home"
         self._output = folder / "output.txt"
         self._process = None
@@ -77,6 +77,9 @@ class Program:
     def titles(self):
         """Of the windows that are open, sorted."""
         return sorted(window.title for window in self.managed_windows())
+
+    def output(self):
+        return self._output.read_text(encoding="utf-8", errors="replace").strip()
 
     def describe_windows(self):
         front = self.desktop.front_window()
@@ -135,8 +138,7 @@ class Program:
 
     def _describe_process(self):
         state = "running" if self.is_running() else f"ended with {self._process.returncode}"
-        output = self._output.read_text(encoding="utf-8", errors="replace").strip()
-        return f"program {state}, its output: {output or 'none'}"
+        return f"program {state}, its output: {self.output() or 'none'}"
 
     def _make_folders(self):
         for folder in (self.config, self._home, self._runtime_folder()):
@@ -146,12 +148,13 @@ class Program:
         return self._home.with_name("runtime")
 
     def _environment(self):
-        return self.desktop.environment() | {
+        environment = self.desktop.environment() | {
             "QT_QPA_PLATFORM": "xcb",
             "HOME": str(self._home),
             "XDG_CONFIG_HOME": str(self.config),
             "XDG_RUNTIME_DIR": str(self._runtime_folder()),
         } | self.more_environment
+        return {name: value for name, value in environment.items() if value is not None}
 
 
 def _link_or_copy(source, target):

@@ -5,6 +5,7 @@ import time
 
 from settings import position_names
 from testcase import EndToEndTest
+from waiting import wait_until
 from windows import MONTHLY_TITLE, YEAR_TITLES
 
 SHORTEST_SPLASH = 1.03  # seconds
@@ -82,6 +83,26 @@ class StartupWindow(EndToEndTest):
         while time.monotonic() < end:
             self.assertEqual(self.program.titles(), [])
             self.assertTrue(self.program.is_running(), self.program.describe_windows())
+
+
+class Session(EndToEndTest):
+    def test_where_x11_can_be_had_nothing_else_is_tried(self):
+        self.program.more_environment |= {"QT_QPA_PLATFORM": None, "XDG_SESSION_TYPE": "wayland",
+                                          "WAYLAND_DISPLAY": "none"}
+        self.start_monthly()
+        self.assertNotIn("wayland", self.program.output())
+
+    def test_lists_have_outlines_on_a_black_ground(self):
+        colours = "BackgroundNormal=0,0,0\nForegroundNormal=255,255,255\n"
+        groups = "".join(f"[Colors:{name}]\n{colours}" for name in ("Window", "View", "Button"))
+        (self.program.config / "kdeglobals").write_text(
+            f"{groups}[KDE]\nwidgetStyle=fusion\n", encoding="utf-8")
+        self.program.more_environment |= {"XDG_CURRENT_DESKTOP": "KDE", "KDE_FULL_SESSION": "true",
+                                          "KDE_SESSION_VERSION": "5"}
+        monthly = self.start_monthly()
+        edge = (monthly.PANE_LEFTS[0] - 2, monthly.PANE_TOP + 6, 6, 8)
+        wait_until(lambda: monthly.picture().count_lighter(100, *edge) >= 8,
+                   "the first list has an outline")
 
 
 class MissingMoonPicture(EndToEndTest):
