@@ -1,7 +1,8 @@
 # SPDX-License-Identifier: MIT
 """Fails unless the entry in the desktop's menu is valid, speaks every language of
-the program, and uses the program's own words, and the entry for software catalogues
-says in each language what it says in English."""
+the program, and uses the program's own words; the entry for software catalogues
+says in each language what it says in English, and names the languages as the front
+page does."""
 
 import json
 import pathlib
@@ -44,12 +45,14 @@ def validator_remarks():
 def wrong_words(entry, language, locale):
     """What the entry says in a locale in other words than the language's file."""
     words = read_entries((ROOT / "languages" / f"{language}.lng").read_text(encoding="utf-8"))
-    generic_name = entry.get(f"GenericName[{locale}]")
     keywords = entry.get(f"Keywords[{locale}]", "").split(";")
-    if generic_name != words[GENERIC_NAME]:
-        yield f"{language}: GenericName[{locale}] is not {words[GENERIC_NAME]}"
+    for word in [GENERIC_NAME, *KEYWORDS]:
+        if word not in words:
+            yield f"{language}.lng has no {word[1]} in [{word[0]}]"
+    if entry.get(f"GenericName[{locale}]") != words.get(GENERIC_NAME):
+        yield f"{language}: GenericName[{locale}] is not that of the program"
     for word in KEYWORDS:
-        if words[word] not in keywords:
+        if word in words and words[word] not in keywords:
             yield f"{language}: Keywords[{locale}] lacks {words[word]}"
     if not entry.get(f"Comment[{locale}]"):
         yield f"{language}: there is no Comment[{locale}]"
@@ -78,6 +81,18 @@ def unknown_locales(entry, locales):
             yield f"{key} is of a language that the program does not speak"
 
 
+def wrongly_told_languages(locales):
+    """Where other pages do not name the languages of the program, and no other."""
+    told = [tag.text for tag in xml.parse(CATALOGUE_ENTRY).iterfind("languages/lang")]
+    if sorted(told) != sorted(["en", *locales.values()]):
+        yield f"<languages> of {CATALOGUE_ENTRY.name} are {' '.join(told)}"
+    page = (ROOT / "README.md").read_text(encoding="utf-8")
+    listed = re.search(r"It speaks (.*?)\.", page, re.DOTALL)
+    named = re.split(r",\s+|\s+and\s+", listed[1]) if listed else []
+    if sorted(named) != sorted(["English", *locales]):
+        yield f"README.md says that the program speaks {' '.join(named) or 'nothing'}"
+
+
 def wrong_english(entry):
     """The English words and the names stand in the sources."""
     keywords = entry.get("Keywords", "").split(";")
@@ -98,7 +113,7 @@ def main():
                for language in sorted((ROOT / "languages").glob("*.lng"))
                if language.stem in cldr}
     faults = [*validator_remarks(), *wrong_english(entry),
-              *unknown_locales(entry, locales.values())]
+              *unknown_locales(entry, locales.values()), *wrongly_told_languages(locales)]
     for language, locale in locales.items():
         faults += wrong_words(entry, language, locale)
         faults += wrong_in_catalogue(entry, locale)
