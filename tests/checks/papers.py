@@ -1,8 +1,10 @@
 # SPDX-License-Identifier: MIT
 """Fails when the manual page or the entry for software catalogues gets a remark
-from its own reader."""
+from its own reader, or when the front page tells another number of answers than
+the page on verification."""
 
 import os
+import re
 import subprocess
 import sys
 
@@ -28,8 +30,23 @@ def remarks_on_manual_page():
     return done.stderr if done.returncode == 0 else f"{done.stderr}\nman cannot read the page"
 
 
+def number_in(path, pattern):
+    with open(path, encoding="utf-8") as page:
+        found = re.search(pattern, page.read())
+    return float(found[1].replace(",", "")) if found else 0.0
+
+
+def wrong_number_of_answers():
+    measured = number_in("docs/verification.md", r"([\d,]+) answers in all")
+    told = number_in("README.md", r"([\d.]+) million of its answers")
+    if told and told == round(measured / 1e6, 1):
+        return ""
+    return f"README.md tells {told} million answers, docs/verification.md {measured:,.0f}\n"
+
+
 def main():
-    remarks = (remarks_on_catalogue_entry() + remarks_on_manual_page()).strip()
+    remarks = (remarks_on_catalogue_entry() + remarks_on_manual_page() +
+               wrong_number_of_answers()).strip()
     print(remarks or "the papers are in order")
     sys.exit(1 if remarks else 0)
 
