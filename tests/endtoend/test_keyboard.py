@@ -10,6 +10,7 @@ from waiting import wait_until
 TABS_FROM_FIRST_GRID_TO_JULIAN_DAY = 24
 TABS_FROM_JULIAN_DAY_TO_FIRST_GRID = 9
 STOPS_OF_A_PANE = 6
+LEAP_DAY_OF_2024 = "2460370"
 MONTHS = ("January", "February", "March", "April", "May", "June", "July", "August",
           "September", "October", "November", "December")
 
@@ -44,9 +45,34 @@ class ByKeyboardAlone(EndToEndTest):
         self._press("ctrl+w")
         self.assert_ends_well()
 
-    def _enter_julian_day(self):
+    def test_a_typed_number_waits_for_nothing(self):
+        before = datetime.date.today()
+        self.start_monthly().wait_until_in_front()
+        self._type_julian_day(LEAP_DAY_OF_2024)
+        self._press(*["Tab"] * (TABS_FROM_JULIAN_DAY_TO_FIRST_GRID + STOPS_OF_A_PANE),
+                    "shift+Tab", "shift+Tab", "2", "0", "2", "8")
+        self._wait_for("Gregorian calendar: 29 February 2028")
+        self._press("Tab", "1")
+        self._wait_for("Gregorian calendar: 29 January 2028")
+        self._press("1", "ctrl+t")
+        self._wait_for_day_of_today(before)
+
+    def test_a_typed_julian_day_is_taken_on_the_way_to_the_options(self):
+        self.start_monthly().wait_until_in_front()
+        self._type_julian_day("2451545")
+        self._press("ctrl+comma")
+        options = self.program.options_window()
+        options.wait_until_in_front()
+        self._press("Return")
+        options.wait_until_gone()
+        self._wait_for("Gregorian calendar: 1 January 2000", "Julian Day: 2451545")
+
+    def _type_julian_day(self, number):
         self._press(*["Tab"] * TABS_FROM_FIRST_GRID_TO_JULIAN_DAY, "ctrl+a")
-        self.desktop.xdotool("type", "2451545")
+        self.desktop.xdotool("type", number)
+
+    def _enter_julian_day(self):
+        self._type_julian_day("2451545")
         self._press("Return")
         self._wait_for("Gregorian calendar: 1 January 2000", "Julian Day: 2451545")
 
