@@ -10,6 +10,7 @@ Form::Form(const QString& name) {
     setWindowRole(name); // by which a restored session tells the windows apart
     // Panes and columns keep their places whatever script the texts are in.
     setLayoutDirection(Qt::LeftToRight);
+    setWindowFlag(Qt::WindowMaximizeButtonHint, false);
 }
 
 int Form::Top() const {

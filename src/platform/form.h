@@ -6,7 +6,8 @@
 /// A window in the classic terms: loaded (constructed), shown, hidden, unloaded.
 /// Closing it through its frame unloads it: it is hidden at once, told by
 /// Form_Unload and destroyed when its events are done. Positions are those of
-/// the frame, sizes those of the contents, both in twips.
+/// the frame, sizes those of the contents, both in twips. Nobody resizes it but
+/// the program.
 class Form : public QWidget {
     Q_OBJECT
 

@@ -74,6 +74,12 @@ TEST_F(Forms, KeepTheirPlaceWhileHidden) {
     EXPECT_EQ(form->Top(), 450);
 }
 
+TEST_F(Forms, OfferNoMaximising) {
+    EXPECT_FALSE(form->windowFlags().testFlag(Qt::WindowMaximizeButtonHint));
+    EXPECT_TRUE(form->windowFlags().testFlag(Qt::WindowMinimizeButtonHint));
+    EXPECT_TRUE(form->windowFlags().testFlag(Qt::WindowCloseButtonHint));
+}
+
 TEST_F(Forms, CaptionsAreShownAsTheyStand) {
     form->SetCaption(QStringLiteral("a & b <i>c</i>"));
     EXPECT_EQ(form->windowTitle(), QStringLiteral("a & b <i>c</i>"));
