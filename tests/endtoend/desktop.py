@@ -65,6 +65,10 @@ class Desktop:
         stack = _window_numbers(_line(text, "_NET_CLIENT_LIST_STACKING"))
         return stack[-1] if stack and active == stack[-1:] else 0
 
+    def stack(self):
+        """The numbers of all windows, the lowest first."""
+        return _window_numbers(self._xprop("-root", "_NET_CLIENT_LIST_STACKING"))
+
     def has_popup(self, pid):
         """Whether a process has the list of a drop-down control open."""
         found = self.run("xdotool", "search", "--onlyvisible", "--pid", str(pid), check=False)

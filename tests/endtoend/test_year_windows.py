@@ -13,6 +13,17 @@ class YearCalendarsCommand(EndToEndTest):
         self.start_monthly().open_all_years()
         self.assert_titles([MONTHLY_TITLE, *YEAR_TITLES.values()])
 
+    def test_given_again_it_raises_those_that_are_open_in_the_same_order(self):
+        monthly = self.start_monthly()
+        years = monthly.open_all_years()
+        for window in (years["Jewish"], years["Julian"], years["Moslem"], monthly):
+            window.bring_to_front()
+        monthly.press_key("ctrl+y")
+        years["Julian"].wait_until_in_front()
+        stack = [years[calendar].number for calendar in reversed(CALENDARS)]
+        wait_until(lambda: self.desktop.stack()[-5:] == [monthly.number, *stack],
+                   "the year windows are above the monthly one", found=self.desktop.stack)
+
 
 class TwoWindows(EndToEndTest):
     """One window opens another and is closed; the other one remains, and its
