@@ -8,7 +8,9 @@
 
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QPainter>
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace {
@@ -91,7 +93,6 @@ void MSFlexGrid::SetCellFontBold(bool bold) {
 void MSFlexGrid::SetBackColor(int color) {
     QPalette colors = palette();
     colors.setColor(QPalette::Base, ToColor(color));
-    colors.setColor(QPalette::WindowText, frameColor); // the same on every theme
     setPalette(colors);
 }
 
@@ -205,11 +206,25 @@ void MSFlexGrid::keyPressEvent(QKeyEvent* event) {
         Q_EMIT MouseDown(Qt::LeftButton);
 }
 
-// The frame of the grid that has the focus is in the desktop's highlight colour.
-void MSFlexGrid::initStyleOption(QStyleOptionFrame* option) const {
-    QTableView::initStyleOption(option);
-    if (hasFocus())
-        option->palette.setColor(QPalette::WindowText, palette().color(QPalette::Highlight));
+// The event is the frame's; the cells have their own.
+bool MSFlexGrid::event(QEvent* event) {
+    if (event->type() != QEvent::Paint)
+        return QTableView::event(event);
+    paintFrame();
+    return true;
+}
+
+// Whole pixels of the screen, close around the cells: at a fractional scale the
+// toolkit would round each side by itself. With the focus it is in the desktop's
+// highlight colour, otherwise the same on every theme.
+void MSFlexGrid::paintFrame() {
+    QPainter painter(this);
+    const QTransform toScreen = painter.deviceTransform();
+    const double line = std::floor(toScreen.m11());
+    const QRectF cells = toScreen.mapRect(QRectF(viewport()->geometry()));
+    const QRectF whole(cells.topLeft().toPoint(), cells.bottomRight().toPoint());
+    painter.fillRect(toScreen.inverted().mapRect(whole.adjusted(-line, -line, line, line)),
+                     hasFocus() ? palette().color(QPalette::Highlight) : frameColor);
 }
 
 void MSFlexGrid::focusOutEvent(QFocusEvent* event) {

@@ -108,7 +108,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
-    void initStyleOption(QStyleOptionFrame* option) const override;
+    bool event(QEvent* event) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
     void selectionChanged(const QItemSelection& selected,
                           const QItemSelection& deselected) override;
@@ -118,6 +118,7 @@ private:
     const GridCell& currentCell() const { return m_model->Cell(m_row, m_column); }
     void changeCell(int row, int column, const GridCell& cell);
     void announceChanges();
+    void paintFrame();
     void repaintCells(const std::vector<QPoint>& cells);
     void showSelected(int row, int column);
     void moveCurrent(const QModelIndex& index);

@@ -65,6 +65,26 @@ protected:
     QLineEdit* other;
 };
 
+TEST_F(GridLook, TheFrameIsOneLineOnAllSidesAtAnyScale) {
+    window.resize(200, 200);
+    grid->move(1, 51);
+    other->setFocus();
+    for (const double scale : {1.0, 1.2, 1.25, 1.33, 1.5, 1.75}) {
+        QImage image(QSize(200, 200) * scale, QImage::Format_RGB32);
+        image.setDevicePixelRatio(scale);
+        window.render(&image);
+        const QPoint middle = (QPointF(grid->geometry().center()) * scale).toPoint();
+        const QPoint ways[] = {{1, 0}, {-1, 0}, {0, 1}, {0, -1}};
+        for (const QPoint way : ways) {
+            QPoint at = middle;
+            while (image.pixelColor(at) == QColor(192, 255, 255))
+                at += way;
+            EXPECT_EQ(image.pixelColor(at), QColor(120, 128, 152)) << scale;
+            EXPECT_NE(image.pixelColor(at + way), QColor(120, 128, 152)) << scale;
+        }
+    }
+}
+
 TEST_F(GridLook, TheFrameOfTheGridWithTheFocusIsHighlighted) {
     other->setFocus();
     const QColor before = picture().pixelColor(0, 30);
