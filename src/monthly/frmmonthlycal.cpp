@@ -137,7 +137,7 @@ void frmMonthlyCal::place() {
     const int right = ToPixels(PaneLeft(paneCount)) + Pane::width;
     m_line1->setGeometry(margin, bottom + gap, right - margin, 2 * gap);
     bottom = placeCommon(bottom + 3 * gap, right - margin);
-    setFixedSize(right + margin, bottom);
+    SetSize(ToTwips(right + margin), ToTwips(bottom));
 }
 
 // The commands stand beside what the calendars have in common where `width` has

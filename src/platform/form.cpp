@@ -4,6 +4,8 @@
 #include "platform/twips.h"
 
 #include <QCloseEvent>
+#include <cmath>
+#include <cstdlib>
 
 Form::Form(const QString& name) {
     setObjectName(name);
@@ -14,19 +16,24 @@ Form::Form(const QString& name) {
 }
 
 int Form::Top() const {
-    return ToTwips(pos().y());
+    return ToTwips(settled(pos().y(), m_put.y()));
 }
 
 int Form::Left() const {
-    return ToTwips(pos().x());
+    return ToTwips(settled(pos().x(), m_put.x()));
 }
 
 void Form::Move(int left, int top) {
-    move(ToPixels(left), ToPixels(top));
+    m_put = {ToPixels(left), ToPixels(top)};
+    move(m_put);
 }
 
+// At a fractional scale the desktop is told to resize in steps, by which it would
+// round the size down if they were not counted from the size itself.
 void Form::SetSize(int width, int height) {
-    setFixedSize(ToPixels(width), ToPixels(height));
+    const QSize size(ToPixels(width), ToPixels(height));
+    setBaseSize(size);
+    setFixedSize(size);
 }
 
 Form::State Form::WindowState() const {
@@ -63,6 +70,13 @@ void Form::Unload() {
     hide();
     Form_Unload();
     deleteLater();
+}
+
+// At a fractional scale the thickness of the desktop's frame is no whole number of
+// pixels, and a place can be read back one pixel beside where the frame was put.
+int Form::settled(int place, int put) const {
+    const bool fractional = devicePixelRatioF() != std::floor(devicePixelRatioF());
+    return fractional && std::abs(place - put) <= 1 ? put : place;
 }
 
 void Form::closeEvent(QCloseEvent* event) {

@@ -18,6 +18,8 @@ public:
 
     int Top() const;
     int Left() const;
+
+    /// The frame is where it was put until somebody moves it.
     void Move(int left, int top);
     void SetSize(int width, int height);
 
@@ -45,5 +47,8 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    int settled(int place, int put) const;
+
+    QPoint m_put; ///< where the frame was put last
     bool m_unloaded = false;
 };

@@ -5,6 +5,7 @@ from settings import WINDOW_SECTIONS, position
 from testcase import EndToEndTest
 
 CYCLES = 2
+SCALES = ("1.2", "1.33", "1.5", "1.75")
 PLACES = {section: (60 + 110 * number, 40 + 70 * number)
           for number, section in enumerate(WINDOW_SECTIONS)}
 
@@ -60,6 +61,28 @@ class KeepingPositions(EndToEndTest):
         moon = self.program.moon_window()
         moon.wait_until_in_front()
         return {"Monthly": monthly, "Moon": moon} | monthly.open_all_years()
+
+
+class FractionalScales(EndToEndTest):
+    """Nobody moves a window, and it stays where it was stored. The tests are made
+    below, one for each scale."""
+
+    def check_that_places_stay(self, scale):
+        self.program.more_environment = {"QT_SCALE_FACTOR": scale}
+        self.settings.write(position("Monthly", 31, 22) | position("Julian", 56, 21))
+        for _ in range(CYCLES):
+            monthly = self.start_monthly()
+            monthly.press_key("ctrl+y")
+            self.program.year_window("Julian").wait_until_in_front()
+            self.desktop.xdotool("key", "ctrl+q")
+            self.assert_ends_well()
+            self.assertEqual(self.settings.position("Monthly"), (31, 22))
+            self.assertEqual(self.settings.position("Julian"), (56, 21))
+
+
+for _scale in SCALES:
+    setattr(FractionalScales, f"test_places_stay_at_a_scale_of_{_scale.replace('.', '_')}",
+            lambda self, scale=_scale: self.check_that_places_stay(scale))
 
 
 class MinimisedAtExit(EndToEndTest):

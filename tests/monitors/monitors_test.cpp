@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // A desktop of two monitors, the primary one standing right of the other and
-// lower: x 1280 to 2304, y 100 to 900, beside x 0 to 1280, y 0 to 1000.
+// lower: x 1280 to 2304, y 100 to 900, beside x 0 to 1280, y 0 to 1000, which is
+// scaled by 125 %.
 #include "changecals/positions.h"
 #include "start/frmabout.h"
 #include "start/frmoptions.h"
@@ -40,6 +41,26 @@ TEST_F(Monitors, AStoredPlaceOnEitherIsKept) {
     const QPoint places[] = {{2100, 850}, {1300, 120}, {40, 950}, {2184, 10}, {-30, -20}};
     for (const QPoint& place : places)
         EXPECT_EQ(placeOfOneStoredAt(place), place);
+}
+
+// The desktop rounds the frame's thickness: one pixel beside is not moved.
+TEST_F(Monitors, AFrameIsWhereItWasPutUntilItIsMovedByMoreThanTheScaleRounds) {
+    const struct {
+        const char* monitor;
+        QPoint by;
+        QPoint told; // in twips
+    } rows[] = {{"second", {1, -1}, {600, 300}},  {"second", {-1, 1}, {600, 300}},
+                {"second", {2, 1}, {630, 300}},   {"second", {-1, -2}, {600, 270}},
+                {"primary", {1, -1}, {615, 285}}, {"primary", {0, 0}, {600, 300}}};
+    for (const auto& row : rows) {
+        Form form(QStringLiteral("frmTest"));
+        for (QScreen* screen : QGuiApplication::screens())
+            if (screen->name() == QLatin1String(row.monitor))
+                form.setScreen(screen);
+        form.Move(600, 300);
+        form.move(form.pos() + row.by);
+        EXPECT_EQ(QPoint(form.Left(), form.Top()), row.told) << row.monitor << row.by.x();
+    }
 }
 
 TEST_F(Monitors, APlaceBeyondTheWholeDesktopIsNone) {

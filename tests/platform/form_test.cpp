@@ -80,6 +80,12 @@ TEST_F(Forms, OfferNoMaximising) {
     EXPECT_TRUE(form->windowFlags().testFlag(Qt::WindowCloseButtonHint));
 }
 
+TEST_F(Forms, CountStepsOfSizeFromTheirSize) {
+    show();
+    form->SetSize(1515, 1500);
+    EXPECT_EQ(form->windowHandle()->baseSize(), QSize(101, 100));
+}
+
 TEST_F(Forms, CaptionsAreShownAsTheyStand) {
     form->SetCaption(QStringLiteral("a & b <i>c</i>"));
     EXPECT_EQ(form->windowTitle(), QStringLiteral("a & b <i>c</i>"));
