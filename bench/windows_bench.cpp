@@ -9,7 +9,6 @@
 #include "shared/flags.h"
 #include "shared/settings.h"
 #include "start/language.h"
-#include "start/rebuilding.h"
 #include "start/start.h"
 
 #include <QApplication>
@@ -213,8 +212,7 @@ void languageAppliedToAllWindows(benchmark::State& state) {
         std::string name = russian ? "Russian" : englishLanguage;
         LoadLanguage(name);
         ChangeCals::SetAllTexts();
-        ForgetFilledYears();
-        RebuildVisibleWindows();
+        ChangeCals::RebuildWindows({true, true, true, true});
         paint();
     }
     hideAll();

@@ -108,6 +108,39 @@ void ChangeCals::UpdateWindows() {
         LoadMoon().ReSetForm();
 }
 
+Table<bool, calendarCount> ChangeCals::ChangeRules(const Rules& before) {
+    Table<bool, calendarCount> changed;
+    if (MoslemType != before.moslemType) {
+        Calc::SetMoslemType();
+        Calc::JDToMoslem();
+        changed(Moslem) = true;
+    }
+    for (int c = 1; c <= calendarCount; ++c) {
+        if (FirstWeekDay(c) == before.firstWeekDay(c))
+            continue;
+        Calc::SetWeeks(c);
+        changed(c) = true;
+    }
+    return changed;
+}
+
+void ChangeCals::RebuildWindows(const Table<bool, calendarCount>& calendars) {
+    const bool any = calendars != Table<bool, calendarCount>();
+    const bool all = calendars == Table<bool, calendarCount>{true, true, true, true};
+    for (int c = 1; c <= calendarCount; ++c) {
+        if (YearWindow* window = LoadedYear(c))
+            window->ForgetYear();
+    }
+    if (any && IsVisible(MonthlyWindowNumber))
+        LoadMonthly().ReSetForm();
+    for (int c = 1; c <= calendarCount; ++c) {
+        if (calendars(c) && IsVisible(c))
+            redrawYear(c);
+    }
+    if (all && IsVisible(MoonWindowNumber))
+        LoadMoon().ReSetForm();
+}
+
 void ChangeCals::SetMoonAge() {
     WeekDayNo = Calc::WeekdayOf(CurJD);
     MoonAge = static_cast<float>(CurJD - meanNewMoon);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "shared/settings.h"
+
 /// Carries a change of the chosen day to all calendars and then to all windows.
 /// Nothing here checks ranges: the window that takes the user's input does.
 namespace ChangeCals {
@@ -16,9 +18,24 @@ void ChangeJD();
 /// `day` the chosen day in the tables only. The new choice then tells the windows.
 void MeasureFrom(int day);
 
+/// The user's choices by which days are derived.
+struct Rules {
+    int moslemType = MoslemType;
+    Table<int, calendarCount> firstWeekDay = FirstWeekDay;
+};
+
+/// MoslemType and FirstWeekDay were written: derives anew what is not as by the
+/// rules before, and tells of which calendars.
+Table<bool, calendarCount> ChangeRules(const Rules& before);
+
 /// Redraws what is visible: first the window named by CurrentWindow, which is
 /// then 0 again.
 void UpdateWindows();
+
+/// Texts or rules have changed: refills the visible windows that show one of the
+/// calendars marked, the moon where all of them are. Year windows refill all of their
+/// year when they are shown next.
+void RebuildWindows(const Table<bool, calendarCount>& calendars);
 
 /// Weekday, age and phase of the moon on the chosen day, by a mean lunation of
 /// 29.530588 days from a mean new moon on Julian Day 1720993.

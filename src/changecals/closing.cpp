@@ -56,7 +56,7 @@ void ChangeCals::ExitProgram(int) {
         LeaveProgram(1);
         return;
     }
-    SavePositions();
+    SaveSettings(SettingGroup::Positions);
     LeaveProgram(0);
 }
 

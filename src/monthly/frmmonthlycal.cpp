@@ -186,7 +186,8 @@ void frmMonthlyCal::exchangeCalendars(int pane, int c) {
     refill(pane);
     if (other != 0)
         refill(other);
-    SaveCalendarOrder(); // last: a message that it failed stands over a whole window
+    SaveSettings(
+        SettingGroup::PaneCalendars); // last: a message that it failed stands over a whole window
 }
 
 void frmMonthlyCal::refill(int pane) {

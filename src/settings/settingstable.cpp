@@ -5,67 +5,47 @@
 
 namespace {
 
-QString startup() {
-    return QStringLiteral("Startup");
-}
+using enum SettingGroup;
+
+const QString startup = QStringLiteral("Startup");
 
 // Of a main window by its number.
-QString windowSection(int window) {
-    static const Table<QString, mainWindowCount> sections{
-        QStringLiteral("Julian"), QStringLiteral("Gregorian"), QStringLiteral("Jewish"),
-        QStringLiteral("Moslem"), QStringLiteral("Monthly"),   QStringLiteral("Moon")};
-    return sections(window);
+const Table<QString, mainWindowCount> windowSections{
+    QStringLiteral("Julian"), QStringLiteral("Gregorian"), QStringLiteral("Jewish"),
+    QStringLiteral("Moslem"), QStringLiteral("Monthly"),   QStringLiteral("Moon")};
+
+void addPosition(std::vector<Setting>& rows, int window) {
+    const QString& section = windowSections(window);
+    const QString none = QString::number(noPosition);
+    rows.push_back({section, QStringLiteral("Top"), none, &FormTop(window), Positions});
+    rows.push_back({section, QStringLiteral("Left"), none, &FormLeft(window), Positions});
 }
 
-void addPosition(std::vector<NumberSetting>& rows, int window) {
-    rows.push_back(TopSetting(window));
-    rows.push_back(LeftSetting(window));
-}
-
-} // namespace
-
-NumberSetting CalendarSetting(int pane) {
-    return {startup(), QStringLiteral("Calendar%1").arg(pane), pane, &CalendarOrder(pane)};
-}
-
-NumberSetting FirstWeekDaySetting(int c) {
-    return {windowSection(c), QStringLiteral("FirstWeekDay"), Sunday, &FirstWeekDay(c)};
-}
-
-NumberSetting TopSetting(int window) {
-    return {windowSection(window), QStringLiteral("Top"), noPosition, &FormTop(window)};
-}
-
-NumberSetting LeftSetting(int window) {
-    return {windowSection(window), QStringLiteral("Left"), noPosition, &FormLeft(window)};
-}
-
-NumberSetting MoslemTypeSetting() {
-    return {windowSection(Moslem), QStringLiteral("Type"), 1, &MoslemType};
-}
-
-NumberSetting WindowSetting() {
-    return {startup(), QStringLiteral("Window"), 0, &StartupWindow};
-}
-
-NumberSetting ShowTipsSetting() {
-    return {startup(), QStringLiteral("ShowTips"), 1, &ShowTips};
-}
-
-TextSetting LanguageSetting() {
-    return {startup(), QStringLiteral("Language"), englishLanguage, &LanguageName};
-}
-
-std::vector<NumberSetting> NumberSettings() {
-    std::vector<NumberSetting> rows;
+std::vector<Setting> settings() {
+    std::vector<Setting> rows;
+    const auto add = [&rows](Setting row) { rows.push_back(std::move(row)); };
+    const auto text = [](int number) { return QString::number(number); };
     for (int pane = 1; pane <= paneCount; ++pane)
-        rows.push_back(CalendarSetting(pane));
+        add({startup, QStringLiteral("Calendar%1").arg(pane), text(pane), &CalendarOrder(pane),
+             PaneCalendars});
     for (int c = 1; c <= calendarCount; ++c) {
-        rows.push_back(FirstWeekDaySetting(c));
+        add({windowSections(c), QStringLiteral("FirstWeekDay"), text(Sunday), &FirstWeekDay(c),
+             Options, 2});
         addPosition(rows, c);
     }
     addPosition(rows, MonthlyWindowNumber);
     addPosition(rows, MoonWindowNumber);
-    rows.insert(rows.end(), {MoslemTypeSetting(), WindowSetting(), ShowTipsSetting()});
+    add({windowSections(Moslem), QStringLiteral("Type"), text(1), &MoslemType, Options, 1});
+    add({startup, QStringLiteral("Window"), text(0), &StartupWindow, Options, 4});
+    add({startup, QStringLiteral("Language"), QString::fromStdString(englishLanguage),
+         &LanguageName, Options, 3});
+    add({startup, QStringLiteral("ShowTips"), text(1), &ShowTips, Options, 5});
+    return rows;
+}
+
+} // namespace
+
+const std::vector<Setting>& Settings() {
+    static const std::vector<Setting> rows = settings();
     return rows;
 }

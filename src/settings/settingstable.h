@@ -3,34 +3,22 @@
 
 #include <QString>
 #include <string>
+#include <variant>
 #include <vector>
 
-// The table of the settings: where each is kept, what it is when absent, and
-// which of the shared values holds it. All are read by it; which are saved together,
-// and when, stands in storedsettings.
+/// Settings that are saved together.
+enum class SettingGroup { PaneCalendars, Options, Positions };
 
-struct NumberSetting {
+/// One setting: where it is kept, what it is when absent, which of the shared values
+/// holds it, and with which others it is saved. To add one is to add its row.
+struct Setting {
     QString section;
     QString key;
-    int standard;
-    int* value;
+    QString standard;
+    std::variant<int*, std::string*> value; ///< numbers have 16 bits
+    SettingGroup group;
+    int turn = 0; ///< among those of its group; the lowest is saved first
 };
 
-struct TextSetting {
-    QString section;
-    QString key;
-    std::string standard;
-    std::string* value;
-};
-
-NumberSetting CalendarSetting(int pane);
-NumberSetting FirstWeekDaySetting(int c);
-NumberSetting TopSetting(int window);
-NumberSetting LeftSetting(int window);
-NumberSetting MoslemTypeSetting();
-NumberSetting WindowSetting();
-NumberSetting ShowTipsSetting();
-TextSetting LanguageSetting();
-
-/// All numbers in the order in which they are read.
-std::vector<NumberSetting> NumberSettings();
+/// All settings in the order in which they are read.
+const std::vector<Setting>& Settings();

@@ -5,27 +5,38 @@
 #include "platform/numbers.h"
 #include "platform/settingsstore.h"
 #include "platform/text.h"
-#include "settings/settingstable.h"
 #include "shared/settings.h"
+
+#include <algorithm>
+#include <iterator>
 
 namespace {
 
 bool told = false;
 
-void tellNoNumber(const NumberSetting& row, const QString& text) {
+void tellNoNumber(const Setting& row, const QString& text) {
     MsgBox(QStringLiteral("The stored setting is not a number from -32768 to 32767:") +
            LineBreak() + QStringLiteral("[%1] %2=%3").arg(row.section, row.key, Told(text)) +
            LineBreak() + LineBreak() + SettingsFile());
 }
 
-bool readNumber(const NumberSetting& row) {
-    const QString text = GetSetting(row.section, row.key, QString::number(row.standard));
+bool take(const QString& text, std::string* value) {
+    *value = text.toStdString();
+    return true;
+}
+
+bool take(const QString& text, int* value) {
     const auto number = CInt(text);
-    if (number)
-        *row.value = *number;
-    else
-        tellNoNumber(row, text);
+    *value = number.value_or(*value);
     return number.has_value();
+}
+
+bool read(const Setting& row) {
+    const QString text = GetSetting(row.section, row.key, row.standard);
+    const bool taken = std::visit([&text](auto* value) { return take(text, value); }, row.value);
+    if (!taken)
+        tellNoNumber(row, text);
+    return taken;
 }
 
 bool isAcceptable(int pane) {
@@ -44,12 +55,21 @@ void checkCalendarOrder() {
     }
 }
 
-void saveNumber(const NumberSetting& row, int value) {
-    SaveSetting(row.section, row.key, QString::number(value));
+QString asText(const std::string* value) {
+    return Text(*value);
 }
 
-void saveNumber(const NumberSetting& row) {
-    saveNumber(row, *row.value);
+QString asText(const int* value) {
+    return QString::number(*value);
+}
+
+std::vector<Setting> rowsOf(SettingGroup group) {
+    std::vector<Setting> rows;
+    std::copy_if(Settings().begin(), Settings().end(), std::back_inserter(rows),
+                 [group](const Setting& row) { return row.group == group; });
+    std::stable_sort(rows.begin(), rows.end(),
+                     [](const Setting& a, const Setting& b) { return a.turn < b.turn; });
+    return rows;
 }
 
 void flushOrTell() {
@@ -65,38 +85,17 @@ bool ReadSettings() {
     told = false;
     if (!LoadSettings())
         MsgBox(WithEmptyLine(SettingsFile(), QStringLiteral("The settings cannot be read.")));
-    for (const NumberSetting& row : NumberSettings()) {
-        if (!readNumber(row))
+    for (const Setting& row : Settings()) {
+        if (!read(row))
             return false;
     }
     checkCalendarOrder();
-    const TextSetting language = LanguageSetting();
-    *language.value =
-        GetSetting(language.section, language.key, Text(language.standard)).toStdString();
     return true;
 }
 
-void SaveCalendarOrder() {
-    for (int pane = 1; pane <= paneCount; ++pane)
-        saveNumber(CalendarSetting(pane));
-    flushOrTell();
-}
-
-void SaveOptions(const StoredOptions& options) {
-    saveNumber(MoslemTypeSetting(), options.moslemType);
-    for (int c = 1; c <= calendarCount; ++c)
-        saveNumber(FirstWeekDaySetting(c), options.firstWeekDay(c));
-    const TextSetting language = LanguageSetting();
-    SaveSetting(language.section, language.key, Text(options.languageName));
-    saveNumber(WindowSetting(), options.startupWindow);
-    saveNumber(ShowTipsSetting(), options.showTips);
-    flushOrTell();
-}
-
-void SavePositions() {
-    for (int window = 1; window <= mainWindowCount; ++window) {
-        saveNumber(TopSetting(window));
-        saveNumber(LeftSetting(window));
-    }
+void SaveSettings(SettingGroup group) {
+    for (const Setting& row : rowsOf(group))
+        SaveSetting(row.section, row.key,
+                    std::visit([](auto* value) { return asText(value); }, row.value));
     flushOrTell();
 }

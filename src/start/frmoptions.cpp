@@ -2,6 +2,7 @@
 #include "start/frmoptions.h"
 
 #include "calc/calc.h"
+#include "changecals/changecals.h"
 #include "changecals/opening.h"
 #include "changecals/positions.h"
 #include "changecals/windows.h"
@@ -16,7 +17,6 @@
 #include "shared/texts.h"
 #include "start/dialogframe.h"
 #include "start/language.h"
-#include "start/rebuilding.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
@@ -47,7 +47,6 @@ frmOptions::frmOptions()
     : Dialog(QStringLiteral("frmOptions")),
       m_moslemType(MoslemType),
       m_firstWeekDay(FirstWeekDay),
-      m_language(LanguageName),
       m_paneCalendar(CalendarOrder) {
     Form_Load();
 }
@@ -218,7 +217,7 @@ CommandButton* frmOptions::newCommand(int index, const QString& picture, int tip
 // The present language may have no entry: its file may have gone meanwhile. Then
 // nothing is proposed in its place.
 void frmOptions::selectLanguage() {
-    const QString name = Text(m_language);
+    const QString name = Text(LanguageName);
     const auto match = Qt::MatchExactly | Qt::MatchCaseSensitive;
     const int exact = m_combo2->findText(name, match);
     m_combo2->SetListIndex(exact >= 0 ? exact : m_combo2->findText(ListedName(name), match));
@@ -232,74 +231,34 @@ void frmOptions::apply() {
     }
     {
         const HourglassPointer hourglass;
-        m_language = m_combo2->Text().toStdString();
-        if (m_combo3->ListIndex() >= 0)
-            StartupWindow = m_combo3->ListIndex();
-        save();
+        const Choices before;
+        writeChoices();
+        SaveSettings(SettingGroup::Options); // kept even if applying should fail
         ChangeCals::UnloadAbout();
-        ForgetFilledYears();
-        if (m_language != LanguageName)
-            applyNewLanguage();
-        else
-            applyOtherChanges();
+        applyChanges(before);
     }
     Unload();
 }
 
-// Stored before anything is applied, so that it is kept even if that fails.
-void frmOptions::save() const {
-    SaveOptions({.moslemType = m_moslemType,
-                 .firstWeekDay = m_firstWeekDay,
-                 .languageName = m_language,
-                 .startupWindow = StartupWindow,
-                 .showTips = m_check1->isChecked() ? 1 : 0});
-}
-
-// Also when the file turns out to be missing: the texts have then been read anew
-// all the same.
-void frmOptions::applyNewLanguage() {
-    LoadLanguage(m_language);
-    applyMoslemType();
-    applyFirstWeekDays();
-    LanguageName = m_language;
-    setShowTips();
-    ChangeCals::SetAllTexts();
-    RebuildVisibleWindows();
-}
-
-void frmOptions::applyOtherChanges() {
-    Table<bool, calendarCount> changed = applyFirstWeekDays();
-    if (applyMoslemType())
-        changed(Moslem) = true;
-    RebuildVisibleWindowsOf(changed);
-    if (setShowTips())
-        ChangeCals::SetAllTexts();
-}
-
-bool frmOptions::applyMoslemType() const {
-    if (m_moslemType == MoslemType)
-        return false;
+void frmOptions::writeChoices() {
     MoslemType = m_moslemType;
-    Calc::SetMoslemType();
-    Calc::JDToMoslem();
-    return true;
+    FirstWeekDay = m_firstWeekDay;
+    LanguageName = m_combo2->Text().toStdString();
+    if (m_combo3->ListIndex() >= 0)
+        StartupWindow = m_combo3->ListIndex();
+    ShowTips = m_check1->isChecked() ? 1 : 0;
 }
 
-Table<bool, calendarCount> frmOptions::applyFirstWeekDays() const {
-    Table<bool, calendarCount> changed;
-    for (int c = 1; c <= calendarCount; ++c) {
-        changed(c) = m_firstWeekDay(c) != FirstWeekDay(c);
-        if (!changed(c))
-            continue;
-        FirstWeekDay(c) = m_firstWeekDay(c);
-        Calc::SetWeeks(c);
-    }
-    return changed;
-}
-
-bool frmOptions::setShowTips() const {
-    const int chosen = m_check1->isChecked() ? 1 : 0;
-    const bool changed = chosen != ShowTips;
-    ShowTips = chosen;
-    return changed;
+// Of a language whose file turns out to be missing the texts have been read anew
+// all the same.
+void frmOptions::applyChanges(const Choices& before) {
+    const bool otherLanguage = LanguageName != before.languageName;
+    if (otherLanguage)
+        LoadLanguage(LanguageName);
+    Table<bool, calendarCount> changed = ChangeCals::ChangeRules(before.rules);
+    if (otherLanguage)
+        changed = {true, true, true, true};
+    if (otherLanguage || ShowTips != before.showTips)
+        ChangeCals::SetAllTexts();
+    ChangeCals::RebuildWindows(changed);
 }

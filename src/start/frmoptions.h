@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "changecals/changecals.h"
 #include "shared/calendars.h"
 #include "shared/settings.h"
 #include "shared/table.h"
@@ -25,6 +26,13 @@ protected:
     void Accept() override { apply(); }
 
 private:
+    /// What is compared to find out what changes.
+    struct Choices {
+        ChangeCals::Rules rules;
+        std::string languageName = LanguageName;
+        int showTips = ShowTips;
+    };
+
     /// Command1 by index.
     enum Command : int { Apply = 1, Close = 2 };
 
@@ -46,21 +54,14 @@ private:
     void selectLanguage();
 
     void apply();
-    void save() const;
-    void applyNewLanguage();
-    void applyOtherChanges();
-
-    /// These tell whether anything changed.
-    bool applyMoslemType() const;
-    Table<bool, calendarCount> applyFirstWeekDays() const;
-    bool setShowTips() const;
+    void writeChoices();
+    static void applyChanges(const Choices& before);
 
     int m_textWidth;   ///< of a line, in pixels
     int m_columnWidth; ///< of a line in one of two columns
 
     int m_moslemType;                         ///< pending
     Table<int, calendarCount> m_firstWeekDay; ///< pending, by calendar
-    std::string m_language;                   ///< pending
 
     Table<ComboBox*, paneCount> m_combo1; ///< first weekdays, by pane
     Table<int, paneCount> m_paneCalendar; ///< the calendar of each of them, as loaded

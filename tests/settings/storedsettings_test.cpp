@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "settings/storedsettings.h"
 
-#include "settings/settingstable.h"
+#include "platform/settingsstore.h"
 #include "support/judgement.h"
 #include "support/platform_test.h"
 #include "support/tables.h"
@@ -55,6 +55,12 @@ void fillWithOtherValues() {
     MoslemType = StartupWindow = 9;
     ShowTips = 0;
     LanguageName = "Other";
+}
+
+std::vector<Setting> numberSettings() {
+    std::vector<Setting> rows = Settings();
+    std::erase_if(rows, [](const Setting& row) { return row.key == u"Language"; });
+    return rows;
 }
 
 TEST_F(StoredSettings, AbsentOnesHaveTheirStandardValues) {
@@ -200,6 +206,26 @@ TEST_F(StoredSettings, AFolderInTheFilesPlaceIsToldAndTheStandardValuesHold) {
     EXPECT_EQ(LanguageName, "English (Default)");
 }
 
+TEST_F(StoredSettings, EachGroupIsSavedInItsOrder) {
+    fillWithOtherValues();
+    store("");
+    EXPECT_TRUE(LoadSettings());
+    SaveSettings(SettingGroup::Options);
+    EXPECT_EQ(readFile(m_path), "[Moslem]\nType=9\nFirstWeekDay=4\n\n[Julian]\nFirstWeekDay=1\n\n"
+                                "[Gregorian]\nFirstWeekDay=2\n\n[Jewish]\nFirstWeekDay=3\n\n"
+                                "[Startup]\nLanguage=Other\nWindow=9\nShowTips=0\n");
+    store("");
+    EXPECT_TRUE(LoadSettings());
+    SaveSettings(SettingGroup::PaneCalendars);
+    EXPECT_EQ(readFile(m_path), "[Startup]\nCalendar1=4\nCalendar2=3\nCalendar3=2\nCalendar4=1\n");
+    store("");
+    EXPECT_TRUE(LoadSettings());
+    SaveSettings(SettingGroup::Positions);
+    EXPECT_EQ(readFile(m_path), "[Julian]\nTop=1\nLeft=1\n\n[Gregorian]\nTop=1\nLeft=1\n\n"
+                                "[Jewish]\nTop=1\nLeft=1\n\n[Moslem]\nTop=1\nLeft=1\n\n"
+                                "[Monthly]\nTop=1\nLeft=1\n\n[Moon]\nTop=1\nLeft=1\n");
+}
+
 // The number that each is read as; nothing where it is refused.
 TEST_F(StoredSettings, EveryNumberWithstandsHostileTexts) {
     const std::pair<QByteArray, std::optional<int>> texts[] = {
@@ -208,19 +234,20 @@ TEST_F(StoredSettings, EveryNumberWithstandsHostileTexts) {
         {"1,5", {}},      {"1 2", {}},        {"--1", {}},    {"\xFF\xFE", {}},
         {"\"\"", {}},     {"@Invalid()", {}}, {"%n%s%d", {}}, {QByteArray(5000, '9'), {}},
         {"32767", 32767}, {"-32768", -32768}, {" \"7\" ", 7}, {"2.5", 2}};
-    for (const NumberSetting& row : NumberSettings()) {
+    for (const Setting& row : numberSettings()) {
         for (const auto& [text, number] : texts) {
-            *row.value = 77;
+            int& value = *std::get<int*>(row.value);
+            value = 77;
             store('[' + row.section.toUtf8() + "]\n" + row.key.toUtf8() + '=' + text + '\n');
             EXPECT_EQ(ReadSettings(), number.has_value()) << row.key.toStdString() << text.data();
             EXPECT_EQ(m_messages.take().size(), number ? 0 : 1) << text.data();
             const bool isOrder = row.key.startsWith(QStringLiteral("Calendar")); // checked besides
-            EXPECT_TRUE(isOrder || *row.value == number.value_or(77))
+            EXPECT_TRUE(isOrder || value == number.value_or(77))
                 << row.key.toStdString() << text.data();
         }
     }
     recordWithstood("hostile texts in place of a stored number",
-                    std::ssize(NumberSettings()) * std::ssize(texts));
+                    std::ssize(numberSettings()) * std::ssize(texts));
 }
 
 TEST_F(StoredSettings, AFileCutAnywhereIsReadOrToldAndCanBeSaved) {
@@ -230,7 +257,7 @@ TEST_F(StoredSettings, AFileCutAnywhereIsReadOrToldAndCanBeSaved) {
         store(lines.left(size));
         const bool read = ReadSettings();
         EXPECT_EQ(m_messages.take().size(), read ? 0 : 1) << size;
-        SaveCalendarOrder();
+        SaveSettings(SettingGroup::PaneCalendars);
         EXPECT_TRUE(readFile(m_path).contains("Calendar4=")) << size;
     }
     recordWithstood("a settings file cut at each of its bytes", lines.size() + 1);
@@ -238,11 +265,11 @@ TEST_F(StoredSettings, AFileCutAnywhereIsReadOrToldAndCanBeSaved) {
 
 TEST_F(StoredSettings, AnUnwritableFileIsToldOnceARun) {
     writeFile(m_folder.filePath(QStringLiteral("config")), "in the way");
-    SaveCalendarOrder();
-    SavePositions();
+    SaveSettings(SettingGroup::PaneCalendars);
+    SaveSettings(SettingGroup::Positions);
     EXPECT_EQ(m_messages.take().size(), 1);
     EXPECT_TRUE(ReadSettings());
-    SavePositions();
+    SaveSettings(SettingGroup::Positions);
     EXPECT_EQ(m_messages.take().size(), 1) << "another run";
 }
 
