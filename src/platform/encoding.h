@@ -17,6 +17,6 @@ bool IsUtf8(const QByteArray& bytes);
 int CodePageOf(const QLocale& locale);
 int UserCodePage();
 
-/// Bytes of a Windows code page as text; what has no meaning there becomes the
-/// replacement character.
+/// Bytes of a Windows code page as text; what has no meaning there becomes a control
+/// or the replacement character, as on Windows itself.
 QString FromCodePage(const QByteArray& bytes, int codePage);

@@ -6,12 +6,12 @@
 namespace {
 
 // The characters of the bytes 0x80..0xFF as the Unicode Consortium's mapping
-// tables have them.
+// tables have them; where those have none below 0xA0, the controls of these numbers.
 // clang-format off
 constexpr char16_t cyrillic[] =
     u"\u0402\u0403\u201A\u0453\u201E\u2026\u2020\u2021\u20AC\u2030\u0409\u2039"
     u"\u040A\u040C\u040B\u040F\u0452\u2018\u2019\u201C\u201D\u2022\u2013\u2014"
-    u"\uFFFD\u2122\u0459\u203A\u045A\u045C\u045B\u045F\u00A0\u040E\u045E\u0408"
+    u"\x0098\u2122\u0459\u203A\u045A\u045C\u045B\u045F\u00A0\u040E\u045E\u0408"
     u"\u00A4\u0490\u00A6\u00A7\u0401\u00A9\u0404\u00AB\u00AC\u00AD\u00AE\u0407"
     u"\u00B0\u00B1\u0406\u0456\u0491\u00B5\u00B6\u00B7\u0451\u2116\u0454\u00BB"
     u"\u0458\u0405\u0455\u0457\u0410\u0411\u0412\u0413\u0414\u0415\u0416\u0417"
@@ -21,9 +21,9 @@ constexpr char16_t cyrillic[] =
     u"\u043C\u043D\u043E\u043F\u0440\u0441\u0442\u0443\u0444\u0445\u0446\u0447"
     u"\u0448\u0449\u044A\u044B\u044C\u044D\u044E\u044F";
 constexpr char16_t western[] =
-    u"\u20AC\uFFFD\u201A\u0192\u201E\u2026\u2020\u2021\u02C6\u2030\u0160\u2039"
-    u"\u0152\uFFFD\u017D\uFFFD\uFFFD\u2018\u2019\u201C\u201D\u2022\u2013\u2014"
-    u"\u02DC\u2122\u0161\u203A\u0153\uFFFD\u017E\u0178\u00A0\u00A1\u00A2\u00A3"
+    u"\u20AC\x0081\u201A\u0192\u201E\u2026\u2020\u2021\u02C6\u2030\u0160\u2039"
+    u"\u0152\x008D\u017D\x008F\x0090\u2018\u2019\u201C\u201D\u2022\u2013\u2014"
+    u"\u02DC\u2122\u0161\u203A\u0153\x009D\u017E\u0178\u00A0\u00A1\u00A2\u00A3"
     u"\u00A4\u00A5\u00A6\u00A7\u00A8\u00A9\u00AA\u00AB\u00AC\u00AD\u00AE\u00AF"
     u"\u00B0\u00B1\u00B2\u00B3\u00B4\u00B5\u00B6\u00B7\u00B8\u00B9\u00BA\u00BB"
     u"\u00BC\u00BD\u00BE\u00BF\u00C0\u00C1\u00C2\u00C3\u00C4\u00C5\u00C6\u00C7"
@@ -33,9 +33,9 @@ constexpr char16_t western[] =
     u"\u00EC\u00ED\u00EE\u00EF\u00F0\u00F1\u00F2\u00F3\u00F4\u00F5\u00F6\u00F7"
     u"\u00F8\u00F9\u00FA\u00FB\u00FC\u00FD\u00FE\u00FF";
 constexpr char16_t hebrew[] =
-    u"\u20AC\uFFFD\u201A\u0192\u201E\u2026\u2020\u2021\u02C6\u2030\uFFFD\u2039"
-    u"\uFFFD\uFFFD\uFFFD\uFFFD\uFFFD\u2018\u2019\u201C\u201D\u2022\u2013\u2014"
-    u"\u02DC\u2122\uFFFD\u203A\uFFFD\uFFFD\uFFFD\uFFFD\u00A0\u00A1\u00A2\u00A3"
+    u"\u20AC\x0081\u201A\u0192\u201E\u2026\u2020\u2021\u02C6\u2030\x008A\u2039"
+    u"\x008C\x008D\x008E\x008F\x0090\u2018\u2019\u201C\u201D\u2022\u2013\u2014"
+    u"\u02DC\u2122\x009A\u203A\x009C\x009D\x009E\x009F\u00A0\u00A1\u00A2\u00A3"
     u"\u20AA\u00A5\u00A6\u00A7\u00A8\u00A9\u00D7\u00AB\u00AC\u00AD\u00AE\u00AF"
     u"\u00B0\u00B1\u00B2\u00B3\u00B4\u00B5\u00B6\u00B7\u00B8\u00B9\u00F7\u00BB"
     u"\u00BC\u00BD\u00BE\u00BF\u05B0\u05B1\u05B2\u05B3\u05B4\u05B5\u05B6\u05B7"
@@ -140,8 +140,8 @@ TEST(CodePage, PointsOfHebrewLettersStayCharactersOfTheirOwn) {
         EXPECT_EQ(text.at(i).unicode(), characters[i]) << i;
 }
 
-TEST(CodePage, UnknownCodePagesGiveReplacementCharacters) {
-    EXPECT_EQ(FromCodePage("ab", 99999), QString(2, QChar::ReplacementCharacter));
+TEST(CodePage, AnUnknownCodePageIsTheSystems) {
+    EXPECT_EQ(FromCodePage("ab \xC3\xA4", 99999), QString::fromUtf8("ab ä"));
     EXPECT_EQ(FromCodePage("", 1251), QString());
 }
 
