@@ -15,7 +15,7 @@ std::function<bool()> replacedPositions;
 // A folder whose name is not UTF-8 has no name for the toolkit: it is kept open, and
 // reached by that.
 QString findFolder() {
-    const QString named = QCoreApplication::applicationDirPath();
+    QString named = QCoreApplication::applicationDirPath();
     if (QFileInfo::exists(named))
         return named;
     std::error_code none;

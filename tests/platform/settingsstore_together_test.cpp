@@ -15,7 +15,8 @@ bool syncFails = false;
 
 } // namespace
 
-// In the C library's place.
+// In the C library's place, whose own name of the parameter is a reserved one.
+// NOLINTNEXTLINE(readability-inconsistent-declaration-parameter-name)
 extern "C" int fsync(int file) {
     ++synced;
     if (syncFails) {
