@@ -86,7 +86,7 @@ void ChangeCals::ChangeJD() {
     UpdateWindows();
 }
 
-void ChangeCals::MeasureFrom(int day) {
+void ChangeCals::DeriveDay(int day) {
     if (day == CurJD)
         return;
     CurJD = day;

@@ -14,9 +14,9 @@ void ChangeCal(int c);
 /// The same after CurJD was written.
 void ChangeJD();
 
-/// A choice that replaces an earlier one is measured from the day before that: makes
-/// `day` the chosen day in the tables only. The new choice then tells the windows.
-void MeasureFrom(int day);
+/// Makes `day` the chosen day in the tables only, and leaves the moon. From there a
+/// choice that replaces an earlier one is measured; it then tells the windows.
+void DeriveDay(int day);
 
 /// The user's choices by which days are derived.
 struct Rules {

@@ -27,7 +27,7 @@ void Controls::ChooseYearOf(const ComboBox& list, int c, int window) {
     const int year = list.ListIndex() + MinYear(c);
     if (Updating || list.ListCount() < 2 || year == CurDate(c, Year))
         return;
-    ChangeCals::MeasureFrom(list.Origin());
+    ChangeCals::DeriveDay(list.Origin());
     CurDate(c, Year) = year;
     CurrentWindow = window;
     ChangeCals::ChangeCal(c);

@@ -116,7 +116,7 @@ void Pane::Combo3_Click() {
     const int month = m_combo3->ListIndex() + 1;
     if (Updating || m_combo3->ListCount() < 2 || month == CurDate(c, Month))
         return;
-    ChangeCals::MeasureFrom(m_combo3->Origin());
+    ChangeCals::DeriveDay(m_combo3->Origin());
     CurDate(c, Month) = month;
     ChangeCals::ChangeCal(c);
 }
@@ -134,7 +134,7 @@ void Pane::Combo5_Click() {
     const double week = Val(m_combo5->Text());
     if (Updating || week == CurDate(c, WeekNumber))
         return;
-    ChangeCals::MeasureFrom(m_combo5->Origin());
+    ChangeCals::DeriveDay(m_combo5->Origin());
     const double weeks = week - CurDate(c, WeekNumber);
     const int sameWeekday = CLng(weeks * daysInWeek + CurJD).value_or(CurJD);
     CurJD = std::clamp(sameWeekday, YearJD(c, FirstDay), YearJD(c, LastDay));
