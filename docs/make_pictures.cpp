@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 // Draws the pictures of the documentation into a folder: the program's windows,
 // as they are on a screen at 200 %, on 20 November 2026 with the standard
-// settings, and the phases of the moon.
+// settings, what it prints then, and the phases of the moon.
 #include "changecals/opening.h"
 #include "changecals/windows.h"
 #include "moonsheets.h"
 #include "partsheet.h"
 #include "platform/clock.h"
+#include "printing/pages.h"
 #include "shared/calendars.h"
 #include "shared/look.h"
 #include "start/frmabout.h"
@@ -14,6 +15,8 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QPageLayout>
+#include <QPainter>
 #include <QStyle>
 #include <QTemporaryDir>
 #include <cstdio>
@@ -79,6 +82,26 @@ QImage splash() {
     return WindowSheet(splash);
 }
 
+/// A page on A4 as it is printed, with a thin frame around it.
+QImage paper(const Printing::Page& page) {
+    constexpr int dotsInInch = 600;
+    constexpr double dotsInMetre = dotsInInch / 0.0254;
+    constexpr int width = 1240;
+    const QPageLayout layout(QPageSize(QPageSize::A4), QPageLayout::Portrait, {});
+    QImage drawn(layout.fullRectPixels(dotsInInch).size(), QImage::Format_Grayscale8);
+    drawn.setDotsPerMeterX(qRound(dotsInMetre));
+    drawn.setDotsPerMeterY(qRound(dotsInMetre));
+    drawn.fill(Qt::white);
+    QPainter onPaper(&drawn);
+    Printing::Paint(page, onPaper, layout);
+    onPaper.end();
+    QImage sheet = drawn.scaledToWidth(width, Qt::SmoothTransformation);
+    QPainter painter(&sheet);
+    painter.setPen(Qt::gray);
+    painter.drawRect(sheet.rect().adjusted(0, 0, -1, -1));
+    return sheet;
+}
+
 void showWindows() {
     ChangeCals::OpenYearWindow(Gregorian);
     ChangeCals::OpenYearWindow(Jewish);
@@ -100,6 +123,8 @@ bool saveAll(const QDir& folder) {
            save(yearParts(Gregorian), "year-parts.png") &&
            save(yearParts(Jewish), "jewish-year-parts.png") &&
            save(moonParts(), "moon-parts.png") && save(optionsParts(), "options-parts.png") &&
+           save(paper(Printing::YearPage(Jewish)), "year-on-paper.png") &&
+           save(paper(Printing::MonthPage(Gregorian)), "month-on-paper.png") &&
            save(aboutParts(), "about-parts.png") && save(splash(), "splash.png") &&
            save(MoonCasesSheet(), "moon-cases.png") && save(LunationSheet(), "moon-lunation.png");
 }

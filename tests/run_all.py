@@ -19,7 +19,7 @@ ASAN = ROOT / "build" / "asan"
 BENCH = ROOT / "build" / "bench"
 PROGRAM = BENCH / "bin"
 ROOMS = ["monthly", "controls", "changecals", "yearcals", "start", "platform", "settings",
-         "calc", "moon", "shared"]
+         "calc", "moon", "shared", "printing"]
 TESTED = ["endurance", *ROOMS, "monitors"]
 LINTED = ["src/platform", "src", *[f"src/{room}" for room in sorted(ROOMS) if room != "platform"],
           "assets/moonpicture"]

@@ -72,6 +72,10 @@ Form& ChangeCals::LoadAbout() {
     return loaded(about, make.about);
 }
 
+void ChangeCals::Print(Paper paper, int c) {
+    make.print(paper, c);
+}
+
 MainWindow* ChangeCals::LoadedWindow(int number) {
     if (number == MoonWindowNumber)
         return isLoaded(moon) ? moon.data() : nullptr;

@@ -72,15 +72,19 @@ public:
     virtual void ReSetForm() = 0;
 };
 
+/// What can be printed of a calendar: the year or the month of the chosen day.
+enum class Paper { Year, Month };
+
 namespace ChangeCals {
 
-/// Make a window, loaded but not shown.
+/// Make a window, loaded but not shown; the last one prints.
 struct WindowFactories {
     std::function<MonthlyWindow*()> monthly;
     std::function<YearWindow*(int c)> year;
     std::function<MoonWindow*()> moon;
     std::function<Form*()> options;
     std::function<Form*()> about;
+    std::function<void(Paper paper, int c)> print;
 };
 
 /// A run of the program begins: its windows are made by these, and nothing is
@@ -96,6 +100,10 @@ YearWindow& LoadYear(int c);
 MoonWindow& LoadMoon();
 Form& LoadOptions();
 Form& LoadAbout();
+
+/// Has the user choose a printer or a file, and prints. Beeps where c is no
+/// calendar or cannot show the chosen day.
+void Print(Paper paper, int c);
 
 /// A main window by its number (1..6), nullptr while it is not loaded.
 MainWindow* LoadedWindow(int number);

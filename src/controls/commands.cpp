@@ -27,6 +27,7 @@ constexpr Key keys[] = {
     {Qt::CTRL | Qt::Key_Comma, Command::Options},
     {Qt::Key_F1, Command::About},
     {Qt::CTRL | Qt::Key_C, Command::CopyDay},
+    {Qt::CTRL | Qt::Key_P, Command::Print},
     {Qt::CTRL | Qt::Key_W, Command::Close},
     {Qt::CTRL | Qt::Key_Q, Command::Exit},
 };
@@ -53,8 +54,9 @@ Look lookOf(Command command) {
 
 } // namespace
 
-Commands::Commands(Form& window, int number, std::function<void()> close)
-    : m_number(number), m_close(std::move(close)) {
+Commands::Commands(Form& window, int number, std::function<void()> close,
+                   std::function<void()> print)
+    : m_number(number), m_close(std::move(close)), m_print(std::move(print)) {
     addKeys(window);
 }
 
@@ -72,6 +74,8 @@ void Commands::Run(Command command) const {
         return ChangeCals::ShowAbout();
     case Command::CopyDay:
         return QGuiApplication::clipboard()->setText(Controls::ChosenDayInWords());
+    case Command::Print:
+        return m_print();
     case Command::Close:
         return m_close();
     case Command::Exit:

@@ -14,6 +14,7 @@ enum class Command {
     Options,         ///< Ctrl+comma
     About,           ///< F1
     CopyDay,         ///< Ctrl+C, the chosen day in words
+    Print,           ///< Ctrl+P, in calendar windows
     Close,           ///< Ctrl+W
     Exit,            ///< Ctrl+Q
 };
@@ -22,8 +23,9 @@ enum class Command {
 class Commands {
 public:
     /// `number` is the window's as CurrentWindow has it, 0 for a window that shows
-    /// no calendar; `close` is what Close does there.
-    Commands(Form& window, int number, std::function<void()> close);
+    /// no calendar; `close` and `print` are what Close and Print do there.
+    Commands(
+        Form& window, int number, std::function<void()> close, std::function<void()> print = [] {});
 
     Commands(const Commands&) = delete;
     Commands& operator=(const Commands&) = delete;
@@ -44,4 +46,5 @@ private:
 
     int m_number;
     std::function<void()> m_close;
+    std::function<void()> m_print;
 };

@@ -41,10 +41,14 @@ const Table<Command, commandCount> commands{Command::YearCalendars, Command::Tod
 } // namespace
 
 frmMonthlyCal::frmMonthlyCal()
-    : MonthlyWindow(QStringLiteral("frmMonthlyCal")), m_commands(*this, 0, [this] {
-          m_common->JulianDay()->Leave();
-          ChangeCals::CloseWindow(*this);
-      }) {
+    : MonthlyWindow(QStringLiteral("frmMonthlyCal")),
+      m_commands(
+          *this, 0,
+          [this] {
+              m_common->JulianDay()->Leave();
+              ChangeCals::CloseWindow(*this);
+          },
+          [this] { ChangeCals::Print(Paper::Month, calendarToPrint()); }) {
     for (int c = 1; c <= calendarCount; ++c)
         m_image1(c) = new Image(QStringLiteral("Image1_%1").arg(c), Controls::EmblemOf(c), this);
     for (int pane = 1; pane <= paneCount; ++pane) {
@@ -117,6 +121,19 @@ void frmMonthlyCal::Command1_Click(int index) {
 
 void frmMonthlyCal::Command1_MouseDown(int index, Qt::MouseButton button) {
     m_commands.MouseDown(commands(index), button);
+}
+
+// That of the pane with the focus, else of the first pane, as far as they show the
+// chosen day.
+int frmMonthlyCal::calendarToPrint() const {
+    int first = 0;
+    for (int pane = paneCount; pane >= 1; --pane) {
+        if (m_panes(pane)->ShowsDay())
+            first = CalendarOrder(pane);
+        if (m_panes(pane)->ShowsDay() && m_panes(pane)->HasFocus())
+            return CalendarOrder(pane);
+    }
+    return first;
 }
 
 void frmMonthlyCal::createCommands() {

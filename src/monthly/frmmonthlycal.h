@@ -38,6 +38,7 @@ private:
     void Command1_Click(int index);
     void Command1_MouseDown(int index, Qt::MouseButton button);
 
+    int calendarToPrint() const;
     void createCommands();
     void place();
     int placeCommon(int top, int width);

@@ -89,6 +89,17 @@ void Pane::SetCal() {
     setAvailable();
 }
 
+bool Pane::ShowsDay() const {
+    const int c = calendar();
+    return IsCalendar(c) && !Calc::IsBeforeRange(c) && !Calc::IsAfterRange(c);
+}
+
+bool Pane::HasFocus() const {
+    const QWidget* focus = m_grid->window()->focusWidget();
+    const QWidget* const controls[] = {m_combo1, m_combo2, m_combo3, m_grid, m_combo4, m_combo5};
+    return std::find(std::begin(controls), std::end(controls), focus) != std::end(controls);
+}
+
 void Pane::SetTexts() {
     const auto setTip = [this](QWidget* control, int text) {
         Controls::SetTip(control, Text(StringTexts(text)), calendar());
@@ -174,7 +185,7 @@ void Pane::showOnlyChosenDay() {
 void Pane::setAvailable() {
     const int c = calendar();
     const bool visible = IsCalendar(c) && !Calc::IsBeforeRange(c);
-    const bool enabled = visible && !Calc::IsAfterRange(c);
+    const bool enabled = ShowsDay();
     SetAvailable(*m_grid, visible, enabled, *m_combo1);
     QWidget& heir = enabled ? static_cast<QWidget&>(*m_grid) : *m_combo1;
     for (ComboBox* list : {m_combo2, m_combo3, m_combo4, m_combo5})

@@ -36,6 +36,12 @@ public:
 
     MonthGrid& Grid() { return *m_grid; }
 
+    /// Whether it holds a calendar that can show the chosen day.
+    bool ShowsDay() const;
+
+    /// Whether one of its controls has its window's focus.
+    bool HasFocus() const;
+
     void SetTexts();
 
     /// In pixels.

@@ -8,6 +8,7 @@
 #include "changecals/windows.h"
 #include "monthly/frmmonthlycal.h"
 #include "moon/frmmoon.h"
+#include "printing/print.h"
 #include "settings/storedsettings.h"
 #include "shared/flags.h"
 #include "shared/settings.h"
@@ -29,6 +30,7 @@ void beginRun() {
         [] { return new frmMoon; },
         [] { return new frmOptions; },
         [] { return new frmAbout; },
+        Printing::Print,
     });
 }
 

@@ -45,7 +45,9 @@ QString nameOf(int c) {
 frmYearCal::frmYearCal(int c)
     : YearWindow(nameOf(c)),
       m_calendar(c),
-      m_commands(*this, c, [this] { ChangeCals::CloseWindow(*this); }),
+      m_commands(
+          *this, c, [this] { ChangeCals::CloseWindow(*this); },
+          [c] { ChangeCals::Print(Paper::Year, c); }),
       m_combo1(new ComboBox(QStringLiteral("Combo1"), this)),
       m_command2(this),
       m_grid(new YearGrid(c, this)) {

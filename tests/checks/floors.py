@@ -13,7 +13,7 @@ FLOORS = [
     {"calc", "settings"},
     {"changecals"},
     {"controls"},
-    {"monthly", "yearcals", "moon"},
+    {"monthly", "yearcals", "moon", "printing"},
     {"start"},
 ]
 ROOMS = {room: set().union(*FLOORS[:floor])

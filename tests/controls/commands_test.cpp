@@ -6,6 +6,7 @@
 #include "support/widget_test.h"
 
 #include <QClipboard>
+#include <QShortcut>
 #include <memory>
 
 namespace {
@@ -17,7 +18,8 @@ protected:
         startToday();
         useRecordingWindows();
         m_window = std::make_unique<Form>(QStringLiteral("window"));
-        m_commands = std::make_unique<Commands>(*m_window, 0, [this] { ++m_closed; });
+        m_commands = std::make_unique<Commands>(
+            *m_window, 0, [this] { ++m_closed; }, [this] { ++m_printed; });
         m_window->Show();
         EXPECT_TRUE(waitUntil([this] { return m_window->isActiveWindow(); }));
         calls.clear();
@@ -30,6 +32,7 @@ protected:
     std::unique_ptr<Form> m_window;
     std::unique_ptr<Commands> m_commands;
     int m_closed = 0;
+    int m_printed = 0;
 };
 
 TEST_F(CommandKeys, CtrlTChoosesToday) {
@@ -55,6 +58,17 @@ TEST_F(CommandKeys, CtrlCommaOpensTheOptionsAndF1TheAboutBox) {
     EXPECT_TRUE(ChangeCals::LoadOptions().Visible());
     press(Qt::Key_F1, Qt::NoModifier);
     EXPECT_TRUE(ChangeCals::LoadAbout().Visible());
+}
+
+TEST_F(CommandKeys, CtrlPPrintsWhereTheWindowHasSomethingToPrint) {
+    press(Qt::Key_P);
+    EXPECT_EQ(m_printed, 1);
+    m_commands.reset();
+    for (auto* shortcut : m_window->findChildren<QShortcut*>())
+        delete shortcut;
+    const Commands withoutPaper(*m_window, 0, [] {});
+    press(Qt::Key_P);
+    EXPECT_EQ(m_printed, 1);
 }
 
 TEST_F(CommandKeys, CtrlWCloses) {

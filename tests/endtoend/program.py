@@ -31,7 +31,7 @@ class Program:
         self.settings = SettingsFile(self.config / PROGRAM_TITLE / "settings.ini")
         self._command = [str(executable)]
         self.more_environment = {}  # a name without a value is not set
-        self._home = folder / "home"
+        self.home = folder / "home"
         self._output = folder / "output.txt"
         self._process = None
         self._boxes = set()
@@ -40,7 +40,7 @@ class Program:
     def start(self):
         self._boxes = set()
         with open(self._output, "wb") as output:
-            self._process = subprocess.Popen(self._command, cwd=self._home,
+            self._process = subprocess.Popen(self._command, cwd=self.home,
                                              env=self._environment(), stdin=subprocess.DEVNULL,
                                              stdout=output, stderr=output)
 
@@ -141,16 +141,16 @@ class Program:
         return f"program {state}, its output: {self.output() or 'none'}"
 
     def _make_folders(self):
-        for folder in (self.config, self._home, self._runtime_folder()):
+        for folder in (self.config, self.home, self._runtime_folder()):
             folder.mkdir(mode=0o700)
 
     def _runtime_folder(self):
-        return self._home.with_name("runtime")
+        return self.home.with_name("runtime")
 
     def _environment(self):
         environment = self.desktop.environment() | {
             "QT_QPA_PLATFORM": "xcb",
-            "HOME": str(self._home),
+            "HOME": str(self.home),
             "XDG_CONFIG_HOME": str(self.config),
             "XDG_RUNTIME_DIR": str(self._runtime_folder()),
         } | self.more_environment

@@ -215,4 +215,48 @@ TEST_F(MonthlyWindowTest, APaneWithoutACalendarCanTakeOneThatAnotherPaneShows) {
     EXPECT_TRUE(grid(1).isVisible());
 }
 
+// Printing
+
+class MonthlyPaper : public MonthlyTest {
+protected:
+    /// What Ctrl+P asks for with the focus on a control.
+    static std::string printedFrom(QWidget& control) {
+        control.setFocus();
+        calls.clear();
+        QTest::keyClick(&control, Qt::Key_P, Qt::ControlModifier);
+        return calls.size() == 1 ? calls[0] : "nothing, or more";
+    }
+
+    static void goToDay(int julianDay) {
+        CurJD = julianDay;
+        ChangeCals::ChangeJD();
+    }
+};
+
+TEST_F(MonthlyPaper, IsOfThePaneWithTheFocus) {
+    for (int pane = 1; pane <= paneCount; ++pane) {
+        const std::string expected = "print month " + std::to_string(CalendarOrder(pane));
+        EXPECT_EQ(printedFrom(grid(pane)), expected);
+        for (int kind = 1; kind <= 5; ++kind)
+            EXPECT_EQ(printedFrom(combo(kind, pane)), expected) << kind;
+    }
+}
+
+TEST_F(MonthlyPaper, IsOfTheFirstPaneWhereNoneHasTheFocus) {
+    CalendarOrder = {Moslem, Jewish, Gregorian, Julian};
+    window().ReSetForm();
+    EXPECT_EQ(printedFrom(command(2)), "print month 4");
+    EXPECT_EQ(printedFrom(combo(8)), "print month 4");
+}
+
+TEST_F(MonthlyPaper, IsOfAPaneThatShowsTheDay) {
+    goToDay(1721319); // 1 Tishri 3761, before the other calendars
+    EXPECT_EQ(printedFrom(combo(1, 4)), "print month 3");
+    goToDay(2817404); // the last of 6761, after the others
+    EXPECT_EQ(printedFrom(combo(1, 1)), "print month 3");
+    CalendarOrder = {Julian, Gregorian, 9, Moslem};
+    window().ReSetForm();
+    EXPECT_EQ(printedFrom(combo(1, 3)), "print month 0");
+}
+
 } // namespace

@@ -28,7 +28,8 @@ Widget* child(QObject& parent, const char* name) {
 }
 
 /// Answers every message box with Return and keeps its text; any other modal
-/// window, or a box that nobody asked about, fails the test.
+/// window, or a box that nobody asked about, fails the test, unless it is told how
+/// other windows are answered.
 class MessageWatch {
 public:
     MessageWatch();
@@ -36,8 +37,14 @@ public:
     /// The texts since the last call.
     QStringList take();
 
+    void answerOther(std::function<void(QWidget& modal)> answer) {
+        m_answerOther = std::move(answer);
+    }
+
 private:
     void answer();
+
+    std::function<void(QWidget& modal)> m_answerOther;
 
     QTimer m_timer;
     QStringList m_texts;

@@ -113,6 +113,9 @@ inline ChangeCals::WindowFactories recordingFactories() {
         [] { return new RecordingMoon; },
         [] { return new Form(QStringLiteral("frmOptions")); },
         [] { return new Form(QStringLiteral("frmAbout")); },
+        [](Paper paper, int c) {
+            record((paper == Paper::Year ? "print year " : "print month ") + std::to_string(c));
+        },
     };
 }
 

@@ -364,6 +364,16 @@ TEST_F(YearWindows, TabGoesThroughTheControlsTheMoonBeingTheFifthStop) {
     EXPECT_EQ(passed, expected);
 }
 
+TEST_F(YearWindows, CtrlPPrintsTheYear) {
+    for (const int c : {Julian, Gregorian, Jewish, Moslem}) {
+        open(c);
+        grid(c).setFocus();
+        calls.clear();
+        QTest::keyClick(&grid(c), Qt::Key_P, Qt::ControlModifier);
+        EXPECT_EQ(takeCalls(), std::vector<std::string>{"print year " + std::to_string(c)});
+    }
+}
+
 TEST_F(YearWindows, TipsAndNames) {
     open(Jewish);
     const struct {

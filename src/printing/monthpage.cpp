@@ -1,0 +1,239 @@
+// SPDX-License-Identifier: MIT
+#include "calc/calc.h"
+#include "calc/state.h"
+#include "platform/numbers.h"
+#include "platform/text.h"
+#include "printing/pages.h"
+#include "printing/paperdays.h"
+#include "printing/sheet.h"
+#include "shared/texts.h"
+
+#include <QStringList>
+#include <algorithm>
+
+namespace {
+
+using Printing::PaperDate;
+using Printing::PaperDay;
+
+// Sizes where all columns fit; where they do not, letters and gaps are smaller.
+constexpr double letterSize = 8.5;
+constexpr double headSize = 7;
+constexpr double gapInColumn = 4; // between figures and words
+constexpr double leastGap = 9;    // between columns
+constexpr double belowHead = 6;
+constexpr double lineInRow = 0.66; // of its height, where the letters stand
+constexpr double ruleThickness = 0.8;
+
+// The longest month fills the page; weeks stand a part of a row apart.
+constexpr int mostRows = 31;
+constexpr int mostWeekGaps = 5;
+constexpr double weekGap = 0.35;
+
+/// A column: in every row a number, the last figures above each other, or words,
+/// or words behind a number. The words are left out where no row has any.
+struct Column {
+    QString head;
+    QStringList figures;
+    QStringList words;
+};
+
+struct MonthOnPaper {
+    QString title;
+    QString subtitle;
+    std::vector<Column> columns;
+    qsizetype chosenRow;
+    std::vector<bool> opensWeek; ///< of each row
+};
+
+/// Where a column stands. Figures with words behind them begin the column, figures
+/// alone end it.
+struct Place {
+    double left;
+    double width;
+    double figuresLeft;
+    double figuresWidth;
+    double wordsLeft;
+};
+
+struct Measures {
+    double scale; ///< of letters and of the gaps within columns
+    std::vector<Place> places;
+    double headHeight;
+    double rowHeight;
+};
+
+QString inFigures(int number) {
+    return number == 0 ? QString() : QString::number(number);
+}
+
+Column weekdayColumn(const std::vector<PaperDay>& days) {
+    Column column{Text(StringTexts(WeekDayText)), {}, {}};
+    for (const PaperDay& day : days)
+        column.words.append(Text(WeekDayNames(day.weekday)));
+    return column;
+}
+
+Column dateColumn(const std::vector<PaperDay>& days, int c) {
+    Column column{Text(CalendarNames(c)), {}, {}};
+    for (const PaperDay& day : days) {
+        const PaperDate& date = day.dates(c);
+        column.figures.append(inFigures(date.day));
+        column.words.append(date.day == 0 ? QString()
+                                          : date.monthName + u' ' + QString::number(date.year));
+    }
+    return column;
+}
+
+// Of the name that says what the number and the number of days in the year are, the
+// first half.
+Column dayOfYearColumn(const std::vector<PaperDay>& days, int c) {
+    Column column{Text(StringTexts(DayOfYearText)).section(u'/', 0, 0), {}, {}};
+    for (const PaperDay& day : days)
+        column.figures.append(QString::number(day.dates(c).dayOfYear));
+    return column;
+}
+
+Column julianDayColumn(const std::vector<PaperDay>& days) {
+    Column column{Text(StringTexts(JulianDayText)), {}, {}};
+    for (const PaperDay& day : days)
+        column.figures.append(QString::number(day.julianDay));
+    return column;
+}
+
+Column moonColumn(const std::vector<PaperDay>& days) {
+    Column column{Text(StringTexts(MoonAgeText)), {}, {}};
+    for (const PaperDay& day : days) {
+        column.figures.append(FormatOneDecimal(day.moonAge));
+        column.words.append(Printing::SignOfQuarter(day.moonAge));
+    }
+    return column;
+}
+
+MonthOnPaper monthOf(int c) {
+    const std::vector<int> calendars = Printing::CalendarsFrom(c);
+    const int first = CurJD - CurDate(c, Day) + 1;
+    const auto days = Printing::DaysBetween(first, first + MonthDays(c, CurDate(c, Month)) - 1);
+    MonthOnPaper month{Printing::Titled(c, Printing::MonthsTouched(days, c)),
+                       Printing::Joined(Printing::InOthers(
+                           calendars, [&](int other) { return MonthsTouched(days, other); })),
+                       {weekdayColumn(days)},
+                       CurDate(c, Day) - 1,
+                       {}};
+    for (const int calendar : calendars)
+        month.columns.push_back(dateColumn(days, calendar));
+    month.columns.push_back(dayOfYearColumn(days, c));
+    month.columns.push_back(julianDayColumn(days));
+    month.columns.push_back(moonColumn(days));
+    for (const PaperDay& day : days)
+        month.opensWeek.push_back(day.weekday == Calc::WeekStart(c));
+    return month;
+}
+
+double widest(const QStringList& texts, double size) {
+    double width = 0;
+    for (const QString& text : texts)
+        width = std::max(width, Sheet::WidthOf(text, {size, true}));
+    return width;
+}
+
+bool isOfFigures(const Column& column) {
+    return column.words.isEmpty();
+}
+
+// Of a head in two lines, divided where that makes it narrowest.
+double headWidth(const QString& head) {
+    const QStringList words = head.split(u' ');
+    double width = Sheet::WidthOf(head, {headSize});
+    for (qsizetype above = 1; above < words.size(); ++above) {
+        const QStringList lines{words.first(above).join(u' '), words.sliced(above).join(u' ')};
+        width = std::min(width, widest(lines, headSize));
+    }
+    return width;
+}
+
+// At the left edge of the page, in letters of the usual size.
+Place placeOf(const Column& column) {
+    const double figures = widest(column.figures, letterSize);
+    const double words = widest(column.words, letterSize);
+    const double gap = figures > 0 && words > 0 ? gapInColumn : 0;
+    const double width = std::max(figures + gap + words, headWidth(column.head));
+    const double figuresLeft = isOfFigures(column) ? width - figures : 0;
+    return {0, width, figuresLeft, figures, figures + gap};
+}
+
+double totalWidth(const std::vector<Place>& places) {
+    double width = 0;
+    for (const Place& place : places)
+        width += place.width;
+    return width;
+}
+
+// The columns share the width of the page.
+Measures measuresOf(const MonthOnPaper& month, const Sheet& sheet, double top) {
+    std::vector<Place> places;
+    for (const Column& column : month.columns)
+        places.push_back(placeOf(column));
+    const auto gaps = static_cast<double>(places.size() - 1);
+    const double scale = std::min(1.0, (sheet.Width() - gaps * leastGap) / totalWidth(places));
+    const double gap = (sheet.Width() - totalWidth(places) * scale) / gaps;
+    double left = 0;
+    double headHeight = 0;
+    for (std::size_t at = 0; at < places.size(); ++at) {
+        Place& place = places[at];
+        place = {left, place.width * scale, left + place.figuresLeft * scale,
+                 place.figuresWidth * scale, left + place.wordsLeft * scale};
+        left += place.width + gap;
+        headHeight = std::max(
+            headHeight, Sheet::HeightOf(month.columns[at].head, {headSize * scale}, place.width));
+    }
+    const double height = sheet.Height() - top - headHeight - belowHead;
+    return {scale, places, headHeight, height / (mostRows + mostWeekGaps * weekGap)};
+}
+
+void writeHeads(const Sheet& sheet, const MonthOnPaper& month, const Measures& measures,
+                double top) {
+    for (std::size_t at = 0; at < month.columns.size(); ++at) {
+        const Column& column = month.columns[at];
+        const Place& place = measures.places[at];
+        sheet.WriteLines({place.left, top, place.width, measures.headHeight}, column.head,
+                         {headSize * measures.scale},
+                         isOfFigures(column) ? Qt::AlignRight : Qt::AlignLeft);
+    }
+}
+
+void writeRow(const Sheet& sheet, const MonthOnPaper& month, const Measures& measures, double top,
+              qsizetype row) {
+    const Sheet::Letters letters{letterSize * measures.scale, row == month.chosenRow};
+    const double height = measures.rowHeight * lineInRow;
+    for (std::size_t at = 0; at < month.columns.size(); ++at) {
+        const Column& column = month.columns[at];
+        const Place& place = measures.places[at];
+        sheet.WriteFigures({place.figuresLeft, top, place.figuresWidth, height},
+                           column.figures.value(row), letters);
+        sheet.Write({place.wordsLeft, top, place.left + place.width - place.wordsLeft, height},
+                    column.words.value(row), letters);
+    }
+}
+
+void writeMonth(const Sheet& sheet, const MonthOnPaper& month) {
+    double top = sheet.WriteHeading(month.title, month.subtitle);
+    const Measures measures = measuresOf(month, sheet, top);
+    writeHeads(sheet, month, measures, top);
+    top += measures.headHeight + belowHead;
+    sheet.DrawRule(0, sheet.Width(), top, ruleThickness);
+    for (std::size_t row = 0; row < month.opensWeek.size(); ++row) {
+        if (row != 0 && month.opensWeek[row])
+            top += weekGap * measures.rowHeight;
+        writeRow(sheet, month, measures, top, static_cast<qsizetype>(row));
+        top += measures.rowHeight;
+    }
+    sheet.DrawRule(0, sheet.Width(), top, ruleThickness);
+}
+
+} // namespace
+
+Printing::Page Printing::MonthPage(int c) {
+    const MonthOnPaper month = monthOf(c);
+    return {month.title, [month](const Sheet& sheet) { writeMonth(sheet, month); }};
+}

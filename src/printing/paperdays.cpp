@@ -1,0 +1,139 @@
+// SPDX-License-Identifier: MIT
+#include "printing/paperdays.h"
+
+#include "calc/calc.h"
+#include "calc/keptstate.h"
+#include "calc/state.h"
+#include "changecals/changecals.h"
+#include "platform/text.h"
+#include "shared/settings.h"
+#include "shared/texts.h"
+
+#include <algorithm>
+#include <optional>
+
+namespace {
+
+using Printing::PaperDate;
+using Printing::PaperDay;
+
+PaperDate chosenDateIn(int c) {
+    if (Calc::IsBeforeRange(c) || Calc::IsAfterRange(c))
+        return {};
+    const int month = CurDate(c, Month);
+    return {CurDate(c, Day), month, CurDate(c, Year), CurDate(c, DayNumber),
+            Text(MonthNames(c, month))};
+}
+
+PaperDay chosenDay() {
+    PaperDay day{CurJD, WeekDayNo, MoonAge, {}};
+    for (int c = 1; c <= calendarCount; ++c)
+        day.dates(c) = chosenDateIn(c);
+    return day;
+}
+
+struct Ends {
+    PaperDate first;
+    PaperDate last;
+};
+
+// Of the days that calendar c has.
+std::optional<Ends> endsIn(std::span<const PaperDay> days, int c) {
+    const auto isIn = [c](const PaperDay& day) { return day.dates(c).day != 0; };
+    const auto first = std::ranges::find_if(days, isIn);
+    if (first == days.end())
+        return std::nullopt;
+    const auto last = std::find_if(days.rbegin(), days.rend(), isIn);
+    return Ends{first->dates(c), last->dates(c)};
+}
+
+QString dashed(const QString& from, const QString& to) {
+    return QStringLiteral("%1 \u2013 %2").arg(from, to);
+}
+
+QString withYear(const QString& months, int year) {
+    return QStringLiteral("%1 %2").arg(months, QString::number(year));
+}
+
+} // namespace
+
+std::vector<PaperDay> Printing::DaysBetween(int first, int last) {
+    const auto kept = Calc::KeepState();
+    std::vector<PaperDay> days;
+    for (int julianDay = first; julianDay <= last; ++julianDay) {
+        ChangeCals::DeriveDay(julianDay);
+        ChangeCals::SetMoonAge();
+        days.push_back(chosenDay());
+    }
+    return days;
+}
+
+QString Printing::MonthsTouched(std::span<const PaperDay> days, int c) {
+    const auto ends = endsIn(days, c);
+    if (!ends)
+        return {};
+    const auto& [first, last] = *ends;
+    if (first.year != last.year)
+        return dashed(withYear(first.monthName, first.year), withYear(last.monthName, last.year));
+    if (first.month != last.month)
+        return withYear(dashed(first.monthName, last.monthName), last.year);
+    return withYear(last.monthName, last.year);
+}
+
+QString Printing::YearsTouched(std::span<const PaperDay> days, int c) {
+    const auto ends = endsIn(days, c);
+    if (!ends)
+        return {};
+    const QString first = QString::number(ends->first.year);
+    return ends->first.year == ends->last.year ? first
+                                               : dashed(first, QString::number(ends->last.year));
+}
+
+std::vector<int> Printing::CalendarsFrom(int c) {
+    std::vector<int> calendars{c};
+    const auto add = [&calendars](int other) {
+        if (IsCalendar(other) && std::ranges::find(calendars, other) == calendars.end())
+            calendars.push_back(other);
+    };
+    for (int pane = 1; pane <= paneCount; ++pane)
+        add(CalendarOrder(pane));
+    for (int other = 1; other <= calendarCount; ++other)
+        add(other); // a pane may hold none
+    return calendars;
+}
+
+QStringList Printing::InOthers(const std::vector<int>& calendars,
+                               const std::function<QString(int c)>& textOf) {
+    QStringList texts;
+    for (const int c : std::span(calendars).subspan(1))
+        texts.append(textOf(c));
+    texts.removeAll(QString());
+    return texts;
+}
+
+QString Printing::YearsOfOthers(const std::vector<int>& calendars, std::span<const PaperDay> days) {
+    return Joined(InOthers(calendars, [days](int c) {
+        const QString years = YearsTouched(days, c);
+        return years.isEmpty() ? years : Titled(c, years);
+    }));
+}
+
+QString Printing::Joined(const QStringList& texts) {
+    return texts.join(QStringLiteral(" \u00b7 "));
+}
+
+QString Printing::Titled(int c, const QString& shown) {
+    return Text(CalendarNames(c)) + u' ' + shown;
+}
+
+QString Printing::SignOfQuarter(double moonAge) {
+    // The lit part is white as the paper is; the waxing moon is lit at the right.
+    constexpr char16_t signs[] = {u'\u25cf', u'\u25d0', u'\u25cb', u'\u25d1', u'\u25cf'};
+    constexpr double quarter = ChangeCals::lunation / 4.0;
+    for (int number = 0; number <= 4; ++number) {
+        const double after = moonAge - number * quarter;
+        if (after >= -0.5 && after < 0.5)
+            return QString(QChar(signs[number]));
+    }
+    return {};
+}

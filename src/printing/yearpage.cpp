@@ -1,0 +1,187 @@
+// SPDX-License-Identifier: MIT
+#include "calc/calc.h"
+#include "calc/state.h"
+#include "platform/text.h"
+#include "printing/pages.h"
+#include "printing/paperdays.h"
+#include "printing/sheet.h"
+#include "shared/texts.h"
+
+#include <QStringList>
+#include <algorithm>
+
+namespace {
+
+using Printing::PaperDay;
+
+constexpr int blocksInBand = 3;
+constexpr int weeksInBlock = 6;
+constexpr double gapBeside = 16;
+constexpr double gapBelow = 11;
+
+constexpr Sheet::Letters nameLetters{10.5, true};
+constexpr double nameHeight = 9;
+constexpr Sheet::Letters lineLetters{6};
+constexpr double lineHeight = 8.5;
+constexpr double aboveRule = 4;
+constexpr double belowRule = 3;
+constexpr Sheet::Letters weekdayLetters{6};
+constexpr double weekdayWidth = 17;
+
+// Of a row's height, which is less where thirteen months have to fit: where day and
+// small figures stand. They are nearer to each other than to the next row's.
+constexpr double dayBottom = 0.45;
+constexpr double smallBottom = 0.79;
+constexpr double dayLetters = 0.52;
+constexpr double smallLetters = 0.33;
+
+struct MonthBlock {
+    QString name;
+    QStringList lines; ///< the months of the other calendars
+    int leadingBlanks;
+    std::vector<PaperDay> days;
+};
+
+struct YearOnPaper {
+    QString title;
+    QString subtitle;
+    int calendar;
+    int other; ///< the calendar of the small figures
+    QStringList weekdays;
+    std::vector<MonthBlock> months;
+};
+
+/// What the page leaves for a block.
+struct Measures {
+    double width;
+    double titleHeight;
+    double rowHeight;
+
+    double Height() const { return titleHeight + daysInWeek * rowHeight; }
+};
+
+// As many parts in a line as fit on any page.
+QStringList inLines(const QStringList& parts) {
+    constexpr double width = (Sheet::leastWidth - (blocksInBand - 1) * gapBeside) / blocksInBand;
+    QStringList lines;
+    for (const QString& part : parts) {
+        const QString longer = lines.isEmpty() ? part : Printing::Joined({lines.last(), part});
+        if (lines.isEmpty() || Sheet::WidthOf(longer, lineLetters) > width)
+            lines.append(part);
+        else
+            lines.last() = longer;
+    }
+    return lines;
+}
+
+MonthBlock blockOf(const std::vector<int>& calendars, int month) {
+    const int c = calendars.front();
+    const int first = YearJD(c, FirstDay) + Calc::DayOfYear(c, month, 1) - 1;
+    MonthBlock block{Text(MonthNames(c, month)),
+                     {},
+                     Calc::LeadingBlanks(c, month),
+                     Printing::DaysBetween(first, first + MonthDays(c, month) - 1)};
+    block.lines = inLines(Printing::InOthers(
+        calendars, [&block](int other) { return Printing::MonthsTouched(block.days, other); }));
+    return block;
+}
+
+YearOnPaper yearOf(int c) {
+    const std::vector<int> calendars = Printing::CalendarsFrom(c);
+    const auto days = Printing::DaysBetween(YearJD(c, FirstDay), YearJD(c, LastDay));
+    YearOnPaper year{Printing::Titled(c, QString::number(CurDate(c, Year))),
+                     Printing::YearsOfOthers(calendars, days),
+                     c,
+                     calendars[1],
+                     {},
+                     {}};
+    for (int row = 0; row < daysInWeek; ++row)
+        year.weekdays.append(Text(WeekDayAbbrs(Calc::WeekdayOfRow(c, row))));
+    for (int month = 1; month <= Calc::MonthsInYear(c); ++month)
+        year.months.push_back(blockOf(calendars, month));
+    return year;
+}
+
+qsizetype mostLines(const YearOnPaper& year) {
+    qsizetype most = 0;
+    for (const MonthBlock& month : year.months)
+        most = std::max(most, month.lines.size());
+    return most;
+}
+
+Measures measuresOf(const YearOnPaper& year, const Sheet& sheet, double top) {
+    const auto bands = (static_cast<int>(year.months.size()) + blocksInBand - 1) / blocksInBand;
+    const double height = (sheet.Height() - top + gapBelow) / bands - gapBelow;
+    const double titleHeight =
+        nameHeight + static_cast<double>(mostLines(year)) * lineHeight + aboveRule + belowRule;
+    return {(sheet.Width() + gapBeside) / blocksInBand - gapBeside, titleHeight,
+            (height - titleHeight) / daysInWeek};
+}
+
+void writeTitle(const Sheet& sheet, QPointF corner, const Measures& measures,
+                const MonthBlock& month) {
+    sheet.Write({corner, QSizeF(measures.width, nameHeight)}, month.name, nameLetters);
+    double top = corner.y() + nameHeight;
+    for (const QString& line : month.lines) {
+        sheet.Write({corner.x(), top, measures.width, lineHeight}, line, lineLetters);
+        top += lineHeight;
+    }
+    sheet.DrawRule(corner.x(), corner.x() + measures.width,
+                   corner.y() + measures.titleHeight - belowRule, 0.4);
+}
+
+// In the middle of a width, the figures of all days above each other.
+void writeNumber(const Sheet& sheet, const QRectF& where, int number, Sheet::Letters letters) {
+    const double width = Sheet::WidthOf(QStringLiteral("00"), {letters.size, true});
+    const QRectF middle(where.center().x() - width / 2, where.top(), width, where.height());
+    sheet.WriteFigures(middle, QString::number(number), letters);
+}
+
+void writeDay(const Sheet& sheet, const QRectF& cell, const YearOnPaper& year,
+              const PaperDay& day) {
+    const double height = cell.height();
+    writeNumber(sheet, {cell.left(), cell.top(), cell.width(), height * dayBottom},
+                day.dates(year.calendar).day, {height * dayLetters});
+    const int other = day.dates(year.other).day;
+    if (other != 0)
+        writeNumber(sheet, {cell.left(), cell.top(), cell.width(), height * smallBottom}, other,
+                    {height * smallLetters, other == 1});
+}
+
+void writeBlock(const Sheet& sheet, QPointF corner, const Measures& measures,
+                const YearOnPaper& year, const MonthBlock& month) {
+    writeTitle(sheet, corner, measures, month);
+    const double top = corner.y() + measures.titleHeight;
+    for (int row = 0; row < daysInWeek; ++row)
+        sheet.Write({corner.x(), top + row * measures.rowHeight, weekdayWidth,
+                     measures.rowHeight * dayBottom},
+                    year.weekdays[row], weekdayLetters);
+    const double width = (measures.width - weekdayWidth) / weeksInBlock;
+    int place = month.leadingBlanks;
+    for (const PaperDay& day : month.days) {
+        writeDay(sheet,
+                 {corner.x() + weekdayWidth + place / daysInWeek * width,
+                  top + place % daysInWeek * measures.rowHeight, width, measures.rowHeight},
+                 year, day);
+        ++place;
+    }
+}
+
+void writeYear(const Sheet& sheet, const YearOnPaper& year) {
+    const double top = sheet.WriteHeading(year.title, year.subtitle);
+    const Measures measures = measuresOf(year, sheet, top);
+    int place = 0;
+    for (const MonthBlock& month : year.months) {
+        const QPointF corner(place % blocksInBand * (measures.width + gapBeside),
+                             top + place / blocksInBand * (measures.Height() + gapBelow));
+        writeBlock(sheet, corner, measures, year, month);
+        ++place;
+    }
+}
+
+} // namespace
+
+Printing::Page Printing::YearPage(int c) {
+    const YearOnPaper year = yearOf(c);
+    return {year.title, [year](const Sheet& sheet) { writeYear(sheet, year); }};
+}

@@ -1,0 +1,114 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "changecals/changecals.h"
+#include "endurance/reckoning.h"
+#include "printing/names.h"
+#include "printing/pages.h"
+#include "printing/print.h"
+#include "support/texttables.h"
+#include "support/widget_test.h"
+
+#include <QFile>
+#include <QPrinter>
+#include <QProcess>
+#include <QRegularExpression>
+#include <vector>
+
+/// A word of a page as the PDF has it, with the room that its font gives to it.
+struct Word {
+    QString text;
+    QRectF room; ///< in points from the upper left corner of the paper
+};
+
+/// A page to be printed into a file and read back.
+struct PageCase {
+    int calendar;
+    int year;
+    int month = 1; ///< of a month's page
+    QString language = QStringLiteral("English");
+    QPageSize::PageSizeId paper = QPageSize::A4;
+    int moslemType = 1;
+    int firstWeekDay = Sunday;
+};
+
+inline std::ostream& operator<<(std::ostream& out, const PageCase& page) {
+    return out << "calendar " << page.calendar << ", " << page.month << "/" << page.year << ", "
+               << page.language.toStdString() << ", paper " << page.paper << ", variant "
+               << page.moslemType << ", weeks from " << page.firstWeekDay;
+}
+
+class PrintingTest : public WidgetTest {
+protected:
+    PrintingTest() { startToday(); }
+
+    QString pdfPath() const { return m_folder.filePath(QStringLiteral("page.pdf")); }
+
+    /// Brings the program to the case: its first day of the month is chosen.
+    void choose(const PageCase& page) {
+        resetState(page.moslemType);
+        for (int c = 1; c <= calendarCount; ++c)
+            FirstWeekDay(c) = page.firstWeekDay;
+        Names(page.language).Choose();
+        setDate(page.calendar, 1, page.month, page.year);
+        ChangeCals::ChangeCal(page.calendar);
+    }
+
+    static void goToDay(int julianDay) {
+        CurJD = julianDay;
+        ChangeCals::ChangeJD();
+    }
+
+    void print(const Printing::Page& page, QPageSize::PageSizeId paper = QPageSize::A4) const {
+        QPrinter printer(QPrinter::HighResolution);
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(pdfPath());
+        printer.setPageSize(QPageSize(paper));
+        Printing::PrintPage(page, printer);
+    }
+
+    static QByteArray output(const QString& program, const QStringList& arguments) {
+        QProcess process;
+        process.start(program, arguments);
+        EXPECT_TRUE(process.waitForFinished()) << program.toStdString();
+        EXPECT_EQ(process.exitCode(), 0) << process.readAllStandardError().toStdString();
+        return process.readAllStandardOutput();
+    }
+
+    /// The lines of the page that are not empty, runs of blanks as one, letters in
+    /// their usual form and without marks of direction.
+    QStringList lines() const {
+        const QByteArray text = output(QStringLiteral("pdftotext"),
+                                       {QStringLiteral("-layout"), pdfPath(), QStringLiteral("-")});
+        QString plain = QString::fromUtf8(text).normalized(QString::NormalizationForm_KC);
+        plain.remove(QRegularExpression(QStringLiteral("[\u200e\u200f\u202a-\u202e\f]")));
+        QStringList found;
+        for (const QString& line : plain.split(u'\n')) {
+            if (!line.trimmed().isEmpty())
+                found.append(line.simplified());
+        }
+        return found;
+    }
+
+    std::vector<Word> words() const {
+        const QByteArray text = output(QStringLiteral("pdftotext"),
+                                       {QStringLiteral("-bbox"), pdfPath(), QStringLiteral("-")});
+        static const QRegularExpression word(QStringLiteral(
+            "<word xMin=\"(.*)\" yMin=\"(.*)\" xMax=\"(.*)\" yMax=\"(.*)\">(.*)</word>"));
+        std::vector<Word> found;
+        for (const auto& match : word.globalMatch(QString::fromUtf8(text)))
+            found.push_back(
+                {match.captured(5),
+                 QRectF(QPointF(match.captured(1).toDouble(), match.captured(2).toDouble()),
+                        QPointF(match.captured(3).toDouble(), match.captured(4).toDouble()))});
+        return found;
+    }
+
+    /// The page in grey, at 300 dots to the inch.
+    QImage picture() const {
+        output(QStringLiteral("pdftoppm"), {QStringLiteral("-r"), QStringLiteral("300"),
+                                            QStringLiteral("-gray"), QStringLiteral("-singlefile"),
+                                            pdfPath(), m_folder.filePath(QStringLiteral("page"))});
+        return QImage(m_folder.filePath(QStringLiteral("page.pgm")));
+    }
+};

@@ -1,0 +1,329 @@
+// SPDX-License-Identifier: MIT
+#include "printing/printing_test.h"
+
+#include <algorithm>
+#include <map>
+#include <set>
+
+namespace {
+
+constexpr int blocksInBand = 3;
+
+/// A number in a cell of the page: the band of months and the row of the weekday,
+/// the block in the band and the week in the block, from where lines begin.
+struct Cell {
+    int band;
+    int weekday;
+    int block;
+    int week;
+    auto operator<=>(const Cell& other) const = default;
+};
+
+using Cells = std::map<Cell, int>;
+
+std::ostream& operator<<(std::ostream& out, const Cell& cell) {
+    return out << "band " << cell.band << ", row " << cell.weekday << ", block " << cell.block
+               << ", week " << cell.week;
+}
+
+/// The position of a value among those that differ from it.
+int rankOf(double value, const std::vector<double>& values) {
+    constexpr double same = 0.3;
+    std::vector<double> different = values;
+    std::ranges::sort(different);
+    int rank = 0;
+    for (std::size_t at = 1; at < different.size() && different[at] <= value + same; ++at)
+        rank += different[at] - different[at - 1] > same ? 1 : 0;
+    return rank;
+}
+
+/// The numbers of a year's page that have letters of one size, in their cells.
+class NumbersOnPage {
+public:
+    NumbersOnPage(const std::vector<Word>& words, double width, bool rightToLeft)
+        : m_width(width), m_rightToLeft(rightToLeft) {
+        std::map<int, std::vector<Word>> bySize;
+        for (const Word& word : words) {
+            if (QRegularExpression(QStringLiteral("^[0-9]{1,2}$")).match(word.text).hasMatch())
+                bySize[qRound(word.room.height() * 10)].push_back(word);
+        }
+        for (const auto& [size, group] : bySize)
+            m_groups.push_back(group);
+        std::ranges::sort(m_groups, std::greater(), &std::vector<Word>::size);
+    }
+
+    /// The two sizes of which there are most: of the days, and the small ones.
+    Cells Days() const { return inCells(std::max(m_groups[0], m_groups[1], isSmaller)); }
+    Cells Small() const { return inCells(std::min(m_groups[0], m_groups[1], isSmaller)); }
+
+private:
+    static bool isSmaller(const std::vector<Word>& one, const std::vector<Word>& other) {
+        return one.front().room.height() < other.front().room.height();
+    }
+
+    // Figures end at the same place of their cells, wherever lines begin.
+    double placeOf(const Word& word) const {
+        return m_rightToLeft ? m_width - word.room.right() : word.room.right();
+    }
+
+    int blockOf(const Word& word) const {
+        constexpr double margin = 40;
+        return static_cast<int>((placeOf(word) - margin) / (m_width - 2 * margin) * blocksInBand);
+    }
+
+    Cells inCells(const std::vector<Word>& words) const {
+        std::vector<double> rows;
+        std::vector<double> columns[blocksInBand];
+        for (const Word& word : words) {
+            rows.push_back(word.room.top());
+            columns[blockOf(word)].push_back(placeOf(word));
+        }
+        Cells cells;
+        for (const Word& word : words) {
+            const int row = rankOf(word.room.top(), rows);
+            const int block = blockOf(word);
+            const Cell cell{row / 7, row % 7, block, rankOf(placeOf(word), columns[block])};
+            EXPECT_FALSE(cells.contains(cell)) << cell;
+            cells[cell] = word.text.toInt();
+        }
+        return cells;
+    }
+
+    double m_width;
+    bool m_rightToLeft;
+    std::vector<std::vector<Word>> m_groups;
+};
+
+/// What the page of a year should say, by its own reckoning.
+class YearJudge {
+public:
+    explicit YearJudge(const PageCase& page)
+        : m_page(page),
+          m_rules(page.moslemType),
+          m_other(page.calendar == Julian ? Gregorian : Julian) {}
+
+    int Months() const { return m_rules.MonthsIn(m_page.calendar, m_page.year); }
+
+    /// The days of the year, and those of the first other calendar.
+    Cells Days() const { return cells(m_page.calendar); }
+    Cells Small() const { return cells(m_other); }
+
+    /// What stands above a month's days.
+    QString Title(int month) const {
+        const Names names(m_page.language);
+        QStringList parts{names.Month(m_page.calendar, month, Months())};
+        for (int c = 1; c <= calendarCount; ++c) {
+            if (c != m_page.calendar)
+                parts.append(touched(c, month, names));
+        }
+        return parts.join(u' ').simplified();
+    }
+
+private:
+    int firstDay(int month) const {
+        return m_rules.DayOf(m_page.calendar, {1, month, m_page.year});
+    }
+
+    int daysIn(int month) const { return m_rules.DaysInMonth(m_page.calendar, m_page.year, month); }
+
+    Cells cells(int c) const {
+        Cells cells;
+        for (int month = 1; month <= Months(); ++month) {
+            const int first = firstDay(month);
+            const int blanks = (Reckoning::WeekdayOf(first) - m_page.firstWeekDay + 7) % 7;
+            for (int day = 0; day < daysIn(month); ++day) {
+                const Cell cell{(month - 1) / blocksInBand, (blanks + day) % 7,
+                                (month - 1) % blocksInBand, (blanks + day) / 7};
+                if (m_rules.Shows(c, first + day))
+                    cells[cell] = m_rules.DateOf(c, first + day).day;
+            }
+        }
+        return cells;
+    }
+
+    QString touched(int c, int month, const Names& names) const {
+        int first = firstDay(month);
+        int last = first + daysIn(month) - 1;
+        while (first <= last && !m_rules.Shows(c, first))
+            ++first;
+        while (first <= last && !m_rules.Shows(c, last))
+            --last;
+        if (first > last)
+            return {};
+        const auto nameOf = [&](const Reckoning::Date& date) {
+            return names.Month(c, date.month, m_rules.MonthsIn(c, date.year));
+        };
+        const Reckoning::Date from = m_rules.DateOf(c, first);
+        const Reckoning::Date to = m_rules.DateOf(c, last);
+        const QString end = QStringLiteral("%1 %2").arg(nameOf(to)).arg(to.year);
+        if (from.year != to.year)
+            return QStringLiteral("%1 %2 – %3").arg(nameOf(from)).arg(from.year).arg(end);
+        return from.month == to.month ? end : QStringLiteral("%1 – %2").arg(nameOf(from), end);
+    }
+
+    PageCase m_page;
+    Reckoning m_rules;
+    int m_other;
+};
+
+const QString german = QStringLiteral("German");
+const QString hebrew = QStringLiteral("Hebrew");
+const QString persian = QStringLiteral("Persian");
+const QString english = QStringLiteral("English");
+
+class YearPages : public PrintingTest, public testing::WithParamInterface<PageCase> {
+protected:
+    static bool isRightToLeft() { return Names(GetParam().language).Calendar(1).isRightToLeft(); }
+
+    static double paperWidth() {
+        return QPageSize(GetParam().paper).size(QPageSize::Point).width();
+    }
+
+    void printYear() {
+        choose(GetParam());
+        print(Printing::YearPage(GetParam().calendar), GetParam().paper);
+    }
+};
+
+TEST_P(YearPages, HaveEveryDayInItsCell) {
+    printYear();
+    const YearJudge judge(GetParam());
+    const NumbersOnPage numbers(words(), paperWidth(), isRightToLeft());
+    EXPECT_EQ(numbers.Days(), judge.Days());
+    if (!judge.Small().empty()) {
+        EXPECT_EQ(numbers.Small(), judge.Small());
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    , YearPages,
+    testing::Values(
+        PageCase{Jewish, 5787}, PageCase{Jewish, 5787, 1, hebrew, QPageSize::Letter, 1, Monday},
+        PageCase{Jewish, 5786, 1, german}, PageCase{Jewish, 5785}, PageCase{Jewish, 6761},
+        PageCase{Jewish, 5790, 1, persian, QPageSize::A4, 2, Saturday},
+        PageCase{Gregorian, 2026, 1, english, QPageSize::Letter, 1, Tuesday},
+        PageCase{Gregorian, 2024, 1, german, QPageSize::A4, 2, Wednesday},
+        PageCase{Gregorian, 1900, 1, persian, QPageSize::A4, 1, Thursday}, PageCase{Gregorian, 1},
+        PageCase{Gregorian, 3000}, PageCase{Julian, 1900, 1, hebrew, QPageSize::A4, 1, Friday},
+        PageCase{Julian, 1}, PageCase{Julian, 3000, 1, german, QPageSize::Letter},
+        PageCase{Moslem, 1448}, PageCase{Moslem, 1446, 1, persian, QPageSize::Letter, 2},
+        PageCase{Moslem, 1}, PageCase{Moslem, 1, 1, hebrew, QPageSize::A4, 2},
+        PageCase{Moslem, 2452, 1, english, QPageSize::A4, 2}));
+
+/// Of pages from left to right, whose words the reader does not break apart.
+class TitlesOfMonths : public YearPages {
+protected:
+    /// The words in a band above its days and in one block, line by line, without
+    /// the points between the calendars.
+    static QString titleIn(std::vector<Word> words, QRectF place) {
+        std::erase_if(words, [&](const Word& word) {
+            return !place.contains(word.room.center()) || word.text == QStringLiteral("·");
+        });
+        std::ranges::stable_sort(words, {}, [](const Word& word) {
+            return std::pair(qRound(word.room.bottom()), word.room.left());
+        });
+        QStringList texts;
+        for (const Word& word : words)
+            texts.append(word.text);
+        return texts.join(u' ');
+    }
+
+    /// Where the weekdays' names stand that open the blocks.
+    std::vector<QPointF> corners(const std::vector<Word>& words) const {
+        const QString first = Names(GetParam().language).WeekdayAbbr(GetParam().firstWeekDay);
+        std::vector<QPointF> found;
+        for (const Word& word : words) {
+            if (word.text == first)
+                found.push_back(word.room.topLeft());
+        }
+        return found;
+    }
+};
+
+TEST_P(TitlesOfMonths, NameTheMonthsOfTheOtherCalendars) {
+    printYear();
+    const YearJudge judge(GetParam());
+    const auto found = words();
+    auto places = corners(found);
+    std::ranges::sort(places, {},
+                      [](QPointF place) { return std::pair(qRound(place.y()), place.x()); });
+    ASSERT_EQ(places.size(), judge.Months());
+    for (int month = 1; month <= judge.Months(); ++month) {
+        const QPointF corner = places[static_cast<std::size_t>(month - 1)];
+        const double width = (paperWidth() - 80) / blocksInBand;
+        const QRectF above(corner.x() - 2, corner.y() - 44, width - 4, 44);
+        EXPECT_EQ(titleIn(found, above).toStdString(), judge.Title(month).toStdString());
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(, TitlesOfMonths,
+                         testing::Values(PageCase{Jewish, 5787}, PageCase{Jewish, 5786, 1, german},
+                                         PageCase{Jewish, 3761}, PageCase{Jewish, 6761},
+                                         PageCase{Gregorian, 2026, 1, german, QPageSize::Letter},
+                                         PageCase{Gregorian, 622}, PageCase{Julian, 3000},
+                                         PageCase{Moslem, 2452},
+                                         PageCase{Moslem, 1447, 1, english, QPageSize::A4, 2}));
+
+class YearPage : public PrintingTest {
+protected:
+    /// The texts that are in bold.
+    QStringList bold() const {
+        const QString xml = QString::fromUtf8(
+            output(QStringLiteral("pdftohtml"), {QStringLiteral("-xml"), QStringLiteral("-i"),
+                                                 QStringLiteral("-stdout"), pdfPath()}));
+        static const QRegularExpression pattern(QStringLiteral("<b>(.*)</b>"));
+        QStringList texts;
+        for (const auto& match : pattern.globalMatch(xml))
+            texts.append(match.captured(1).simplified());
+        return texts;
+    }
+};
+
+TEST_F(YearPage, HasItsTitleAndTheYearsOfTheOthers) {
+    print(Printing::YearPage(Jewish));
+    const QStringList found = lines();
+    EXPECT_EQ(found[0], QStringLiteral("Jewish calendar 5787"));
+    EXPECT_EQ(found[1], QStringLiteral("Julian calendar 2026 – 2027 · Gregorian calendar 2026 – "
+                                       "2027 · Moslem calendar 1448 – 1449"));
+    EXPECT_EQ(found[2], QStringLiteral("Tishri Heshvan Kislev"));
+}
+
+// 13 first days of Julian months fall into the year 5787.
+TEST_F(YearPage, HasItsNamesAndTheFirstDaysOfTheSmallMonthsInBold) {
+    print(Printing::YearPage(Jewish));
+    QStringList texts = bold();
+    EXPECT_EQ(texts.removeAll(QStringLiteral("1")), 13);
+    EXPECT_EQ(texts.join(u' '), QStringLiteral("Jewish calendar 5787 Tishri Heshvan Kislev Tevet "
+                                               "Shevat Adar I Adar II Nisan Iyar Sivan Tammuz Av "
+                                               "Elul"));
+}
+
+TEST_F(YearPage, HasTheSmallFiguresOfTheFirstOtherPane) {
+    CalendarOrder = {Jewish, Moslem, Gregorian, Julian};
+    print(Printing::YearPage(Jewish)); // 1 Tishri 5787 is 30 Rabi I 1448
+    const NumbersOnPage numbers(words(), 595, false);
+    EXPECT_EQ(numbers.Days().at({0, 6, 0, 0}), 1);
+    EXPECT_EQ(numbers.Small().at({0, 6, 0, 0}), 30);
+    EXPECT_TRUE(lines()[1].startsWith(QStringLiteral("Moslem calendar 1448 – 1449 · Gregorian")));
+}
+
+TEST_F(YearPage, NamesItsWeekdaysInEveryBlock) {
+    FirstWeekDay(Jewish) = Wednesday;
+    print(Printing::YearPage(Jewish));
+    std::map<QString, int> names;
+    QStringList order;
+    auto all = words();
+    std::ranges::stable_sort(all, {}, [](const Word& word) { return word.room.top(); });
+    for (const Word& word : all) {
+        const bool isName = QRegularExpression(QStringLiteral("^(Mo|Tu|We|Th|Fr|Sa|Su)$"))
+                                .match(word.text)
+                                .hasMatch();
+        if (isName && ++names[word.text] == 1)
+            order.append(word.text);
+    }
+    for (const auto& [name, count] : names)
+        EXPECT_EQ(count, 13) << name.toStdString();
+    EXPECT_EQ(order.join(u' '), QStringLiteral("We Th Fr Sa Su Mo Tu"));
+}
+
+} // namespace
