@@ -2,6 +2,8 @@
 """The program as an assistive tool has it: a session bus with the assistive
 interface, and what can be read and done through it."""
 
+import atexit
+import functools
 import os
 import subprocess
 
@@ -42,6 +44,15 @@ class Bus:
     def environment(self):
         """What a program needs that shall be met here."""
         return {"DBUS_SESSION_BUS_ADDRESS": self.address, "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"}
+
+
+@functools.cache
+def start_bus(desktop):
+    """The one of this run: who has left it once cannot join another."""
+    bus = Bus(desktop)
+    bus.start()
+    atexit.register(bus.stop)
+    return bus
 
 
 class FocusWatch:
@@ -160,14 +171,14 @@ class Reader:
                           found=self.titles)
 
     def titles(self):
-        return [window.name for window in self._windows()]
+        return [window.name for window in self.windows()]
 
     def _window(self, title):
-        shown = [window for window in self._windows()
+        shown = [window for window in self.windows()
                  if window.name == title and window.is_shown()]
         return shown[0] if shown else None
 
-    def _windows(self):
+    def windows(self):
         return Control(self._application).children()
 
     # What is asked is asked of the program each time, not of a memory.

@@ -24,9 +24,7 @@ MILLENNIUM = {
 class AssistiveTools(EndToEndTest):
     @classmethod
     def setUpClass(cls):
-        cls.bus = assistive.Bus(cls.desktop)
-        cls.bus.start()
-        cls.addClassCleanup(cls.bus.stop)
+        cls.bus = assistive.start_bus(cls.desktop)
 
     def setUp(self):
         super().setUp()
