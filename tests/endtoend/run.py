@@ -41,7 +41,7 @@ class Result(unittest.TextTestResult):
             self._screenshots = pathlib.Path(tempfile.mkdtemp(prefix="orvalen-screenshots-"))
         path = self._screenshots / f"{test.id()}.png"
         try:
-            testcase.EndToEndTest.desktop.save_screenshot(path)
+            getattr(test, "desktop", testcase.EndToEndTest.desktop).save_screenshot(path)
             self.stream.writeln(f"screenshot: {path}")
         except (AssertionError, OSError) as problem:
             self.stream.writeln(f"no screenshot: {problem}")
