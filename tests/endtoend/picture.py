@@ -16,6 +16,17 @@ class Picture:
         """The number of pixels of exactly this colour in a rectangle."""
         return sum(self._row(y, left, width).count(color) for y in range(top, top + height))
 
+    def runs(self, color, width):
+        """In the first line that has so many pixels of exactly this colour in a row,
+        left and top of each of these rows."""
+        for y in range(len(self._pixels) // (3 * self._width)):
+            line = self._row(y, 0, self._width)
+            lefts = [x for x in range(self._width - width + 1)
+                     if line[x] == color and line[x:x + width] == [color] * width]
+            if lefts:
+                return [(x, y) for x in lefts]
+        return []
+
     def count_lighter(self, level, left, top, width, height):
         """The number of pixels in a rectangle of which each colour is above a level."""
         return sum(min(pixel) > level
