@@ -29,13 +29,10 @@ class Closing : public WidgetTest {
 protected:
     Closing() {
         startToday();
-        ChangeCals::BeginRun({
-            [] { return new ClosingMonthly; },
-            [](int c) { return new ClosingYear(c); },
-            [] { return new RecordingMoon; },
-            [] { return new Form(QStringLiteral("frmOptions")); },
-            [] { return new Form(QStringLiteral("frmAbout")); },
-        });
+        ChangeCals::WindowFactories factories = recordingFactories();
+        factories.monthly = [] { return new ClosingMonthly; };
+        factories.year = [](int c) { return new ClosingYear(c); };
+        ChangeCals::BeginRun(std::move(factories));
     }
 
     QString monthlyTip() const {
