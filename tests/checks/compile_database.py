@@ -6,7 +6,7 @@ import json
 import pathlib
 import re
 
-PRECOMPILED = re.compile(r" -Winvalid-pch -include \S+/cmake_pch\.hxx\b")
+PRECOMPILED = re.compile(r' -Winvalid-pch -include ("[^"]*|\S+)/cmake_pch\.hxx\b"?')
 
 
 def commands(tree):

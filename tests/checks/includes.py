@@ -52,7 +52,7 @@ def idle(entry, mappings):
         cwd=entry["directory"], text=True, capture_output=True, check=False).stderr
     if not re.search("should remove|has correct", said):
         yield f"{entry['file']} could not be read:\n{said}"
-    for path, lines in re.findall(r"^(\S+) should remove these lines:\n((?:- .*\n)*)", said, re.M):
+    for path, lines in re.findall(r"^(.+) should remove these lines:\n((?:- .*\n)*)", said, re.M):
         for line in lines.splitlines():
             if not is_used_by_name(pathlib.Path(path), line):
                 yield f"{pathlib.Path(path).relative_to(ROOT)}: {line[2:]}"
