@@ -33,10 +33,17 @@ class Result:
         self.output, self.seconds = output, seconds
 
 
+def environment_of_ours(home):
+    """What this process has, without what a user or a machine would decide by."""
+    private = re.compile("(XDG|LC|QT|GTEST)_|(DISPLAY|WAYLAND_DISPLAY|LANG|LANGUAGE)$")
+    kept = {name: value for name, value in os.environ.items() if not private.match(name)}
+    return kept | {"HOME": home, "LC_ALL": "C.UTF-8", "TZ": "UTC"}
+
+
 def run(command, environment=None):
     started = time.monotonic()
     done = subprocess.run(
-        command, cwd=ROOT, env={**os.environ, **(environment or {})}, text=True,
+        command, cwd=ROOT, env={**os.environ, **(environment or {})}, encoding="utf-8",
         errors="replace", stdout=subprocess.PIPE, stderr=subprocess.STDOUT, check=False)
     return done.returncode, done.stdout, time.monotonic() - started
 
@@ -169,8 +176,7 @@ def keep(results, long):
     (ROOT / "build/results.json").write_text(json.dumps(kept, indent=1) + "\n")
 
 
-def main():
-    long = "--long" in sys.argv[1:]
+def run_everything(long):
     options = ["--gtest_also_run_disabled_tests"] if long else []
     results = []
     # Three at a time on two cores, as the first waits for windows most of its time,
@@ -191,6 +197,16 @@ def main():
             results.append(result)
             report(result)
     keep(results, long)
+    return results
+
+
+def main():
+    sys.stdout.reconfigure(errors="replace")
+    with tempfile.TemporaryDirectory(prefix="orvalen-home-") as home:
+        ours = environment_of_ours(home)
+        os.environ.clear()
+        os.environ.update(ours)
+        results = run_everything("--long" in sys.argv[1:])
     passed = sum(result.passed for result in results)
     failed = sum(result.failed for result in results)
     print(f"{passed} passed, {failed} failed")
