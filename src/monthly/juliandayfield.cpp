@@ -140,10 +140,10 @@ void JulianDayField::Leave() {
 }
 
 // While another program has the keyboard no window of ours has it, and the number
-// waits. A window that is being closed asks by Leave.
+// waits. A popup belongs to the window below it.
 void JulianDayField::focusWindowChanged(const QWindow* focus) {
     const bool isOther = focus != nullptr && focus != window()->windowHandle();
-    if (isOther && focus->type() != Qt::Popup && !window()->isHidden())
+    if (isOther && focus->type() != Qt::Popup)
         Combo8_LostFocus();
 }
 

@@ -130,6 +130,16 @@ TEST_F(JulianDayEntry, LeavingForAnotherProgramKeepsTheNumberWaiting) {
     }
 }
 
+TEST_F(JulianDayEntry, APopupKeepsTheNumberWaiting) {
+    type(QStringLiteral("2451545"));
+    QWidget popup(nullptr, Qt::Popup);
+    popup.show();
+    popup.activateWindow();
+    ASSERT_TRUE(waitUntil([&] { return QGuiApplication::focusWindow() == popup.windowHandle(); }));
+    EXPECT_EQ(CurJD, 2461365);
+    EXPECT_EQ(combo(8).Text(), QStringLiteral("2451545"));
+}
+
 TEST_F(JulianDayEntry, AnotherWindowAfterAnotherProgramTakesTheNumber) {
     type(QStringLiteral("2451545"));
     goToAnotherProgram();
