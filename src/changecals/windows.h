@@ -84,7 +84,7 @@ struct WindowFactories {
     std::function<MoonWindow*()> moon;
     std::function<Form*()> options;
     std::function<Form*()> about;
-    std::function<void(Paper paper, int c)> print;
+    std::function<void(Paper paper, int c)> print = {};
 };
 
 /// A run of the program begins: its windows are made by these, and nothing is
