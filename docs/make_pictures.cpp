@@ -88,7 +88,7 @@ QImage paper(const Printing::Page& page) {
     constexpr double dotsInMetre = dotsInInch / 0.0254;
     constexpr int width = 1240;
     const QPageLayout layout(QPageSize(QPageSize::A4), QPageLayout::Portrait, {});
-    QImage drawn(layout.fullRectPixels(dotsInInch).size(), QImage::Format_Grayscale8);
+    QImage drawn(layout.fullRectPixels(dotsInInch).size(), QImage::Format_RGB32);
     drawn.setDotsPerMeterX(qRound(dotsInMetre));
     drawn.setDotsPerMeterY(qRound(dotsInMetre));
     drawn.fill(Qt::white);
