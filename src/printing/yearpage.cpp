@@ -159,9 +159,11 @@ void writeBlock(const Sheet& sheet, QPointF corner, const Measures& measures,
     const double width = (measures.width - weekdayWidth) / weeksInBlock;
     int place = month.leadingBlanks;
     for (const PaperDay& day : month.days) {
+        const int week = place / daysInWeek;
+        const int row = place % daysInWeek;
         writeDay(sheet,
-                 {corner.x() + weekdayWidth + place / daysInWeek * width,
-                  top + place % daysInWeek * measures.rowHeight, width, measures.rowHeight},
+                 {corner.x() + weekdayWidth + week * width, top + row * measures.rowHeight, width,
+                  measures.rowHeight},
                  year, day);
         ++place;
     }
@@ -172,8 +174,9 @@ void writeYear(const Sheet& sheet, const YearOnPaper& year) {
     const Measures measures = measuresOf(year, sheet, top);
     int place = 0;
     for (const MonthBlock& month : year.months) {
+        const int band = place / blocksInBand;
         const QPointF corner(place % blocksInBand * (measures.width + gapBeside),
-                             top + place / blocksInBand * (measures.Height() + gapBelow));
+                             top + band * (measures.Height() + gapBelow));
         writeBlock(sheet, corner, measures, year, month);
         ++place;
     }
