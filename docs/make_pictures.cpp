@@ -23,9 +23,10 @@
 
 namespace {
 
-/// The screens, settings, language and clock of this computer make no difference.
+/// The screens, fonts, settings, language and clock of this computer make no difference.
 void makeStage(const QTemporaryDir& settings) {
     qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" SCREEN_FILE);
+    qputenv("FONTCONFIG_FILE", FONTS_FILE);
     qputenv("XDG_CONFIG_HOME", settings.path().toLocal8Bit());
     qputenv("LC_ALL", "C.UTF-8");
     SetClock([] { return SystemDate{20, 11, 2026}; });

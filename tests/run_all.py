@@ -21,6 +21,7 @@ PROGRAM = BENCH / "bin"
 ROOMS = ["monthly", "controls", "changecals", "yearcals", "start", "platform", "settings",
          "calc", "moon", "shared", "printing"]
 TESTED = ["endurance", *ROOMS, "monitors"]
+DRAWN = ["monthly", "yearcals", "platform"]
 LINTED = ["src/platform", "src", *[f"src/{room}" for room in sorted(ROOMS) if room != "platform"],
           "assets/moonpicture"]
 LINTED_OF_BENCH = ["bench", "docs"]
@@ -54,7 +55,7 @@ def check(name, command):
     return Result(name, int(status == 0), int(status != 0), output, seconds)
 
 
-def room_tests(room, options):
+def room_tests(room, options, more_environment=None):
     """The tests of a room; a run that breaks off counts as one failure more."""
     with tempfile.TemporaryDirectory() as folder:
         report = pathlib.Path(folder) / "report.json"
@@ -64,13 +65,22 @@ def room_tests(room, options):
             "LSAN_OPTIONS": f"suppressions='{ROOT}/tests/support/lsan.supp':print_suppressions=0",
             "GTEST_OUTPUT": f"json:{report}",
         }
-        status, output, seconds = run([ASAN / "bin" / f"{room}_tests", *options], environment)
+        status, output, seconds = run([ASAN / "bin" / f"{room}_tests", *options],
+                                      environment | (more_environment or {}))
         counts = json.loads(report.read_text()) if report.exists() else {"tests": 0, "failures": 0}
     failed = counts["failures"]
     if status != 0 and failed == 0:
         failed = 1
     ran = counts["tests"] - counts.get("disabled", 0)
     return Result(f"tests of {room}", ran - counts["failures"], failed, output, seconds)
+
+
+def room_tests_with_noto(room):
+    """With other letters than those of the tests."""
+    fonts = {"FONTCONFIG_FILE": ROOT / "tests/data/fonts-noto.conf"}
+    result = room_tests(room, [], fonts)
+    result.name += " with Noto Sans"
+    return result
 
 
 def end_to_end():
@@ -183,6 +193,7 @@ def run_everything(long):
     # and the longest first.
     jobs = [end_to_end]
     jobs += [lambda room=room: room_tests(room, options) for room in TESTED]
+    jobs += [lambda room=room: room_tests_with_noto(room) for room in DRAWN]
     folders = [*LINTED, *(LINTED_AT_LENGTH if long else [])]
     database, bench_database = compile_database.write(ASAN), compile_database.write(BENCH)
     jobs += [lambda folder=folder: linting(folder, database) for folder in folders]

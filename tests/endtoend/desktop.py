@@ -17,6 +17,7 @@ SCREEN_WIDTH = 1600
 SCREEN_HEIGHT = 1200
 START_SECONDS = 20
 TOOL_SECONDS = 30
+FONTS = pathlib.Path(__file__).resolve().parent.parent / "data" / "fonts.conf"
 
 # A window as the window manager has it; `kind` and `state` are names such as
 # "NORMAL", "DIALOG" and "Normal", "Iconic".
@@ -50,7 +51,7 @@ class Desktop:
                 "UBSAN_OPTIONS")
         environment = {name: os.environ[name] for name in kept if name in os.environ}
         return environment | {"DISPLAY": self._display, "LC_ALL": "C.UTF-8",
-                              "HOME": str(self._folder)}
+                              "HOME": str(self._folder), "FONTCONFIG_FILE": str(FONTS)}
 
     def managed_windows(self, pid):
         """The windows of a process that the window manager has on the screen or

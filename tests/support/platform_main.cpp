@@ -16,11 +16,18 @@ void printMessage(QtMsgType, const QMessageLogContext&, const QString& text) {
         std::fprintf(stderr, "%s\n", qPrintable(text));
 }
 
+// Letters are as wide on every computer as on any other.
+void useFontsOfTheTests() {
+    if (!qEnvironmentVariableIsSet("FONTCONFIG_FILE"))
+        qputenv("FONTCONFIG_FILE", TEST_DATA_DIR "/fonts.conf");
+}
+
 } // namespace
 
 int main(int argc, char* argv[]) {
     testing::InitGoogleTest(&argc, argv);
     qInstallMessageHandler(printMessage);
+    useFontsOfTheTests();
     QApplication app(argc, argv);
     InstallAssistiveInterfaces();
     InstallOutlines();
