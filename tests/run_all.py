@@ -20,7 +20,7 @@ BENCH = ROOT / "build" / "bench"
 PROGRAM = BENCH / "bin"
 ROOMS = ["monthly", "controls", "changecals", "yearcals", "start", "platform", "settings",
          "calc", "moon", "shared", "printing"]
-TESTED = ["endurance", *ROOMS, "monitors"]
+TESTED = ["endurance", *ROOMS, "monitors", "screen"]
 DRAWN = ["monthly", "yearcals", "platform"]
 LINTED = ["src/platform", "src", *[f"src/{room}" for room in sorted(ROOMS) if room != "platform"],
           "assets/moonpicture"]
@@ -57,6 +57,7 @@ def check(name, command):
 
 def room_tests(room, options, more_environment=None):
     """The tests of a room; a run that breaks off counts as one failure more."""
+    on_screen = [sys.executable, "tests/endtoend/on_screen.py"] if room == "screen" else []
     with tempfile.TemporaryDirectory() as folder:
         report = pathlib.Path(folder) / "report.json"
         environment = {
@@ -65,7 +66,7 @@ def room_tests(room, options, more_environment=None):
             "LSAN_OPTIONS": f"suppressions='{ROOT}/tests/support/lsan.supp':print_suppressions=0",
             "GTEST_OUTPUT": f"json:{report}",
         }
-        status, output, seconds = run([ASAN / "bin" / f"{room}_tests", *options],
+        status, output, seconds = run([*on_screen, ASAN / "bin" / f"{room}_tests", *options],
                                       environment | (more_environment or {}))
         counts = json.loads(report.read_text()) if report.exists() else {"tests": 0, "failures": 0}
     failed = counts["failures"]
