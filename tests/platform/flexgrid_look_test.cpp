@@ -98,12 +98,6 @@ TEST_F(FlexGrid, TextsArePaintedInTheirColor) {
     }
 }
 
-TEST_F(FlexGrid, TextsTooWideForTheirCellStayInside) {
-    grid->SetTextMatrix(2, 3, QStringLiteral("wider than the cell"));
-    show();
-    EXPECT_FALSE(grid->grab().isNull());
-}
-
 TEST_F(FlexGrid, HiddenColumnsTakeNoRoom) {
     show();
     grid->SetColHidden(6, true);

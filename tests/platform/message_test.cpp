@@ -71,15 +71,6 @@ TEST_F(Messages, AreWideEnoughForTheirTitle) {
     m_messages.take();
 }
 
-TEST_F(Messages, AreWindowsOfTheOneInFront) {
-    Form form(QStringLiteral("frmTest"));
-    form.Show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
-    MsgBox(QStringLiteral("text"));
-    EXPECT_EQ(m_messages.take().size(), 1);
-    EXPECT_TRUE(form.Visible());
-}
-
 TEST_F(Messages, TwoTextsStandWithAnEmptyLineBetween) {
     EXPECT_EQ(WithEmptyLine(QStringLiteral("a"), QStringLiteral("b")),
               QStringLiteral("a\r\n\r\nb"));
