@@ -10,20 +10,20 @@
 
 // Where the main windows stand before anybody has moved them. In pixels.
 
-/// What a monitor must have for the monthly window and its frame.
-inline constexpr int monthlyFrameWidth = 668;
+/// The contents of the main windows at their largest, by window number.
+using WindowSizes = Table<QSize, mainWindowCount>;
 
 /// A window anywhere in here has a position that fits in 16 bits of twips.
 inline constexpr QRect storableDesk{QPoint(-2184, -2184), QPoint(2484, 2484)};
 
 /// Of the monitors' desks, the primary one's first, the first on which the monthly
-/// window finds room where positions can be stored; when none has room, what of
-/// the primary one's is storable, and when nothing is, all that is.
-QRect DeskOfFirstPlaces(const std::vector<QRect>& desks);
+/// window finds room where positions can be stored; when none has room, the
+/// primary one's, and when positions cannot be stored there, all that is storable.
+QRect DeskOfFirstPlaces(const std::vector<QRect>& desks, const WindowSizes& sizes);
 
 /// The upper left corners of the six frames, by window number, on a monitor that
-/// has `desk` for windows. With room, the year windows stand side by side below
+/// has `desk` for windows. All of them together stand in its middle, as far as
+/// positions can be stored. With room, the year windows stand side by side below
 /// the monthly window or two and two beside it; otherwise they overlap, but each
-/// lets the titles and selectors of those behind it be seen. `monthlyHeight` is
-/// that of the monthly window's contents, which depends on the font.
-Table<QPoint, mainWindowCount> FirstPlaces(const QRect& desk, int monthlyHeight);
+/// lets the titles and selectors of those behind it be seen.
+Table<QPoint, mainWindowCount> FirstPlaces(const QRect& desk, const WindowSizes& sizes);

@@ -34,9 +34,8 @@ std::vector<QRect> desksOfMonitors() {
 }
 
 ChangeCals::Position firstPlace(int number) {
-    const MainWindow* monthly = ChangeCals::LoadedWindow(MonthlyWindowNumber);
-    const int height = monthly != nullptr ? monthly->height() : 0;
-    const QPoint place = FirstPlaces(DeskOfFirstPlaces(desksOfMonitors()), height)(number);
+    const WindowSizes& sizes = ChangeCals::LargestSizes();
+    const QPoint place = FirstPlaces(DeskOfFirstPlaces(desksOfMonitors(), sizes), sizes)(number);
     return {ToTwips(place.x()), ToTwips(place.y())};
 }
 
@@ -69,6 +68,8 @@ ChangeCals::Position ChangeCals::PlaceOf(int number) {
 }
 
 void ChangeCals::PlaceForm(Form& form, int number) {
+    QSize& size = LargestSizes()(number);
+    size = size.expandedTo(form.size());
     const Position place = PlaceOf(number);
     form.Move(place.left, place.top);
 }

@@ -48,6 +48,10 @@ void ChangeCals::BeginRun(WindowFactories factories) {
     leaving = false;
 }
 
+WindowSizes& ChangeCals::LargestSizes() {
+    return make.sizes;
+}
+
 void ChangeCals::EndRun() {
     forAllWindows([](Form* window) { delete window; });
 }

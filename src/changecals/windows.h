@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "changecals/firstplaces.h"
 #include "platform/form.h"
 
 #include <functional>
@@ -85,6 +86,10 @@ struct WindowFactories {
     std::function<Form*()> options;
     std::function<Form*()> about;
     std::function<void(Paper paper, int c)> print = {};
+
+    /// Of the contents at their largest, as far as they are known before the
+    /// windows are made.
+    WindowSizes sizes{};
 };
 
 /// A run of the program begins: its windows are made by these, and nothing is
@@ -104,6 +109,9 @@ Form& LoadAbout();
 /// Has the user choose a printer or a file, and prints. Beeps where c is no
 /// calendar or cannot show the chosen day.
 void Print(Paper paper, int c);
+
+/// Of the contents at their largest; a window that is placed tells its own.
+WindowSizes& LargestSizes();
 
 /// A main window by its number (1..6), nullptr while it is not loaded.
 MainWindow* LoadedWindow(int number);

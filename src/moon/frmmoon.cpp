@@ -21,6 +21,8 @@ namespace {
 
 // In twips.
 constexpr int pictureSide = 4200;
+constexpr int windowWidth = pictureSide + 150;
+constexpr int windowHeight = pictureSide + 440;
 constexpr int backdropMargin = 30;
 constexpr int labelMargin = 60;
 
@@ -47,6 +49,10 @@ frmMoon::frmMoon()
     m_label2->setObjectName(QStringLiteral("Label2"));
     connect(m_picture1, &MoonPicture::DblClick, this, &ChangeCals::ShowMonthlyWindow);
     Form_Load();
+}
+
+QSize frmMoon::LargestSize() {
+    return {ToPixels(windowWidth), ToPixels(windowHeight)};
 }
 
 void frmMoon::SetTexts() {
@@ -97,7 +103,7 @@ void frmMoon::loadPicture() {
 }
 
 void frmMoon::placeControls() {
-    SetSize(pictureSide + 150, pictureSide + 440);
+    SetSize(windowWidth, windowHeight);
     const int side = ToPixels(pictureSide);
     m_picture1->setGeometry((width() - side) / 2, (height() - side) / 2, side, side);
     const int margin = ToPixels(backdropMargin);

@@ -16,6 +16,9 @@ class frmMoon final : public MoonWindow {
 public:
     frmMoon();
 
+    /// Of its contents, in pixels.
+    static QSize LargestSize();
+
     void SetTexts() override;
     void ReSetForm() override;
 

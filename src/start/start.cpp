@@ -31,6 +31,9 @@ void beginRun() {
         [] { return new frmOptions; },
         [] { return new frmAbout; },
         Printing::Print,
+        {frmYearCal::LargestSize(Julian), frmYearCal::LargestSize(Gregorian),
+         frmYearCal::LargestSize(Jewish), frmYearCal::LargestSize(Moslem), QSize(),
+         frmMoon::LargestSize()},
     });
 }
 

@@ -60,6 +60,10 @@ frmYearCal::frmYearCal(int c)
     ChangeCals::PlaceForm(*this, c);
 }
 
+QSize frmYearCal::LargestSize(int c) {
+    return YearGrid::LargestSize(c) + QSize(ToPixels(frameWidth), ToPixels(controlsHeight));
+}
+
 void frmYearCal::SetTexts() {
     SetCaption(Text(CalendarNames(m_calendar)));
     const auto setTip = [this](QWidget* control, const std::string& tip) {

@@ -20,6 +20,9 @@ class frmYearCal final : public YearWindow {
 public:
     explicit frmYearCal(int c);
 
+    /// Of its contents in calendar c's longest year, in pixels.
+    static QSize LargestSize(int c);
+
     void SetTexts() override;
     void SetCloseTip(const QString& tip) override;
     void ShowYear() override;

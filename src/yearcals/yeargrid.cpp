@@ -71,6 +71,10 @@ int YearGrid::NarrowestWidth() {
     return ToPixels(gridWidth(YearLayout::commonColumns));
 }
 
+QSize YearGrid::LargestSize(int c) {
+    return {ToPixels(gridWidth(columnsOf(c) - 1)), ToPixels(gridHeight())};
+}
+
 void YearGrid::FitYear() {
     const bool wide = Calendar() == Jewish && JewishLeap;
     for (int column = YearLayout::adarTwoColumn; column < Cols(); ++column)

@@ -25,6 +25,9 @@ public:
     /// Of a year without a thirteenth month, in pixels.
     static int NarrowestWidth();
 
+    /// Of calendar c's longest year, in pixels.
+    static QSize LargestSize(int c);
+
     /// As wide as its year asks for: the Jewish one has more columns in a leap year.
     void FitYear();
 

@@ -5,7 +5,7 @@
 
 namespace {
 
-constexpr int monthlyHeight = 400;
+const WindowSizes contents{{389, 518}, {389, 518}, {507, 518}, {389, 518}, {656, 400}, {290, 309}};
 
 // The windows as a desktop with thin frames shows them: title and toolbar are a
 // year window's upper 82 pixels, its selector lies in the left 73 of them.
@@ -17,12 +17,10 @@ class FirstPlacesOf : public testing::Test {
 protected:
     void use(const QRect& desk) {
         m_desk = desk;
-        m_places = FirstPlaces(desk, monthlyHeight);
+        m_places = FirstPlaces(desk, contents);
     }
 
     QRect frame(int number) const {
-        const Table<QSize, mainWindowCount> contents{{389, 518}, {389, 518},           {507, 518},
-                                                     {389, 518}, {656, monthlyHeight}, {290, 309}};
         return {m_places(number), contents(number) + QSize(2 * border, title + border)};
     }
 
@@ -49,8 +47,23 @@ protected:
                 EXPECT_FALSE(frame(before).intersects(selectorOf(behind))) << before << behind;
             }
         }
-        for (int c = 1; c <= calendarCount; ++c)
+    }
+
+    /// No year window lies over the monthly window's title, nor over the moon.
+    void expectOthersSeen() const {
+        for (int c = 1; c <= calendarCount; ++c) {
             EXPECT_FALSE(frame(c).intersects(titleOf(MonthlyWindowNumber))) << c;
+            EXPECT_FALSE(frame(c).intersects(frame(MoonWindowNumber))) << c;
+        }
+    }
+
+    /// With frames as thick as they are thought to be.
+    void expectInTheMiddle() const {
+        QRect all;
+        for (int number = 1; number <= mainWindowCount; ++number)
+            all |= QRect(m_places(number), contents(number) + QSize(12, 36));
+        EXPECT_NEAR(all.left() - m_desk.left(), m_desk.right() - all.right(), 1);
+        EXPECT_NEAR(all.top() - m_desk.top(), m_desk.bottom() - all.bottom(), 1);
     }
 
     QRect m_desk;
@@ -58,11 +71,12 @@ protected:
 };
 
 TEST_F(FirstPlacesOf, AWideScreenStandApart) {
-    for (const QRect& desk : {QRect(0, 0, 1920, 1040), QRect(0, 30, 2560, 1410),
-                              QRect(100, 50, 1722, 1000), QRect(0, 0, 3840, 2160)}) {
+    for (const QRect& desk :
+         {QRect(0, 0, 1920, 1040), QRect(0, 30, 2560, 1410), QRect(100, 50, 1722, 1000)}) {
         use(desk);
         expectOnDesk();
         expectApart(mainWindowCount);
+        expectInTheMiddle();
     }
 }
 
@@ -71,23 +85,46 @@ TEST_F(FirstPlacesOf, AHighScreenStandApart) {
         use(desk);
         expectOnDesk();
         expectApart(mainWindowCount);
+        expectInTheMiddle();
     }
 }
 
 TEST_F(FirstPlacesOf, ASmallScreenLetTitlesAndSelectorsBeSeen) {
     for (const QRect& desk :
-         {QRect(0, 0, 1024, 738), QRect(0, 27, 1366, 741), QRect(0, 0, 1440, 870),
-          QRect(0, 0, 1680, 1020), QRect(0, 0, 1280, 994)}) {
+         {QRect(0, 0, 1024, 768), QRect(0, 27, 1024, 738), QRect(0, 0, 1280, 720),
+          QRect(0, 27, 1366, 741), QRect(0, 0, 1440, 870), QRect(0, 0, 1280, 994)}) {
         use(desk);
         expectOnDesk();
         expectTitlesAndSelectorsSeen();
+        expectOthersSeen();
     }
 }
 
-TEST_F(FirstPlacesOf, AScreenOf1366LeaveTheMonthlyWindowFree) {
-    use(QRect(0, 0, 1366, 728));
-    for (int c = 1; c <= calendarCount; ++c)
-        EXPECT_FALSE(frame(c).intersects(frame(MonthlyWindowNumber))) << c;
+TEST_F(FirstPlacesOf, AScreenOf800AreOnIt) {
+    use(QRect(0, 0, 800, 600));
+    expectOnDesk();
+    expectTitlesAndSelectorsSeen();
+}
+
+// The moon may lie over the monthly window's title and emblems, 72 pixels with the title.
+TEST_F(FirstPlacesOf, AScreenOf1280LeaveAllControlsOfTheMonthlyWindowFree) {
+    for (const QRect& desk : {QRect(0, 0, 1280, 720), QRect(0, 0, 1366, 728)}) {
+        use(desk);
+        const QRect controls = frame(MonthlyWindowNumber).adjusted(0, 72, 0, 0);
+        EXPECT_FALSE(frame(MoonWindowNumber).intersects(controls));
+        for (int c = 1; c <= calendarCount; ++c)
+            EXPECT_FALSE(frame(c).intersects(frame(MonthlyWindowNumber))) << c;
+        expectInTheMiddle();
+    }
+}
+
+// What would be further right could not be stored.
+TEST_F(FirstPlacesOf, AVeryWideScreenStandApartAsNearTheMiddleAsCanBeStored) {
+    use(QRect(0, 0, 3840, 2160));
+    expectOnDesk();
+    expectApart(mainWindowCount);
+    EXPECT_EQ(m_places(Julian), QPoint(763, 1021));
+    EXPECT_EQ(m_places(Moslem), QPoint(2084, 1021));
 }
 
 TEST_F(FirstPlacesOf, ATinyScreenBeginOnIt) {
@@ -99,7 +136,7 @@ TEST_F(FirstPlacesOf, ATinyScreenBeginOnIt) {
 
 TEST_F(FirstPlacesOf, TheEdgeOfWhatCanBeStoredFit) {
     for (const QRect& screen : {QRect(1700, 0, 3840, 2160), QRect(0, 1900, 1920, 1080)}) {
-        use(screen & storableDesk);
+        use(screen);
         for (int number = 1; number <= mainWindowCount; ++number) {
             EXPECT_LE(m_places(number).x(), 2184) << number;
             EXPECT_LE(m_places(number).y(), 2184) << number;
@@ -113,9 +150,10 @@ TEST_F(FirstPlacesOf, ThreeScreensAreTheseToThePixel) {
         QRect desk;
         Table<QPoint, mainWindowCount> places;
     } rows[] = {
-        {{0, 0, 1920, 1040}, {{0, 436}, {401, 436}, {802, 436}, {1321, 436}, {0, 0}, {668, 0}}},
-        {{0, 0, 1600, 1170}, {{668, 0}, {1069, 0}, {668, 554}, {1187, 554}, {0, 0}, {0, 436}}},
-        {{0, 0, 1024, 738}, {{623, 144}, {539, 108}, {455, 72}, {371, 36}, {0, 0}, {722, 393}}}};
+        {{0, 0, 1920, 1040},
+         {{99, 461}, {500, 461}, {901, 461}, {1420, 461}, {475, 25}, {1143, 25}}},
+        {{0, 0, 1600, 1170}, {{674, 31}, {1075, 31}, {674, 585}, {1193, 585}, {6, 31}, {6, 467}}},
+        {{0, 0, 1024, 738}, {{589, 83}, {589, 0}, {505, 83}, {505, 0}, {0, 302}, {0, 0}}}};
     for (const auto& row : rows) {
         use(row.desk);
         for (int number = 1; number <= mainWindowCount; ++number)
@@ -124,22 +162,25 @@ TEST_F(FirstPlacesOf, ThreeScreensAreTheseToThePixel) {
 }
 
 TEST(DeskOfFirstPlaces, IsThePrimaryMonitorsWhereTheMonthlyWindowFits) {
-    EXPECT_EQ(DeskOfFirstPlaces({{100, 0, 668, 480}, {768, 0, 1920, 1080}}),
+    EXPECT_EQ(DeskOfFirstPlaces({{100, 0, 668, 480}, {768, 0, 1920, 1080}}, contents),
               QRect(100, 0, 668, 480));
 }
 
 TEST(DeskOfFirstPlaces, IsTheFirstWideOneWhereThePrimaryIsNarrow) {
-    EXPECT_EQ(DeskOfFirstPlaces({{0, 0, 667, 900}, {667, 0, 600, 900}, {-1024, 0, 1024, 768}}),
-              QRect(-1024, 0, 1024, 768));
+    EXPECT_EQ(
+        DeskOfFirstPlaces({{0, 0, 667, 900}, {667, 0, 600, 900}, {-1024, 0, 1024, 768}}, contents),
+        QRect(-1024, 0, 1024, 768));
 }
 
 TEST(DeskOfFirstPlaces, IsThePrimaryMonitorsWhereAllAreNarrow) {
-    EXPECT_EQ(DeskOfFirstPlaces({{0, 0, 480, 640}, {480, 0, 600, 900}}), QRect(0, 0, 480, 640));
+    EXPECT_EQ(DeskOfFirstPlaces({{0, 0, 480, 640}, {480, 0, 600, 900}}, contents),
+              QRect(0, 0, 480, 640));
 }
 
-TEST(DeskOfFirstPlaces, IsOnlyWhatCanBeStored) {
-    EXPECT_EQ(DeskOfFirstPlaces({{1000, 0, 7680, 4320}}), QRect(1000, 0, 1485, 2485));
-    EXPECT_EQ(DeskOfFirstPlaces({{9000, 0, 1920, 1080}}), QRect(-2184, -2184, 4669, 4669));
+TEST(DeskOfFirstPlaces, IsOneWherePositionsCanBeStored) {
+    EXPECT_EQ(DeskOfFirstPlaces({{1000, 0, 7680, 4320}}, contents), QRect(1000, 0, 7680, 4320));
+    EXPECT_EQ(DeskOfFirstPlaces({{9000, 0, 1920, 1080}}, contents),
+              QRect(-2184, -2184, 4669, 4669));
 }
 
 } // namespace

@@ -35,6 +35,17 @@ TEST_F(PositionsOfWindows, AreTheStoredOnesWhereTheyAreOnTheDesktop) {
     }
 }
 
+// Where the moon has no room below the monthly window, it stands above.
+TEST_F(PositionsOfWindows, ReckonWithTheSizeOfAWindowThatIsPlaced) {
+    ASSERT_EQ(QGuiApplication::primaryScreen()->geometry(), QRect(0, 0, 800, 800));
+    EXPECT_EQ(ChangeCals::PlaceOf(MoonWindowNumber).top, 6675);
+    Form monthly(QStringLiteral("frmMonthlyCal"));
+    monthly.resize(656, 450);
+    ChangeCals::PlaceForm(monthly, MonthlyWindowNumber);
+    EXPECT_EQ(monthly.pos(), QPoint(0, 314));
+    EXPECT_EQ(ChangeCals::PlaceOf(MoonWindowNumber).top, 0);
+}
+
 TEST_F(PositionsOfWindows, AreReadBackFromTheWindows) {
     ChangeCals::LoadMoon().move(33, -20);
     EXPECT_EQ(ChangeCals::ReadPositions(), nullptr);

@@ -178,6 +178,19 @@ TEST_F(Starting, WindowsStandWhereTheSettingsPutThem) {
 }
 
 // A session that ends asks the toolkit, which asks each window.
+// At their largest: the Jewish year window in a leap year, also in a common one.
+TEST_F(Starting, FirstPlacesReckonWithTheSizesOfTheWindows) {
+    SetClock([] { return SystemDate{20, 11, 2025}; });
+    ASSERT_TRUE(Start::Main());
+    ASSERT_EQ(ChangeCals::LoadYear(Jewish).width(), 389);
+    const WindowSizes& sizes = ChangeCals::LargestSizes();
+    for (const int c : {Julian, Gregorian, Moslem})
+        EXPECT_EQ(sizes(c), QSize(389, 518)) << c;
+    EXPECT_EQ(sizes(Jewish), QSize(507, 518));
+    EXPECT_EQ(sizes(MonthlyWindowNumber), ChangeCals::LoadMonthly().size());
+    EXPECT_EQ(sizes(MoonWindowNumber), QSize(290, 309));
+}
+
 TEST_F(Starting, TheSessionsEndClosesEveryWindowAndSavesNothing) {
     ASSERT_TRUE(Start::Main());
     ChangeCals::OpenYearWindowsOfPanes();

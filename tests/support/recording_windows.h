@@ -116,6 +116,7 @@ inline ChangeCals::WindowFactories recordingFactories() {
         [](Paper paper, int c) {
             record((paper == Paper::Year ? "print year " : "print month ") + std::to_string(c));
         },
+        {{389, 518}, {389, 518}, {507, 518}, {389, 518}, {656, 400}, {290, 309}},
     };
 }
 
