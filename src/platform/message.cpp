@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QGridLayout>
 #include <QMessageBox>
+#include <QShortcut>
 #include <QStyle>
 #include <algorithm>
 
@@ -46,6 +47,8 @@ void MsgBox(const QString& text, QWidget* owner) {
     box.setTextFormat(Qt::PlainText);
     box.setTextInteractionFlags(Qt::NoTextInteraction);
     widenToTitle(box);
+    for (const Qt::Key key : {Qt::Key_W, Qt::Key_Q}) // as in the windows, which wait meanwhile
+        new QShortcut(QKeySequence(Qt::CTRL | key), &box, &box, &QDialog::accept);
     const PointerShape normal(Qt::ArrowCursor); // also amid work under the hourglass
     box.exec();
 }

@@ -58,6 +58,14 @@ TEST_F(Messages, AreAlertsWithTheProgramsIcon) {
     m_messages.take();
 }
 
+TEST_F(Messages, AreClosedByTheKeysThatCloseWindows) {
+    for (const Qt::Key key : {Qt::Key_W, Qt::Key_Q}) {
+        m_messages.AnswerBy(Qt::CTRL | key);
+        MsgBox(QStringLiteral("text"));
+        EXPECT_EQ(m_messages.take().size(), 1) << "closed at once";
+    }
+}
+
 // The title bar's own font and its four pictures are the desktop's, so this is
 // what is usual.
 TEST_F(Messages, AreWideEnoughForTheirTitle) {

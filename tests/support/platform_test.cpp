@@ -49,10 +49,13 @@ void MessageWatch::answer() {
     auto* box = qobject_cast<QMessageBox*>(modal);
     if (box == nullptr)
         return m_answerOther(*modal);
+    if (!box->isActiveWindow())
+        return; // its keys would not reach it yet
     EXPECT_EQ(box->icon(), QMessageBox::Warning);
     EXPECT_EQ(box->textFormat(), Qt::PlainText);
     m_texts.append(box->text());
-    QTest::keyClick(box, Qt::Key_Return);
+    const QKeyCombination key = std::exchange(m_key, Qt::Key_Return);
+    QTest::keyClick(box, key.key(), key.keyboardModifiers());
 }
 
 void click(QWidget* widget, Qt::MouseButton button) {

@@ -41,6 +41,9 @@ public:
         m_answerOther = std::move(answer);
     }
 
+    /// The next message is answered by this key instead of Return.
+    void AnswerBy(QKeyCombination key) { m_key = key; }
+
 private:
     void answer();
 
@@ -48,6 +51,7 @@ private:
 
     QTimer m_timer;
     QStringList m_texts;
+    QKeyCombination m_key = Qt::Key_Return;
 };
 
 /// Clicks in the middle of a widget.
