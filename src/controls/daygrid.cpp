@@ -19,22 +19,6 @@ int backgroundOf(int c) {
     return IsCalendar(c) ? CalendarColors(c) : noCalendarColor;
 }
 
-// One cell in the direction of an arrow key, nothing for another key.
-std::optional<GridPlace> arrowStep(int key) {
-    switch (key) {
-    case Qt::Key_Left:
-        return GridPlace{0, -1};
-    case Qt::Key_Right:
-        return GridPlace{0, 1};
-    case Qt::Key_Up:
-        return GridPlace{-1, 0};
-    case Qt::Key_Down:
-        return GridPlace{1, 0};
-    default:
-        return std::nullopt;
-    }
-}
-
 } // namespace
 
 DayGrid::DayGrid(const QString& name, int bands, int titleRows, int columns, QWidget* parent)
@@ -97,8 +81,8 @@ std::optional<int> DayGrid::PressedDay() const {
 }
 
 void DayGrid::keyPressEvent(QKeyEvent* event) {
-    if (const auto step = arrowStep(event->key()))
-        moveTo(*step);
+    if (event->key() >= Qt::Key_Left && event->key() <= Qt::Key_Down)
+        moveOn(event->key());
     else if (event->key() == Qt::Key_PageUp || event->key() == Qt::Key_PageDown)
         Q_EMIT Paged(event->key() == Qt::Key_PageUp ? -1 : 1,
                      event->modifiers().testFlag(Qt::ShiftModifier));
@@ -122,12 +106,38 @@ void DayGrid::setLook(GridPlace cell, int back, int fore, bool bold) {
     SetCellFontBold(bold);
 }
 
-// To the next day in a direction, over blanks, titles and names; where there is
-// none the current cell stays.
-void DayGrid::moveTo(GridPlace step) {
-    GridPlace cell{Row() + step.row, Col() + step.column};
+// The cell of the day before or after: down the columns of a band, then through
+// those of the next.
+GridPlace DayGrid::nextInColumns(GridPlace cell, int step) const {
+    const int bandRows = m_titleRows + daysInWeek;
+    const int first = step > 0 ? m_titleRows : bandRows - 1; // of the rows of a band
+    const int top = cell.row - cell.row % bandRows;
+    const int week = weekRow(cell.row) + step;
+    const int column = cell.column + step;
+    if (week >= 0 && week < daysInWeek)
+        return {cell.row + step, cell.column};
+    if (column >= 0 && column < Cols())
+        return {top + first, column};
+    return {top + step * bandRows + first, step > 0 ? 0 : Cols() - 1};
+}
+
+GridPlace DayGrid::nextBy(int arrowKey, GridPlace cell) const {
+    switch (arrowKey) {
+    case Qt::Key_Left:
+        return {cell.row, cell.column - 1};
+    case Qt::Key_Right:
+        return {cell.row, cell.column + 1};
+    default:
+        return nextInColumns(cell, arrowKey == Qt::Key_Up ? -1 : 1);
+    }
+}
+
+// To the next day, over blanks, titles and names; where there is none the current
+// cell stays.
+void DayGrid::moveOn(int arrowKey) {
+    GridPlace cell = nextBy(arrowKey, {Row(), Col()});
     while (Contains(cell) && MonthAt(cell) == 0)
-        cell = {cell.row + step.row, cell.column + step.column};
+        cell = nextBy(arrowKey, cell);
     if (Contains(cell))
         MoveTo(cell);
 }

@@ -73,7 +73,9 @@ protected:
 private:
     int weekRow(int row) const;
     void setLook(GridPlace cell, int back, int fore, bool bold);
-    void moveTo(GridPlace step);
+    GridPlace nextInColumns(GridPlace cell, int step) const;
+    GridPlace nextBy(int arrowKey, GridPlace cell) const;
+    void moveOn(int arrowKey);
     QString spokenText(GridPlace cell) const;
 
     int m_titleRows;

@@ -125,6 +125,20 @@ TEST_F(MonthKeys, HomeAndEndGoToTheFirstAndLastDay) {
     EXPECT_TRUE(takeCalls().empty());
 }
 
+// The weeks begin on Sundays; 7 and 14 November 2026 are Saturdays.
+TEST_F(MonthKeys, UpAndDownGoFromDayToDayAlsoAcrossWeeks) {
+    focused(Gregorian);
+    press(Gregorian, Qt::Key_Home);
+    for (int day = 2; day <= 30; ++day) {
+        press(Gregorian, Qt::Key_Down);
+        EXPECT_EQ(current(Gregorian), QString::number(day));
+    }
+    for (int day = 29; day >= 1; --day) {
+        press(Gregorian, Qt::Key_Up);
+        EXPECT_EQ(current(Gregorian), QString::number(day));
+    }
+}
+
 // November 2026 begins on a Sunday, the first weekday, and ends on a Monday.
 TEST_F(MonthKeys, ArrowsStayWithinTheMonth) {
     focused(Gregorian);

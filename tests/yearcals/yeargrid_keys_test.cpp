@@ -53,9 +53,11 @@ TEST_F(YearKeys, ArrowsPassOverBlanksTitlesAndNamesAndStayAtTheEdges) {
     press(Gregorian, Qt::Key_Up);
     press(Gregorian, Qt::Key_Left);
     EXPECT_EQ(current(Gregorian), (GridPlace{5, 1}));
-    for (int step = 0; step < 3; ++step)
+    for (int step = 1; step < 31 + 28 + 31 + 1; ++step)
         press(Gregorian, Qt::Key_Down);
-    EXPECT_EQ(current(Gregorian), (GridPlace{12, 1})); // 1 April, below its blanks and its title
+    EXPECT_EQ(current(Gregorian), (GridPlace{12, 1})); // 1 April, the first of its band
+    press(Gregorian, Qt::Key_Up);
+    EXPECT_EQ(current(Gregorian), (GridPlace{3, 17})); // 31 March
     press(Gregorian, Qt::Key_Home);
     for (int step = 0; step < 4; ++step)
         press(Gregorian, Qt::Key_Right);
