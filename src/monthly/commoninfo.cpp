@@ -97,6 +97,10 @@ void CommonInfo::Fill() {
     m_combo8->Show(CurJD);
 }
 
+void CommonInfo::TakeFocus() {
+    m_combo6->setFocus(Qt::ShortcutFocusReason);
+}
+
 void CommonInfo::SetTexts() {
     Controls::SetTip(m_combo6, Text(StringTexts(WeekDayText)));
     Controls::SetTip(m_combo7, Text(StringTexts(MoonAgeText)));

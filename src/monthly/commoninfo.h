@@ -30,6 +30,9 @@ public:
 
     void SetTexts();
 
+    /// Gives its first control the focus.
+    void TakeFocus();
+
     JulianDayField* JulianDay() const { return m_combo8; }
 
 private:

@@ -21,6 +21,7 @@
 
 #include <QEvent>
 #include <algorithm>
+#include <QShortcut>
 
 namespace {
 
@@ -61,6 +62,7 @@ frmMonthlyCal::frmMonthlyCal()
     createCommands();
     m_common->JulianDay()->SetLeavingControl(m_command1(closeButton));
     m_panes(1)->Grid().setFocus();
+    addPaneKeys();
     SetTexts();
     ChangeCals::PlaceForm(*this, MonthlyWindowNumber);
 }
@@ -199,6 +201,29 @@ void frmMonthlyCal::exchangeCalendars(int pane, int c) {
     if (other != 0)
         CalendarOrder(other) = CalendarOrder(pane);
     CalendarOrder(pane) = c;
+void frmMonthlyCal::addPaneKeys() {
+    const auto add = [this](QKeyCombination key, int step) {
+        auto* shortcut = new QShortcut(QKeySequence(key), this);
+        connect(shortcut, &QShortcut::activated, this, [this, step] { goToPane(step); });
+    };
+    add(Qt::Key_F6, +1);
+    add(Qt::SHIFT | Qt::Key_F6, -1);
+}
+
+// What the calendars have in common comes after the last pane and before the first.
+void frmMonthlyCal::goToPane(int step) {
+    int place = 0;
+    for (int pane = 1; pane <= paneCount; ++pane) {
+        if (m_panes(pane)->HasFocus())
+            place = pane;
+    }
+    place = (place + step + paneCount + 1) % (paneCount + 1);
+    if (place == 0)
+        m_common->TakeFocus();
+    else
+        m_panes(place)->TakeFocus();
+}
+
     placeEmblems();
     refill(pane);
     if (other != 0)

@@ -45,6 +45,8 @@ private:
     void placeCommands(int middle);
     void placeEmblems();
     void exchangeCalendars(int pane, int c);
+    void addPaneKeys();
+    void goToPane(int step);
     void refill(int pane);
 
     Commands m_commands;

@@ -100,6 +100,11 @@ bool Pane::HasFocus() const {
     return std::find(std::begin(controls), std::end(controls), focus) != std::end(controls);
 }
 
+void Pane::TakeFocus() {
+    QWidget* heir = ShowsDay() ? static_cast<QWidget*>(m_grid) : m_combo1;
+    heir->setFocus(Qt::ShortcutFocusReason);
+}
+
 void Pane::SetTexts() {
     const auto setTip = [this](QWidget* control, int text) {
         Controls::SetTip(control, Text(StringTexts(text)), calendar());

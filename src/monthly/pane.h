@@ -42,6 +42,9 @@ public:
     /// Whether one of its controls has its window's focus.
     bool HasFocus() const;
 
+    /// Gives its grid the focus, the chooser where the grid cannot have it.
+    void TakeFocus();
+
     void SetTexts();
 
     /// In pixels.

@@ -167,6 +167,26 @@ TEST_F(MonthKeys, CtrlReturnOpensTheYear) {
 
 // Focus
 
+TEST_F(MonthKeys, F6GoesFromPaneToPane) {
+    focused(Julian);
+    const auto go = [](Qt::KeyboardModifiers modifiers = {}) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_F6, modifiers);
+        return window().focusWidget()->objectName();
+    };
+    EXPECT_EQ(go(), QStringLiteral("MSFlexGrid1_2"));
+    EXPECT_EQ(go(), QStringLiteral("MSFlexGrid1_3"));
+    combo(1, Jewish).setFocus();
+    EXPECT_EQ(go(), QStringLiteral("MSFlexGrid1_4"));
+    EXPECT_EQ(go(), QStringLiteral("Combo6"));
+    command(2).setFocus();
+    EXPECT_EQ(go(), QStringLiteral("MSFlexGrid1_1"));
+    EXPECT_EQ(go(Qt::ShiftModifier), QStringLiteral("Combo6"));
+    EXPECT_EQ(go(Qt::ShiftModifier), QStringLiteral("MSFlexGrid1_4"));
+    goTo(1800000); // before the Moslem calendar
+    grid(Jewish).setFocus();
+    EXPECT_EQ(go(), QStringLiteral("Combo1_4"));
+}
+
 TEST_F(MonthKeys, AListThatGoesBeyondTheRangeHandsItsFocusToTheChooser) {
     combo(2, Moslem).setFocus();
     goTo(1800000);
