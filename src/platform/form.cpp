@@ -46,16 +46,23 @@ void Form::SetNormal() {
     setWindowState(windowState() & ~Qt::WindowMinimized);
 }
 
+// The desktop would else give the keyboard to each of several windows in turn.
 void Form::ShowInFront() {
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    bringUp();
+}
+
+void Form::Show() {
+    setAttribute(Qt::WA_ShowWithoutActivating, false);
+    bringUp();
+    activateWindow();
+}
+
+void Form::bringUp() {
     if (WindowState() == Minimised)
         SetNormal();
     show();
     raise();
-}
-
-void Form::Show() {
-    ShowInFront();
-    activateWindow();
 }
 
 // The toolkit would put the program's name in the place of an empty title.

@@ -52,3 +52,4 @@ private:
     QPoint m_put; ///< where the frame was put last
     bool m_unloaded = false;
 };
+    void bringUp();
