@@ -4,6 +4,7 @@
 #include "calc/calc.h"
 #include "calc/state.h"
 #include "changecals/windows.h"
+#include "platform/answer.h"
 #include "platform/clock.h"
 #include "platform/numbers.h"
 #include "shared/flags.h"
@@ -94,6 +95,7 @@ void ChangeCals::DeriveDay(int day) {
 }
 
 void ChangeCals::UpdateWindows() {
+    AnswerUser();
     const int asking = CurrentWindow;
     if (IsCalendar(asking))
         redrawYear(asking);

@@ -21,7 +21,7 @@ constexpr std::array calendarWindows{int{MonthlyWindowNumber}, int{Julian}, int{
 void setCloseTips(int text) {
     for (const int number : calendarWindows) {
         if (CalendarWindow* window = ChangeCals::LoadedCalendarWindow(number))
-            window->SetCloseTip(Text(StringTexts(text)));
+            window->SetCloseTip(text);
     }
 }
 

@@ -26,7 +26,9 @@ class CalendarWindow : public MainWindow {
 
 public:
     using MainWindow::MainWindow;
-    virtual void SetCloseTip(const QString& tip) = 0;
+
+    /// The tip of the close button, an entry of StringTexts.
+    virtual void SetCloseTip(int text) = 0;
 };
 
 /// The window of the four panes 1..4.

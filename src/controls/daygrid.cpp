@@ -143,10 +143,10 @@ void DayGrid::moveOn(int arrowKey) {
 }
 
 QString DayGrid::spokenText(GridPlace cell) const {
-    QString text = TextMatrix(cell.row, cell.column);
     const int month = MonthAt(cell);
-    if (text.isEmpty() || weekRow(cell.row) < 0)
-        return text;
+    if (month == 0)
+        return {};
     const int weekday = Calc::WeekdayOfRow(m_calendar, weekRow(cell.row));
-    return month == 0 ? Text(WeekDayNames(weekday)) : SpokenDay(m_calendar, weekday, text, month);
+    const QString day = SpokenDay(m_calendar, weekday, TextMatrix(cell.row, cell.column), month);
+    return cell == m_marked ? day + QStringLiteral(", ") + Text(SelectedWord) : day;
 }

@@ -4,7 +4,6 @@
 #include "changecals/opening.h"
 #include "controls/tips.h"
 #include "platform/commandbutton.h"
-#include "platform/text.h"
 #include "shared/texts.h"
 
 namespace {
@@ -27,5 +26,5 @@ MoonButtons::MoonButtons(QWidget* parent)
 
 void MoonButtons::SetTexts(int c) {
     for (CommandButton* button : Buttons())
-        Controls::SetTip(button, Text(StringTexts(MoonText)), c);
+        Controls::SetTip(button, MoonText, c);
 }

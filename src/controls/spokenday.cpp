@@ -1,12 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "controls/spokenday.h"
 
+#include "calc/calc.h"
 #include "calc/state.h"
 #include "platform/text.h"
 #include "shared/texts.h"
 
 QString SpokenDay(int c, int weekday, const QString& day, int month) {
-    return QStringLiteral("%1, %2 %3 %4, %5")
-        .arg(Text(WeekDayNames(weekday)), day, Isolated(Text(MonthNames(c, month))),
-             QString::number(CurDate(c, Year)), Text(CalendarNames(c)));
+    return Spoken(QStringLiteral("%1, %2 %3 %4, %5")
+                      .arg(Text(WeekDayNames(weekday)), day, Text(MonthNames(c, month)),
+                           QString::number(CurDate(c, Year)), Text(CalendarNames(c))));
+}
+
+QString SpokenChosenDay(int c) {
+    if (!IsCalendar(c) || Calc::IsBeforeRange(c))
+        return {};
+    return SpokenDay(c, WeekDayNo, QString::number(CurDate(c, Day)), CurDate(c, Month));
 }

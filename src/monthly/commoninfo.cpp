@@ -102,9 +102,9 @@ void CommonInfo::TakeFocus() {
 }
 
 void CommonInfo::SetTexts() {
-    Controls::SetTip(m_combo6, Text(StringTexts(WeekDayText)));
-    Controls::SetTip(m_combo7, Text(StringTexts(MoonAgeText)));
-    Controls::SetTip(m_combo8, Text(StringTexts(JulianDayText)));
+    Controls::SetTip(m_combo6, WeekDayText);
+    Controls::SetTip(m_combo7, MoonAgeText);
+    Controls::SetTip(m_combo8, JulianDayText);
     m_command2.SetTexts();
 }
 

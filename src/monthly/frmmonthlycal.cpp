@@ -4,6 +4,7 @@
 #include "changecals/closing.h"
 #include "changecals/positions.h"
 #include "controls/emblems.h"
+#include "controls/spokenday.h"
 #include "controls/tips.h"
 #include "monthly/commoninfo.h"
 #include "monthly/juliandayfield.h"
@@ -20,8 +21,8 @@
 #include "shared/texts.h"
 
 #include <QEvent>
-#include <algorithm>
 #include <QShortcut>
+#include <algorithm>
 
 namespace {
 
@@ -61,8 +62,8 @@ frmMonthlyCal::frmMonthlyCal()
     m_common = new CommonInfo(this);
     createCommands();
     m_common->JulianDay()->SetLeavingControl(m_command1(closeButton));
-    m_panes(1)->Grid().setFocus();
     addPaneKeys();
+    m_panes(1)->Grid().setFocus();
     SetTexts();
     ChangeCals::PlaceForm(*this, MonthlyWindowNumber);
 }
@@ -74,11 +75,19 @@ void frmMonthlyCal::SetTexts() {
     m_common->SetTexts();
     place();
     for (int index = 1; index <= commandCount; ++index)
-        Controls::SetTip(m_command1(index), Text(StringTexts(Commands::TextOf(commands(index)))));
+        Controls::SetTip(m_command1(index), Commands::TextOf(commands(index)));
 }
 
-void frmMonthlyCal::SetCloseTip(const QString& tip) {
-    Controls::SetTip(m_command1(closeButton), tip);
+void frmMonthlyCal::SetCloseTip(int text) {
+    Controls::SetTip(m_command1(closeButton), text);
+}
+
+// In the calendar of the first pane that shows the day.
+QString frmMonthlyCal::Answer() const {
+    QString day;
+    for (int pane = 1; pane <= paneCount && day.isEmpty(); ++pane)
+        day = SpokenChosenDay(CalendarOrder(pane));
+    return day;
 }
 
 void frmMonthlyCal::SetCal(int pane) {
@@ -192,15 +201,6 @@ void frmMonthlyCal::placeEmblems() {
     }
 }
 
-// The pane that shows calendar c, where there is one, takes this pane's in its
-// place.
-void frmMonthlyCal::exchangeCalendars(int pane, int c) {
-    int other = 0;
-    for (int candidate = 1; candidate <= paneCount && other == 0; ++candidate)
-        other = CalendarOrder(candidate) == c ? candidate : 0;
-    if (other != 0)
-        CalendarOrder(other) = CalendarOrder(pane);
-    CalendarOrder(pane) = c;
 void frmMonthlyCal::addPaneKeys() {
     const auto add = [this](QKeyCombination key, int step) {
         auto* shortcut = new QShortcut(QKeySequence(key), this);
@@ -224,6 +224,15 @@ void frmMonthlyCal::goToPane(int step) {
         m_panes(place)->TakeFocus();
 }
 
+// The pane that shows calendar c, where there is one, takes this pane's in its
+// place.
+void frmMonthlyCal::exchangeCalendars(int pane, int c) {
+    int other = 0;
+    for (int candidate = 1; candidate <= paneCount && other == 0; ++candidate)
+        other = CalendarOrder(candidate) == c ? candidate : 0;
+    if (other != 0)
+        CalendarOrder(other) = CalendarOrder(pane);
+    CalendarOrder(pane) = c;
     placeEmblems();
     refill(pane);
     if (other != 0)

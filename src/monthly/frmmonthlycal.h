@@ -24,7 +24,8 @@ public:
     static constexpr int commandCount = 5;
 
     void SetTexts() override;
-    void SetCloseTip(const QString& tip) override;
+    void SetCloseTip(int text) override;
+    QString Answer() const override;
     void SetCal(int pane) override;
     void SetGrid(int pane) override;
     void SetCommonInfo() override;
@@ -44,9 +45,9 @@ private:
     int placeCommon(int top, int width);
     void placeCommands(int middle);
     void placeEmblems();
-    void exchangeCalendars(int pane, int c);
     void addPaneKeys();
     void goToPane(int step);
+    void exchangeCalendars(int pane, int c);
     void refill(int pane);
 
     Commands m_commands;

@@ -5,6 +5,7 @@
 #include "changecals/changecals.h"
 #include "changecals/windows.h"
 #include "platform/beep.h"
+#include "platform/form.h"
 #include "platform/message.h"
 #include "platform/numbers.h"
 #include "platform/text.h"
@@ -57,6 +58,11 @@ int JulianDayField::OwnWidth() const {
     return WidthFor(QString::number(MaxJD(Jewish)));
 }
 
+QString JulianDayField::Answer() const {
+    const auto* form = qobject_cast<const Form*>(window());
+    return form == nullptr ? QString() : form->Answer();
+}
+
 void JulianDayField::Show(int julianDay) {
     m_shown = m_accepted = QString::number(julianDay);
     SetOnlyItem(m_shown);
@@ -70,6 +76,7 @@ void JulianDayField::keyPressEvent(QKeyEvent* event) {
     }
     if (event->key() == Qt::Key_Escape) {
         Show(CurJD);
+        AnswerUser();
         return;
     }
     m_cursor = lineEdit()->cursorPosition();

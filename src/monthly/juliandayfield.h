@@ -21,6 +21,9 @@ public:
     /// What the highest Julian Day needs, in pixels.
     int OwnWidth() const;
 
+    /// What the window says: a number that changes is told by the editor.
+    QString Answer() const override;
+
     /// Shows a Julian Day.
     void Show(int julianDay);
 

@@ -107,7 +107,7 @@ void Pane::TakeFocus() {
 
 void Pane::SetTexts() {
     const auto setTip = [this](QWidget* control, int text) {
-        Controls::SetTip(control, Text(StringTexts(text)), calendar());
+        Controls::SetTip(control, text, calendar());
     };
     setTip(m_combo1, CalendarText);
     setTip(m_combo2, YearText);

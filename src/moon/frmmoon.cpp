@@ -57,20 +57,23 @@ QSize frmMoon::LargestSize() {
 
 void frmMoon::SetTexts() {
     SetCaption(Text(LabelTexts(MoonLabel)));
-    Controls::SetTip(m_picture1, Text(StringTexts(MoonPictureText)));
+    Controls::SetTip(m_picture1, MoonPictureText);
 }
 
 void frmMoon::ReSetForm() {
     m_picture1->SetShadow(ShadowOf(MoonAge, m_picture1->Width(), m_picture1->Height()));
     const QString age = FormatOneDecimal(MoonAge);
     const QString spokenAge = Text(StringTexts(MoonAgeText)) + u' ' + age;
-    setAccessibleName(windowTitle() + QStringLiteral(", ") + spokenAge); // told as it opens
     m_label1->setText(age);
     m_label1->setAccessibleName(spokenAge);
     m_picture1->setAccessibleDescription(spokenAge);
     m_label1->adjustSize();
     m_label1->move(ToPixels(labelMargin),
                    m_picture1->height() - m_label1->height() - ToPixels(labelMargin));
+}
+
+QString frmMoon::Answer() const {
+    return m_picture1->accessibleDescription();
 }
 
 void frmMoon::keyPressEvent(QKeyEvent* event) {

@@ -21,6 +21,7 @@ public:
 
     void SetTexts() override;
     void ReSetForm() override;
+    QString Answer() const override;
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "platform/combobox.h"
 
+#include "platform/listmodel.h"
 #include "platform/pointer.h"
 #include "platform/text.h"
 
 #include <QAbstractItemView>
 #include <QFocusEvent>
 #include <QFontInfo>
-#include <QStringListModel>
 #include <QStyle>
 #include <QStyleOptionComboBox>
 #include <QStylePainter>
@@ -42,7 +42,7 @@ ListEntries NumberedEntries(int first, int last, int chosen,
 }
 
 ComboBox::ComboBox(const QString& name, QWidget* parent)
-    : QComboBox(parent), m_items(new QStringListModel(this)), m_typing(*this) {
+    : QComboBox(parent), m_items(new ListModel(this)), m_typing(*this) {
     setObjectName(name);
     setModel(m_items);
     setFocusPolicy(Qt::StrongFocus);
@@ -50,6 +50,7 @@ ComboBox::ComboBox(const QString& name, QWidget* parent)
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     setMinimumContentsLength(1);
     connect(this, &QComboBox::activated, this, &ComboBox::Click);
+    connect(this, &QComboBox::activated, this, &AnswerUser);
     connect(this, &QComboBox::currentTextChanged, this, [this] { m_ownFitted.reset(); });
 }
 
@@ -57,6 +58,14 @@ void ComboBox::SetItems(const QStringList& texts, int position) {
     if (m_items->stringList() != texts)
         m_items->setStringList(texts);
     SetListIndex(position);
+}
+
+void ComboBox::SetSpokenEntries(std::function<QString(int)> spoken) {
+    m_items->spoken = std::move(spoken);
+}
+
+QString ComboBox::Spoken() const {
+    return isEditable() ? currentText() : currentData(Qt::AccessibleTextRole).toString();
 }
 
 int ComboBox::WidthFor(const QString& text) const {

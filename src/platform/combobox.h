@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/answer.h"
 #include "platform/listtyping.h"
 
 #include <QComboBox>
@@ -8,7 +9,7 @@
 #include <optional>
 #include <vector>
 
-class QStringListModel;
+class ListModel;
 
 /// The entries of a list and the position of the chosen one.
 struct ListEntries {
@@ -28,7 +29,7 @@ ListEntries NumberedEntries(
 /// cut. At most 15 entries drop down, the chosen one in their middle.
 ///
 /// A number typed into the list chooses at each digit (ListTyping).
-class ComboBox : public QComboBox {
+class ComboBox : public QComboBox, public Speaker {
     Q_OBJECT
 
 public:
@@ -57,6 +58,12 @@ public:
     /// A position outside the list selects nothing.
     void SetListIndex(int position) { setCurrentIndex(position); }
     QString Text() const { return currentText(); }
+
+    /// How an entry is spoken, by its position; as it is written where nothing else
+    /// is said here.
+    void SetSpokenEntries(std::function<QString(int position)> spoken);
+    QString Spoken() const;
+    QString Answer() const override { return Spoken(); }
 
     /// Clears the list and makes `text` its only entry, selected.
     void SetOnlyItem(const QString& text) { SetItems({text}, 0); }
@@ -93,7 +100,7 @@ private:
     const QFont& ownFittedFont() const;
     QFont fittedFont() const;
 
-    QStringListModel* m_items; ///< takes thousands of entries at once
+    ListModel* m_items; ///< takes thousands of entries at once
     ListTyping m_typing;
     Filler m_filler;
     std::vector<ComboBox*> m_sharing;         ///< of one letter size

@@ -34,7 +34,7 @@ ComboBoxAccessible::ComboBoxAccessible(ComboBox* comboBox)
 QString ComboBoxAccessible::text(QAccessible::Text kind) const {
     switch (kind) {
     case QAccessible::Value:
-        return comboBox()->Text();
+        return comboBox()->Spoken();
     case QAccessible::Description:
         return comboBox()->accessibleDescription();
     default:
@@ -95,11 +95,11 @@ QStringList ComboBoxAccessible::keyBindingsForAction(const QString& name) const 
 }
 
 QString ComboBoxAccessible::text(int startOffset, int endOffset) const {
-    return comboBox()->Text().mid(startOffset, endOffset - startOffset);
+    return comboBox()->Spoken().mid(startOffset, endOffset - startOffset);
 }
 
 int ComboBoxAccessible::characterCount() const {
-    return static_cast<int>(comboBox()->Text().size());
+    return static_cast<int>(comboBox()->Spoken().size());
 }
 
 void ComboBoxAccessible::selection(int, int* startOffset, int* endOffset) const {

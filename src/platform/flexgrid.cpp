@@ -260,7 +260,6 @@ void MSFlexGrid::selectionChanged(const QItemSelection& selected,
     // The table view counts headers among the cells.
     QAbstractItemView::selectionChanged( // NOLINT(bugprone-parent-virtual-call)
         selected, deselected);
-    m_speaker.TellSelection(selected, deselected);
 }
 
 // All cells are always in view.

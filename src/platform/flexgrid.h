@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/answer.h"
 #include "platform/gridmodel.h"
 #include "platform/gridspeaker.h"
 
@@ -21,7 +22,7 @@ class GridPainter;
 /// current cell, Return and Space on it do what a left press does, with Ctrl what a
 /// double click does. When the focus
 /// comes to the grid, the selected cell becomes current.
-class MSFlexGrid : public QTableView {
+class MSFlexGrid : public QTableView, public Speaker {
     Q_OBJECT
 
 public:
@@ -92,6 +93,9 @@ public:
 
     /// Gives the grid the focus, makes a cell current and presses it as Return does.
     void PressCell(int row, int column);
+
+    /// Nothing: what changes in the current cell is told by itself.
+    QString Answer() const override { return {}; }
 
     /// Cells painted since the grid was made.
     int PaintedCells() const;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/answer.h"
+
 #include <QWidget>
 
 /// A window in the classic terms: loaded (constructed), shown, hidden, unloaded.
@@ -8,7 +10,7 @@
 /// Form_Unload and destroyed when its events are done. Positions are those of
 /// the frame, sizes those of the contents, both in twips. Nobody resizes it but
 /// the program.
-class Form : public QWidget {
+class Form : public QWidget, public Speaker {
     Q_OBJECT
 
 public:
@@ -37,6 +39,9 @@ public:
     void Unload();
     bool IsUnloaded() const { return m_unloaded; }
 
+    /// Nothing, unless the window has something to say.
+    QString Answer() const override { return {}; }
+
     /// Plain text. An empty caption leaves the title bar empty.
     void SetCaption(const QString& caption);
 
@@ -47,9 +52,9 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    void bringUp();
     int settled(int place, int put) const;
 
     QPoint m_put; ///< where the frame was put last
     bool m_unloaded = false;
 };
-    void bringUp();

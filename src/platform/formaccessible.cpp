@@ -36,7 +36,10 @@ QAccessibleInterface* FormAccessible::child(int index) const {
     return QAccessible::queryAccessibleInterface(children().value(index));
 }
 
+// An answer, which is no widget, stands behind them: tools pass over what has no place.
 int FormAccessible::indexOfChild(const QAccessibleInterface* child) const {
+    if (child->object() == nullptr)
+        return childCount();
     return static_cast<int>(children().indexOf(qobject_cast<QWidget*>(child->object())));
 }
 

@@ -12,16 +12,20 @@ QAccessibleInterface* newInterface(const QString& className, QObject* object) {
     return new GridAccessible(qobject_cast<MSFlexGrid*>(object));
 }
 
+bool hasEntry(const QModelIndex& cell) {
+    return cell.isValid() && !cell.data(Qt::AccessibleTextRole).toString().isEmpty();
+}
+
 } // namespace
 
 void GridAccessible::Install() {
     QAccessible::installFactory(newInterface);
 }
 
-GridAccessible::GridAccessible(MSFlexGrid* grid) : QAccessibleWidget(grid, QAccessible::Table) {}
+GridAccessible::GridAccessible(MSFlexGrid* grid) : QAccessibleWidget(grid, QAccessible::List) {}
 
 GridAccessible::~GridAccessible() {
-    for (const auto& [cell, id] : m_cells)
+    for (const auto& [cell, id] : m_entries)
         QAccessible::deleteAccessibleInterface(id);
 }
 
@@ -32,62 +36,45 @@ QString GridAccessible::text(QAccessible::Text kind) const {
 }
 
 int GridAccessible::childCount() const {
-    return rowCount() * columnCount();
+    return static_cast<int>(cells().size());
 }
 
 QAccessibleInterface* GridAccessible::child(int index) const {
-    return index < 0 ? nullptr : cellAt(index / columnCount(), index % columnCount());
+    return Entry(cells().value(index));
 }
 
 int GridAccessible::indexOfChild(const QAccessibleInterface* child) const {
-    const auto* cell = dynamic_cast<const GridCellAccessible*>(child);
-    return cell == nullptr ? -1 : cell->rowIndex() * columnCount() + cell->columnIndex();
+    const auto* entry = dynamic_cast<const GridCellAccessible*>(child);
+    return entry == nullptr ? -1 : static_cast<int>(cells().indexOf(entry->Index()));
 }
 
 QAccessibleInterface* GridAccessible::childAt(int x, int y) const {
-    const QModelIndex index = grid()->indexAt(grid()->viewport()->mapFromGlobal(QPoint(x, y)));
-    return index.isValid() ? cellAt(index.row(), index.column()) : nullptr;
+    return Entry(grid()->indexAt(grid()->viewport()->mapFromGlobal(QPoint(x, y))));
 }
 
 QAccessibleInterface* GridAccessible::focusChild() const {
-    const QModelIndex current = grid()->currentIndex();
-    return grid()->hasFocus() ? cellAt(current.row(), current.column()) : nullptr;
+    return grid()->hasFocus() ? Entry(grid()->currentIndex()) : nullptr;
 }
 
-void* GridAccessible::interface_cast(QAccessible::InterfaceType type) {
-    if (type == QAccessible::TableInterface)
-        return static_cast<QAccessibleTableInterface*>(this);
-    return QAccessibleWidget::interface_cast(type);
-}
-
-QAccessibleInterface* GridAccessible::cellAt(int row, int column) const {
-    if (!grid()->model()->hasIndex(row, column))
+QAccessibleInterface* GridAccessible::Entry(const QModelIndex& cell) const {
+    if (!hasEntry(cell))
         return nullptr;
-    QAccessible::Id& id = m_cells[row * columnCount() + column];
-    if (id == 0)
-        id = QAccessible::registerAccessibleInterface(new GridCellAccessible(grid(), row, column));
+    QAccessible::Id& id = m_entries[cell];
+    if (QAccessible::accessibleInterface(id) == nullptr)
+        id = QAccessible::registerAccessibleInterface(new GridCellAccessible(grid(), cell));
     return QAccessible::accessibleInterface(id);
-}
-
-int GridAccessible::rowCount() const {
-    return grid()->Rows();
-}
-
-int GridAccessible::columnCount() const {
-    return grid()->Cols();
-}
-
-int GridAccessible::selectedCellCount() const {
-    return static_cast<int>(grid()->selectionModel()->selectedIndexes().size());
-}
-
-QList<QAccessibleInterface*> GridAccessible::selectedCells() const {
-    QList<QAccessibleInterface*> cells;
-    for (const QModelIndex& index : grid()->selectionModel()->selectedIndexes())
-        cells.append(cellAt(index.row(), index.column()));
-    return cells;
 }
 
 MSFlexGrid* GridAccessible::grid() const {
     return static_cast<MSFlexGrid*>(widget());
+}
+
+QModelIndexList GridAccessible::cells() const {
+    QModelIndexList cells;
+    for (int column = 0; column < grid()->Cols(); ++column) {
+        for (int row = 0; row < grid()->Rows(); ++row)
+            cells.append(grid()->model()->index(row, column));
+    }
+    cells.removeIf([](const QModelIndex& cell) { return !hasEntry(cell); });
+    return cells;
 }

@@ -6,8 +6,8 @@
 #include <QKeySequence>
 #include <QWindow>
 
-GridCellAccessible::GridCellAccessible(MSFlexGrid* grid, int row, int column)
-    : m_grid(grid), m_index(grid->model()->index(row, column)) {}
+GridCellAccessible::GridCellAccessible(MSFlexGrid* grid, const QModelIndex& index)
+    : m_grid(grid), m_index(index) {}
 
 bool GridCellAccessible::isValid() const {
     return m_grid != nullptr && m_index.isValid();
@@ -41,32 +41,18 @@ QAccessible::State GridCellAccessible::state() const {
         return state;
     }
     state.disabled = !m_grid->isEnabled();
-    state.invisible = !isShown();
+    state.invisible = !m_grid->isVisible();
     state.focusable = true;
     state.focused = m_grid->hasFocus() && m_grid->currentIndex() == m_index;
     state.selectable = true;
-    state.selected = isSelected();
+    state.selected = m_grid->selectionModel()->isSelected(m_index);
     return state;
 }
 
 void* GridCellAccessible::interface_cast(QAccessible::InterfaceType type) {
-    if (type == QAccessible::TableCellInterface)
-        return static_cast<QAccessibleTableCellInterface*>(this);
     if (type == QAccessible::ActionInterface)
         return static_cast<QAccessibleActionInterface*>(this);
     return nullptr;
-}
-
-bool GridCellAccessible::isSelected() const {
-    return isValid() && m_grid->selectionModel()->isSelected(m_index);
-}
-
-int GridCellAccessible::rowExtent() const {
-    return isValid() ? m_grid->rowSpan(rowIndex(), columnIndex()) : 1;
-}
-
-int GridCellAccessible::columnExtent() const {
-    return isValid() ? m_grid->columnSpan(rowIndex(), columnIndex()) : 1;
 }
 
 QStringList GridCellAccessible::actionNames() const {
@@ -77,7 +63,7 @@ void GridCellAccessible::doAction(const QString& name) {
     if (!isValid() || !m_grid->isEnabled())
         return;
     if (name == pressAction()) {
-        m_grid->PressCell(rowIndex(), columnIndex());
+        m_grid->PressCell(m_index.row(), m_index.column());
     } else if (name == setFocusAction()) {
         m_grid->setFocus();
         m_grid->setCurrentIndex(m_index);
@@ -88,9 +74,4 @@ QStringList GridCellAccessible::keyBindingsForAction(const QString& name) const 
     if (name != pressAction())
         return {};
     return {QKeySequence(Qt::Key_Return).toString(QKeySequence::NativeText)};
-}
-
-bool GridCellAccessible::isShown() const {
-    const int first = m_grid->indexAt(m_grid->visualRect(m_index).center()).column();
-    return m_grid->isVisible() && first == columnIndex() && !text(QAccessible::Name).isEmpty();
 }

@@ -7,12 +7,13 @@
 
 class MSFlexGrid; // IWYU pragma: keep (it would have the header, which a QPointer needs not)
 
-/// A cell of a grid as assistive tools see it.
-class GridCellAccessible : public QAccessibleInterface,
-                           public QAccessibleTableCellInterface,
-                           public QAccessibleActionInterface {
+/// A cell of a grid as assistive tools see it: an entry of a list, named by its
+/// accessible text. Pressing it does what Return on it does.
+class GridCellAccessible : public QAccessibleInterface, public QAccessibleActionInterface {
 public:
-    GridCellAccessible(MSFlexGrid* grid, int row, int column);
+    GridCellAccessible(MSFlexGrid* grid, const QModelIndex& index);
+
+    const QPersistentModelIndex& Index() const { return m_index; }
 
     bool isValid() const override;
     QObject* object() const override { return nullptr; }
@@ -25,26 +26,15 @@ public:
     QString text(QAccessible::Text kind) const override;
     void setText(QAccessible::Text, const QString&) override {}
     QRect rect() const override;
-    QAccessible::Role role() const override { return QAccessible::Cell; }
+    QAccessible::Role role() const override { return QAccessible::ListItem; }
     QAccessible::State state() const override;
     void* interface_cast(QAccessible::InterfaceType type) override;
-
-    bool isSelected() const override;
-    QList<QAccessibleInterface*> columnHeaderCells() const override { return {}; }
-    QList<QAccessibleInterface*> rowHeaderCells() const override { return {}; }
-    int rowIndex() const override { return m_index.row(); }
-    int columnIndex() const override { return m_index.column(); }
-    int rowExtent() const override;
-    int columnExtent() const override;
-    QAccessibleInterface* table() const override { return parent(); }
 
     QStringList actionNames() const override;
     void doAction(const QString& name) override;
     QStringList keyBindingsForAction(const QString& name) const override;
 
 private:
-    bool isShown() const;
-
     QPointer<MSFlexGrid> m_grid;
     QPersistentModelIndex m_index;
 };

@@ -3,46 +3,37 @@
 
 #include <QAbstractItemView>
 #include <QAccessible>
-#include <QItemSelection>
+#include <utility>
 
 namespace {
 
-int cellNumber(const QModelIndex& index) {
-    return index.row() * index.model()->columnCount() + index.column();
-}
-
-void tell(QAbstractItemView& grid, QAccessible::Event type, int cell) {
-    QAccessibleEvent event(&grid, type);
-    event.setChild(cell);
-    QAccessible::updateAccessibility(&event);
+QAccessibleInterface* currentEntry(QAbstractItemView& grid) {
+    return QAccessible::queryAccessibleInterface(&grid)->focusChild();
 }
 
 } // namespace
 
+// A tool that has told an entry does not tell it again, whatever it says by now:
+// the cell gets another.
 void GridSpeaker::TellCurrent() {
-    const QModelIndex current = m_grid.currentIndex();
-    if (!QAccessible::isActive() || m_arriving || !m_grid.hasFocus() || !current.isValid())
+    if (!QAccessible::isActive() || m_arriving)
         return;
-    const QString text = current.data(Qt::AccessibleTextRole).toString();
-    const bool moved = cellNumber(current) != m_toldCell;
-    if (text.isEmpty() || (!moved && text == m_toldText))
+    QAccessibleInterface* entry = currentEntry(m_grid);
+    if (entry == nullptr)
         return;
-    m_toldCell = cellNumber(current);
-    m_toldText = text;
-    tell(m_grid, moved ? QAccessible::Focus : QAccessible::NameChanged, m_toldCell);
+    const Told now{m_grid.currentIndex(), entry->text(QAccessible::Name)};
+    if (now == m_told)
+        return;
+    if (now.cell == std::exchange(m_told, now).cell) {
+        QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(entry));
+        entry = currentEntry(m_grid);
+    }
+    QAccessibleEvent event(entry, QAccessible::Focus);
+    QAccessible::updateAccessibility(&event);
 }
 
 void GridSpeaker::EndArrival() {
     m_arriving = false;
-    m_toldCell = -1;
+    m_told = {};
     TellCurrent();
-}
-
-void GridSpeaker::TellSelection(const QItemSelection& selected, const QItemSelection& deselected) {
-    if (!QAccessible::isActive())
-        return;
-    for (const QModelIndex& index : deselected.indexes())
-        tell(m_grid, QAccessible::SelectionRemove, cellNumber(index));
-    for (const QModelIndex& index : selected.indexes())
-        tell(m_grid, QAccessible::SelectionAdd, cellNumber(index));
 }

@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QString>
+#include <QModelIndex>
 
 class QAbstractItemView;
-class QItemSelection;
 
-/// Tells assistive tools what changes in a grid: which cells are marked, and
-/// what the current cell says, the latter only while the grid has the focus.
+/// Tells assistive tools what the current cell of a grid says, and nothing while
+/// the grid has not the focus.
 class GridSpeaker {
 public:
     explicit GridSpeaker(QAbstractItemView& grid) : m_grid(grid) {}
@@ -21,11 +20,14 @@ public:
     void BeginArrival() { m_arriving = true; }
     void EndArrival();
 
-    void TellSelection(const QItemSelection& selected, const QItemSelection& deselected);
-
 private:
+    struct Told {
+        QModelIndex cell;
+        QString text;
+        bool operator==(const Told& other) const = default;
+    };
+
     QAbstractItemView& m_grid;
     bool m_arriving = false;
-    int m_toldCell = -1; ///< its number as the tools count it
-    QString m_toldText;
+    Told m_told;
 };

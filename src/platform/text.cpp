@@ -3,6 +3,7 @@
 
 #include <QFontInfo>
 #include <QFontMetrics>
+#include <QRegularExpression>
 #include <QTextDocument>
 
 QString Caption(const std::string& text) {
@@ -17,6 +18,12 @@ QString Isolated(const QString& name) {
     constexpr QChar firstStrongIsolate(0x2068);
     constexpr QChar popIsolate(0x2069);
     return name.isRightToLeft() ? firstStrongIsolate + name + popIsolate : name;
+}
+
+QString Spoken(QString text) {
+    static const QRegularExpression unspoken(
+        QStringLiteral("[\u2066-\u2069]|(?<=[a-z])\u0491(?=[a-z])"));
+    return text.remove(unspoken);
 }
 
 QFont FittedFont(const QFont& font, const QString& text, int width) {

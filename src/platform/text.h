@@ -22,6 +22,10 @@ QString PlainTip(const QString& text);
 /// the numbers beside it neither join nor split it.
 QString Isolated(const QString& name);
 
+/// A text as it is spoken: without marks of direction, and without a letter of
+/// another script amid Latin ones.
+QString Spoken(QString text);
+
 /// The least size that a font is made smaller to.
 inline constexpr int smallestPixelSize = 6;
 

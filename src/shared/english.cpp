@@ -100,6 +100,7 @@ void setStrings() {
 } // namespace
 
 void SetEnglishTexts() {
+    SelectedWord = "selected";
     setCalendarNames();
     setMonthNames();
     setWeekdays();

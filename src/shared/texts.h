@@ -22,6 +22,9 @@ inline Table<std::string, calendarCount, monthLimit> MonthNames;
 inline std::string AdarName;
 extern const Table<std::string, 2> AdarSuffixes;
 
+/// What is said of the chosen day behind its date.
+inline std::string SelectedWord;
+
 inline Table<std::string, 7> WeekDayNames; ///< Monday first
 inline Table<std::string, 7> WeekDayAbbrs; ///< Monday first
 inline Table<std::string, 12> LabelTexts;

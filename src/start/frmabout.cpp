@@ -122,6 +122,7 @@ void frmAbout::setTexts() {
     m_label1(1)->setText(texts.title);
     m_label1(2)->setText(texts.version + version());
     m_label1(3)->setText(description(texts));
+    setAccessibleName(texts.caption + QStringLiteral(", ") + m_label1(2)->text());
 }
 
 // By hand, since the splash is cut where the line stands.

@@ -160,6 +160,7 @@ ComboBox* frmOptions::newWeekdayList(int pane, QWidget* parent) {
     if (IsCalendar(c)) {
         for (int weekday = Monday; weekday <= Sunday; ++weekday)
             list->AddItem(Text(WeekDayAbbrs(weekday)));
+        list->SetSpokenEntries([](int position) { return Text(WeekDayNames(position + Monday)); });
         list->SetListIndex(Calc::WeekStart(c) - 1);
     }
     connect(list, &ComboBox::Click, this, [this, pane] { Combo1_Click(pane); });
@@ -209,7 +210,7 @@ QHBoxLayout* frmOptions::commandRow() {
 
 CommandButton* frmOptions::newCommand(int index, const QString& picture, int tip) {
     auto* button = new CommandButton(QStringLiteral("Command1_%1").arg(index), picture, this);
-    Controls::SetTip(button, Text(StringTexts(tip)));
+    Controls::SetTip(button, tip);
     connect(button, &CommandButton::clicked, this, [this, index] { Command1_Click(index); });
     return button;
 }

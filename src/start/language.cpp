@@ -77,6 +77,7 @@ void readTexts(const ProfileFile& file) {
     readTable(file, "WEEKDAYSABBR", WeekDayAbbrs);
     readTable(file, "LABELS", LabelTexts);
     readTable(file, "STRINGS", StringTexts);
+    SelectedWord = ReadLngString(file, "SPEECH", 1, SelectedWord);
 }
 
 void tellAndFallBack(const QString& path, const QString& what, std::string& name) {

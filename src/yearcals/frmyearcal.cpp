@@ -7,6 +7,7 @@
 #include "changecals/opening.h"
 #include "changecals/positions.h"
 #include "controls/emblems.h"
+#include "controls/spokenday.h"
 #include "controls/tips.h"
 #include "controls/yearlist.h"
 #include "platform/combobox.h"
@@ -66,22 +67,26 @@ QSize frmYearCal::LargestSize(int c) {
 
 void frmYearCal::SetTexts() {
     SetCaption(Text(CalendarNames(m_calendar)));
-    const auto setTip = [this](QWidget* control, const std::string& tip) {
-        Controls::SetTip(control, Text(tip), m_calendar);
+    const auto setTip = [this](QWidget* control, int text) {
+        Controls::SetTip(control, text, m_calendar);
     };
-    setTip(m_combo1, StringTexts(YearText));
-    setTip(m_command1(PreviousYear), StringTexts(PreviousYearText));
-    setTip(m_command1(NextYear), StringTexts(NextYearText));
+    setTip(m_combo1, YearText);
+    setTip(m_command1(PreviousYear), PreviousYearText);
+    setTip(m_command1(NextYear), NextYearText);
     for (int index = TodayButton; index <= CloseButton; ++index)
-        setTip(m_command1(index), StringTexts(Commands::TextOf(commandOf(index))));
+        setTip(m_command1(index), Commands::TextOf(commandOf(index)));
     for (int index = FirstOtherCalendar; index <= buttonCount; ++index)
-        setTip(m_command1(index), CalendarNames(otherCalendar(index)));
+        Controls::SetTip(m_command1(index), Text(CalendarNames(otherCalendar(index))), m_calendar);
     m_command2.SetTexts(m_calendar);
-    setTip(m_grid, StringTexts(YearGridText));
+    setTip(m_grid, YearGridText);
 }
 
-void frmYearCal::SetCloseTip(const QString& tip) {
-    Controls::SetTip(m_command1(CloseButton), tip, m_calendar);
+void frmYearCal::SetCloseTip(int text) {
+    Controls::SetTip(m_command1(CloseButton), text, m_calendar);
+}
+
+QString frmYearCal::Answer() const {
+    return SpokenChosenDay(m_calendar);
 }
 
 void frmYearCal::ShowYear() {

@@ -24,7 +24,8 @@ public:
     static QSize LargestSize(int c);
 
     void SetTexts() override;
-    void SetCloseTip(const QString& tip) override;
+    void SetCloseTip(int text) override;
+    QString Answer() const override;
     void ShowYear() override;
     void ForgetYear() override;
 

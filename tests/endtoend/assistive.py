@@ -3,6 +3,7 @@
 interface, and what can be read and done through it."""
 
 import atexit
+import contextlib
 import functools
 import os
 import subprocess
@@ -67,18 +68,22 @@ class FocusWatch:
         self._listener.deregister("object:state-changed:focused")
 
     def take(self):
-        """The names of the controls that have told it since the last call, of a
-        cell its table's."""
+        """The names of the controls that have told it since the last call, of an
+        entry its list's."""
         run_events()
         told, self._told = self._told, []
         return told
 
     def _keep(self, event):
         if event.detail1:
-            control = event.source
-            while control.get_role() in (Atspi.Role.TABLE_CELL, Atspi.Role.LIST_ITEM):
-                control = control.get_parent()
-            self._told.append(control.get_name())
+            with contextlib.suppress(GLib.GError):  # an answer that a later one replaced
+                self._told.append(self._name(event.source))
+
+    @staticmethod
+    def _name(control):
+        while control.get_role() == Atspi.Role.LIST_ITEM:
+            control = control.get_parent()
+        return control.get_name()
 
 
 class Control:
@@ -117,23 +122,30 @@ class Control:
 
     def has_focus(self):
         return self._has(Atspi.StateType.FOCUSED)
+    def uppermost_cell(self):
+        """The name of the first of the days that stand highest."""
+        return min(self.children(), key=Control._top).name
+
 
     def find(self, role, beginning):
         """The control of a role whose name begins so, None when there is none."""
         for child in self.children():
             if child.role == role and child.name.startswith(beginning):
                 return child
-            found = child.find(role, beginning) if child.role != "table" else None
+            found = child.find(role, beginning) if child.role != "list" else None
             if found:
                 return found
         return None
 
     def cells(self):
-        """The names of a table's cells that are shown."""
+        """The names of a grid's days that are shown."""
         return [cell.name for cell in self.children() if cell.is_shown()]
 
     def selected(self):
         return [cell.name for cell in self.children()
+    def _top(self):
+        return Atspi.Component.get_extents(self._accessible, Atspi.CoordType.SCREEN).y
+
                 if cell._has(Atspi.StateType.SELECTED)]
 
     def press_cell(self, name):

@@ -10,8 +10,8 @@ from test_positions import PLACES, stored_places
 from testcase import EndToEndTest
 from waiting import wait_until
 from wayland import WaylandDesktop
-from windows import (ABOUT_TITLE, CALENDARS, MONTHLY_TITLE, OPTIONS_TITLE, YEAR_TITLES,
-                     MonthlyWindow)
+from windows import (CALENDARS, MONTHLY_TITLE, OPTIONS_TITLE, SPOKEN_ABOUT_TITLE,
+                     YEAR_TITLES, MonthlyWindow)
 
 FALL_OF_ROME = "1895164"
 
@@ -103,14 +103,14 @@ class OnWayland(EndToEndTest):
         self._wait_until_active(OPTIONS_TITLE)
         weekday = self.reader.window(OPTIONS_TITLE).find("combo box", "Julian calendar")
         weekday.take_focus()
-        self._press_until("Home", lambda: weekday.text == "Mo")
+        self._press_until("Home", lambda: weekday.text == "Monday")
         self._press_until("Return", lambda: "Julian/FirstWeekDay" in self.settings.read())
         self._wait_until_active(MONTHLY_TITLE)
         self.assertEqual(self.settings.read()["Julian/FirstWeekDay"], "1")
 
     def _read_about(self):
-        self._press_until("F1", lambda: ABOUT_TITLE in self.reader.titles())
-        self._wait_until_active(ABOUT_TITLE)
+        self._press_until("F1", lambda: SPOKEN_ABOUT_TITLE in self.reader.titles())
+        self._wait_until_active(SPOKEN_ABOUT_TITLE)
         self._press_until("Escape", self.reader.window(MONTHLY_TITLE).is_active)
 
     def _wait_until_active(self, title):

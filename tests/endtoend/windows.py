@@ -11,6 +11,7 @@ MONTHLY_TITLE = "Monthly calendars"
 MOON_TITLE = "Moon"
 OPTIONS_TITLE = "Options"
 ABOUT_TITLE = "About Orvalen Years Calendar"
+SPOKEN_ABOUT_TITLE = f"{ABOUT_TITLE}, Version 1.1.0"
 PROGRAM_TITLE = "Orvalen Years Calendar"
 
 LEFT_BUTTON = 1

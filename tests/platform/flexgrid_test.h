@@ -84,10 +84,6 @@ protected:
         grid->SetCellBackColor(color);
     }
 
-    QAccessibleInterface* accessibleCell(int row, int column) {
-        return QAccessible::queryAccessibleInterface(grid)->tableInterface()->cellAt(row, column);
-    }
-
     QModelIndex index(int row, int column) const { return grid->model()->index(row, column); }
 
     struct Press {

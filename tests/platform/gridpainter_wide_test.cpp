@@ -4,6 +4,7 @@
 #include "platform/color.h"
 #include "platform/flexgrid.h"
 #include "platform/twips.h"
+#include "support/platform_accessible.h"
 #include "support/platform_test.h"
 
 #include <QAccessible>
@@ -68,7 +69,6 @@ TEST_F(WideTexts, NumbersThatFitKeepTheirSize) {
 }
 
 TEST_F(WideTexts, OfAnyLengthStayInTheirCellWithAllOfTheirLettersToAssistiveTools) {
-    QAccessibleInterface* table = QAccessible::queryAccessibleInterface(&grid);
     const QString latin = QStringLiteral("(12)  ") + QString(60, u'W');
     const QString hebrew = QStringLiteral("(12)  \u2068") + QString(60, u'\u05DE') + u'\u2069';
     const QString stacked = u'W' + QString(30, u'\u0301');
@@ -76,7 +76,7 @@ TEST_F(WideTexts, OfAnyLengthStayInTheirCellWithAllOfTheirLettersToAssistiveTool
         const QRect drawn = inkOf(text, true);
         EXPECT_TRUE(middle.contains(drawn)) << text.toStdString();
         EXPECT_FALSE(drawn.isEmpty());
-        EXPECT_EQ(table->tableInterface()->cellAt(1, 1)->text(QAccessible::Name), text);
+        EXPECT_EQ(accessibleCell(grid, 1, 1)->text(QAccessible::Name), text);
     }
 }
 

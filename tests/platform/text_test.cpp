@@ -46,6 +46,13 @@ TEST(Texts, FittedFontsStayWithinTheWidthDownToTheirSmallestSize) {
     }
 }
 
+TEST(Texts, AreSpokenWithoutMarksOfDirectionAndLettersOfOtherScripts) {
+    EXPECT_EQ(Spoken(QStringLiteral("2/12  \u2068\u05E0\u2069")), QStringLiteral("2/12  \u05E0"));
+    EXPECT_EQ(Spoken(QStringLiteral("Dhu\u0491l-Hijjah")), QStringLiteral("Dhul-Hijjah"));
+    EXPECT_EQ(Spoken(QStringLiteral("\u0491\u0430\u0491")), QStringLiteral("\u0491\u0430\u0491"))
+        << "a word of that script";
+}
+
 TEST(Texts, FontsBelowTheSmallestSizeAreLeftAlone) {
     QFont font;
     font.setPixelSize(5);

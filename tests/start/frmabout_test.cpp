@@ -42,6 +42,8 @@ protected:
         EXPECT_EQ(box->windowTitle(), QStringLiteral("About Orvalen Years Calendar"));
         EXPECT_EQ(label(1), QStringLiteral("Orvalen Years Calendar"));
         EXPECT_EQ(label(2), QStringLiteral("Version 1.1.0"));
+        EXPECT_EQ(box->accessibleName(),
+                  QStringLiteral("About Orvalen Years Calendar, Version 1.1.0"));
         EXPECT_EQ(label(3).split(QStringLiteral("\r\n")).value(2),
                   QString::fromUtf8("The Orvalen Years Calendar developers © 1998—2001"));
     }

@@ -23,6 +23,7 @@ TEST_F(Options, ShowsTheSettings) {
     EXPECT_EQ(list("Combo1_1")->Text(), QStringLiteral("Mo"));
     EXPECT_EQ(list("Combo1_3")->Text(), QStringLiteral("We"));
     EXPECT_EQ(list("Combo1_4")->Text(), QStringLiteral("Su"));
+    EXPECT_EQ(list("Combo1_4")->Spoken(), QStringLiteral("Sunday"));
     EXPECT_EQ(list("Combo2")->Text(), QStringLiteral("English (Default)"));
     EXPECT_EQ(list("Combo2")->ListCount(), 2);
     EXPECT_EQ(list("Combo3")->ListCount(), 5);

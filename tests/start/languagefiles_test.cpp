@@ -111,6 +111,7 @@ Texts englishTexts() {
     addTable(texts, QStringLiteral("WEEKDAYSABBR"), WeekDayAbbrs);
     addTable(texts, QStringLiteral("LABELS"), LabelTexts);
     addTable(texts, QStringLiteral("STRINGS"), StringTexts);
+    texts[{QStringLiteral("SPEECH"), 1}] = QString::fromStdString(SelectedWord);
     return texts;
 }
 
@@ -239,6 +240,17 @@ TEST_P(LanguageFiles, JoinNumbersToWordsByAHyphenThatDoesNotBreak) {
     const QRegularExpression breaking(QStringLiteral("[0-9][-\u2010][^0-9]"));
     for (const auto& [entry, text] : texts())
         EXPECT_FALSE(text.contains(breaking)) << entry;
+}
+
+// What is spoken is cut out of them.
+TEST_P(LanguageFiles, KeepTheSignsBetweenWhatIsSpokenAndWhatIsNot) {
+    const Texts own = texts();
+    const auto string = [&own](int key) { return at(own, QStringLiteral("STRINGS"), key); };
+    EXPECT_EQ(string(MonthText).count(QStringLiteral(". ")), 1);
+    for (const int key : {DayOfYearText, WeekOfYearText})
+        EXPECT_EQ(string(key).count(u'/'), 1) << key;
+    for (const int key : {MonthGridText, YearGridText, MoonPictureText})
+        EXPECT_EQ(string(key).count(QStringLiteral(" (")), 1) << key;
 }
 
 TEST_P(LanguageFiles, WeekdaysAreShortenedToTwoCharacters) {

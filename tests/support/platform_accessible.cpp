@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "support/platform_accessible.h"
 
+#include "platform/flexgrid.h"
+#include "platform/gridaccessible.h"
 #include "support/platform_test.h"
 
 #include <QtGui/private/qguiapplication_p.h>
@@ -21,8 +23,10 @@ std::vector<AccessibleWatch::Told> allTold;
 
 void keep(QAccessibleEvent* event) {
     const QAccessibleInterface* told = event->accessibleInterface();
-    allTold.push_back({event->type(), event->object(),
-                       told == nullptr ? QString() : told->text(QAccessible::Name)});
+    if (told == nullptr)
+        return;
+    QObject* control = told->object() != nullptr ? told->object() : told->parent()->object();
+    allTold.push_back({event->type(), control, told->text(QAccessible::Name)});
 }
 
 } // namespace
@@ -55,6 +59,11 @@ QAccessibleInterface& accessible(QObject& control) {
     QAccessibleInterface* told = QAccessible::queryAccessibleInterface(&control);
     EXPECT_NE(told, nullptr);
     return *told;
+}
+
+QAccessibleInterface* accessibleCell(MSFlexGrid& grid, int row, int column) {
+    const auto& list = dynamic_cast<GridAccessible&>(accessible(grid));
+    return list.Entry(grid.model()->index(row, column));
 }
 
 QString accessibleName(QObject& control) {

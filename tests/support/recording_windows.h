@@ -49,7 +49,7 @@ public:
         ::record("monthly.SetTexts");
         recordTexts(*this, record, CalendarNames(monthlyCalendarsName));
     }
-    void SetCloseTip(const QString& tip) override { record.closeTip = tip; }
+    void SetCloseTip(int text) override { record.closeTip = Text(StringTexts(text)); }
     void SetCal(int pane) override { refill("SetCal", pane); }
     void SetGrid(int pane) override { refill("SetGrid", pane); }
     void SetCommonInfo() override {
@@ -77,7 +77,7 @@ public:
         ::record(name() + ".SetTexts");
         recordTexts(*this, record, CalendarNames(m_calendar));
     }
-    void SetCloseTip(const QString& tip) override { record.closeTip = tip; }
+    void SetCloseTip(int text) override { record.closeTip = Text(StringTexts(text)); }
     void ShowYear() override {
         ::record(name() + ".ShowYear");
         ++record.rebuilt;

@@ -8,6 +8,7 @@ struct TextTables {
     decltype(CalendarNames) calendarNames = CalendarNames;
     decltype(MonthNames) monthNames = MonthNames;
     std::string adarName = AdarName;
+    std::string selectedWord = SelectedWord;
     decltype(WeekDayNames) weekDayNames = WeekDayNames;
     decltype(WeekDayAbbrs) weekDayAbbrs = WeekDayAbbrs;
     decltype(LabelTexts) labelTexts = LabelTexts;
@@ -21,6 +22,7 @@ inline void clearTexts() {
     CalendarNames = {};
     MonthNames = {};
     AdarName.clear();
+    SelectedWord.clear();
     WeekDayNames = {};
     WeekDayAbbrs = {};
     LabelTexts = {};

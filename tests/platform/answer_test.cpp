@@ -1,0 +1,112 @@
+// SPDX-License-Identifier: MIT
+#include "platform/answer.h"
+
+#include "platform/combobox.h"
+#include "platform/flexgrid.h"
+#include "platform/form.h"
+#include "support/platform_accessible.h"
+#include "support/platform_test.h"
+
+#include <QPushButton>
+
+namespace {
+
+using Told = AccessibleWatch::Told;
+
+class TalkingForm : public Form {
+public:
+    TalkingForm() : Form(QStringLiteral("frmTalking")) {}
+    QString Answer() const override { return QStringLiteral("the day"); }
+};
+
+class Answers : public PlatformTest {
+protected:
+    Answers()
+        : list(new ComboBox(QStringLiteral("Combo1"), &window)),
+          button(new QPushButton(&window)),
+          grid(new MSFlexGrid(QStringLiteral("MSFlexGrid1"), 2, 2, &window)) {
+        list->SetItems({QStringLiteral("2025"), QStringLiteral("2026"), QStringLiteral("2027")}, 0);
+        button->move(0, 50);
+        grid->move(0, 100);
+        showWithFocus(window, *list);
+        processEvents();
+    }
+
+    std::vector<Told> of(const char* text) {
+        return {{QAccessible::Focus, &window, QLatin1String(text)}};
+    }
+
+    TalkingForm window;
+    ComboBox* list;
+    QPushButton* button;
+    MSFlexGrid* grid;
+};
+
+TEST_F(Answers, AListSaysEachEntryThatIsChosenInIt) {
+    AccessibleWatch watch;
+    QTest::keyClick(list, Qt::Key_Down);
+    EXPECT_EQ(watch.take(QAccessible::Focus), of("2026"));
+    QTest::keyClick(list, Qt::Key_Down);
+    EXPECT_EQ(watch.take(QAccessible::Focus), of("2027"));
+    QTest::keyClick(list, Qt::Key_Down);
+    EXPECT_EQ(watch.take(QAccessible::Focus), std::vector<Told>{}) << "nothing has changed";
+}
+
+TEST_F(Answers, AreGivenOnceForAllThatAChangeDoes) {
+    QObject::connect(list, &ComboBox::Click, &window, [this] {
+        AnswerUser();
+        list->SetOnlyItem(QStringLiteral("2030"));
+        AnswerUser();
+    });
+    AccessibleWatch watch;
+    QTest::keyClick(list, Qt::Key_Down);
+    EXPECT_EQ(watch.take(QAccessible::Focus), of("2030"));
+}
+
+TEST_F(Answers, TheWindowSpeaksForAControlThatCannot) {
+    button->setFocus();
+    AccessibleWatch watch;
+    AnswerUser();
+    EXPECT_EQ(watch.take(QAccessible::Focus), of("the day"));
+}
+
+TEST_F(Answers, AGridSpeaksForItself) {
+    grid->setFocus();
+    AccessibleWatch watch;
+    AnswerUser();
+    EXPECT_EQ(watch.take(QAccessible::Focus), std::vector<Told>{});
+}
+
+TEST_F(Answers, AFocusThatMovesIsAnswerEnough) {
+    AccessibleWatch watch;
+    AnswerUser();
+    button->setFocus();
+    EXPECT_EQ(watch.take(QAccessible::Focus),
+              (std::vector<Told>{{QAccessible::Focus, button, QString()}}));
+}
+
+// A tool passes over what has no place, and tells no entry twice.
+TEST_F(Answers, AreAnEntryOfTheWindowEachAnother) {
+    AccessibleWatch watch;
+    std::vector<QAccessible::Id> told;
+    QAccessible::installUpdateHandler(nullptr);
+    static std::vector<QAccessibleInterface*> entries;
+    entries.clear();
+    QAccessible::installUpdateHandler([](QAccessibleEvent* event) {
+        if (event->type() == QAccessible::Focus)
+            entries.push_back(event->accessibleInterface());
+    });
+    for (int times = 0; times < 2; ++times) {
+        AnswerUser();
+        processEvents();
+    }
+    ASSERT_EQ(entries.size(), 2U);
+    EXPECT_NE(entries[0], entries[1]);
+    EXPECT_EQ(entries[1]->role(), QAccessible::ListItem);
+    EXPECT_TRUE(entries[1]->state().focused);
+    EXPECT_EQ(entries[1]->parent(), &accessible(window));
+    EXPECT_GE(accessible(window).indexOfChild(entries[1]), 0);
+    QAccessible::installUpdateHandler(nullptr);
+}
+
+} // namespace
