@@ -8,7 +8,7 @@ screen_packages=(xvfb openbox xdotool x11-utils xclip imagemagick libfaketime)
 test_packages=(adwaita-qt6 fonts-noto-core libgtest-dev libbenchmark-dev libicu-dev qt6-base-private-dev clang-format
     clang-tidy clang-tools iwyu python3 python3-gi git appstream desktop-file-utils man-db lintian fakeroot
     dpkg-dev debhelper file clang autopkgtest at-spi2-core dbus-daemon gir1.2-atspi-2.0
-    poppler-utils weston xwayland qt6-wayland)
+    poppler-utils weston xwayland qt6-wayland orca python3-pyatspi)
 
 is_installed() {
     [ "$(dpkg-query -W -f='${db:Status-Status}' "$1" 2>/dev/null)" = installed ]

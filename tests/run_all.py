@@ -29,8 +29,8 @@ LINTED_AT_LENGTH = [f"tests/{folder}" for folder in sorted([*TESTED, "support"])
 
 
 class Result:
-    def __init__(self, name, passed, failed, output, seconds):
-        self.name, self.passed, self.failed = name, passed, failed
+    def __init__(self, name, passed, failed, output, seconds, skipped=0):
+        self.name, self.passed, self.failed, self.skipped = name, passed, failed, skipped
         self.output, self.seconds = output, seconds
 
 
@@ -87,11 +87,11 @@ def room_tests_with_noto(room):
 def end_to_end():
     # The system's own Python, which the packages of the assistive interface are for.
     status, output, seconds = run(["/usr/bin/python3", "tests/endtoend/run.py", PROGRAM])
-    counts = re.search(r"(\d+) passed, (\d+) failed\s*$", output)
+    counts = re.search(r"(\d+) passed, (\d+) failed, (\d+) skipped\s*$", output)
     if not counts:
         return Result("end to end", 0, 1, output, seconds)
     failed = max(int(counts[2]), int(status != 0))
-    return Result("end to end", int(counts[1]), failed, output, seconds)
+    return Result("end to end", int(counts[1]), failed, output, seconds, int(counts[3]))
 
 
 def our_files(*patterns):
@@ -173,7 +173,8 @@ def pictures():
 
 def report(result):
     verdict = "ok" if result.failed == 0 else "FAILED"
-    print(f"{result.name}: {result.passed} passed, {result.failed} failed, "
+    skipped = f"{result.skipped} skipped, " if result.skipped else ""
+    print(f"{result.name}: {result.passed} passed, {result.failed} failed, {skipped}"
           f"{result.seconds:.0f} s, {verdict}", flush=True)
     if result.failed:
         print(result.output[-20000:], flush=True)
@@ -221,7 +222,8 @@ def main():
         results = run_everything("--long" in sys.argv[1:])
     passed = sum(result.passed for result in results)
     failed = sum(result.failed for result in results)
-    print(f"{passed} passed, {failed} failed")
+    skipped = sum(result.skipped for result in results)
+    print(f"{passed} passed, {failed} failed" + (f", {skipped} skipped" if skipped else ""))
     sys.exit(1 if failed or not passed else 0)
 
 

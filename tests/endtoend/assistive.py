@@ -6,45 +6,30 @@ import atexit
 import contextlib
 import functools
 import os
-import subprocess
 
 import gi
 
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib
 
+from sessionbus import SessionBus
 from waiting import wait_until
 
 KEY_UP = 0xff52
 
 
-class Bus:
-    """A session bus of its own, on which assistive tools and programs meet."""
-
-    def __init__(self, desktop):
-        self._environment = desktop.environment()
+class Bus(SessionBus):
+    """The bus as this process joins it too."""
 
     def start(self):
-        reading, writing = os.pipe()
-        self._process = subprocess.Popen(
-            ["dbus-daemon", "--session", "--nofork", f"--print-address={writing}"],
-            env=self._environment, pass_fds=[writing], stdout=subprocess.DEVNULL,
-            stderr=subprocess.DEVNULL)
-        os.close(writing)
-        with open(reading, encoding="ascii") as pipe:
-            self.address = pipe.readline().strip()
+        super().start()
         os.environ["DISPLAY"] = self._environment["DISPLAY"]
         os.environ["DBUS_SESSION_BUS_ADDRESS"] = self.address
         Atspi.init()
 
     def stop(self):
         Atspi.exit()
-        self._process.terminate()
-        self._process.wait()
-
-    def environment(self):
-        """What a program needs that shall be met here."""
-        return {"DBUS_SESSION_BUS_ADDRESS": self.address, "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"}
+        super().stop()
 
 
 @functools.cache
@@ -122,10 +107,6 @@ class Control:
 
     def has_focus(self):
         return self._has(Atspi.StateType.FOCUSED)
-    def uppermost_cell(self):
-        """The name of the first of the days that stand highest."""
-        return min(self.children(), key=Control._top).name
-
 
     def find(self, role, beginning):
         """The control of a role whose name begins so, None when there is none."""
@@ -141,11 +122,12 @@ class Control:
         """The names of a grid's days that are shown."""
         return [cell.name for cell in self.children() if cell.is_shown()]
 
+    def uppermost_cell(self):
+        """The name of the first of the days that stand highest."""
+        return min(self.children(), key=Control._top).name
+
     def selected(self):
         return [cell.name for cell in self.children()
-    def _top(self):
-        return Atspi.Component.get_extents(self._accessible, Atspi.CoordType.SCREEN).y
-
                 if cell._has(Atspi.StateType.SELECTED)]
 
     def press_cell(self, name):
@@ -160,6 +142,9 @@ class Control:
 
     def type(self, text):
         Atspi.EditableText.set_text_contents(self._accessible, text)
+
+    def _top(self):
+        return Atspi.Component.get_extents(self._accessible, Atspi.CoordType.SCREEN).y
 
     def _act(self, name):
         names = [self._accessible.get_action_name(index)

@@ -1,5 +1,6 @@
 # SPDX-License-Identifier: MIT
-"""Runs the end-to-end tests: python3 run.py <folder of the built program>."""
+"""Runs the end-to-end tests, or those whose name contains a text:
+python3 run.py <folder of the built program> [text]"""
 
 import pathlib
 import signal
@@ -47,9 +48,11 @@ class Result(unittest.TextTestResult):
             self.stream.writeln(f"no screenshot: {problem}")
 
 
-def load_tests():
+def load_tests(name):
     folder = str(pathlib.Path(__file__).resolve().parent)
-    return unittest.defaultTestLoader.discover(folder, "test_*.py", folder)
+    loader = unittest.TestLoader()
+    loader.testNamePatterns = [f"*{name}*"]
+    return loader.discover(folder, "test_*.py", folder)
 
 
 def run_tests(tests):
@@ -66,14 +69,15 @@ def run_tests(tests):
 
 
 def main(arguments):
-    built = pathlib.Path(arguments[0]) if len(arguments) == 1 else None
+    built = pathlib.Path(arguments[0]) if len(arguments) in (1, 2) else None
     if built is None or not (built / program.EXECUTABLE).is_file():
         print(__doc__, file=sys.stderr)
         return 2
     testcase.EndToEndTest.built = built.resolve()
-    result = run_tests(load_tests())
-    failed = len(result.failed)
-    print(f"{result.testsRun - failed} passed, {failed} failed", flush=True)
+    result = run_tests(load_tests(arguments[1] if len(arguments) == 2 else ""))
+    failed, skipped = len(result.failed), len(result.skipped)
+    passed = result.testsRun - failed - skipped
+    print(f"{passed} passed, {failed} failed, {skipped} skipped", flush=True)
     return 1 if failed or result.testsRun == 0 else 0
 
 
