@@ -19,9 +19,11 @@ using Printing::PaperDay;
 // Sizes where all columns fit; where they do not, letters and gaps are smaller.
 constexpr double letterSize = 8.5;
 constexpr double headSize = 7;
+constexpr double headLine = 8.2;  // of two
 constexpr double gapInColumn = 4; // between figures and words
 constexpr double leastGap = 9;    // between columns
 constexpr double belowHead = 6;
+constexpr double headHeight = 2 * headLine + belowHead;
 constexpr double lineInRow = 0.66; // of its height, where the letters stand
 constexpr double ruleThickness = 0.8;
 
@@ -33,7 +35,7 @@ constexpr double weekGap = 0.35;
 /// A column: in every row a number, the last figures above each other, or words,
 /// or words behind a number. The words are left out where no row has any.
 struct Column {
-    QString head;
+    QStringList head;
     QStringList figures;
     QStringList words;
 };
@@ -59,23 +61,42 @@ struct Place {
 struct Measures {
     double scale; ///< of letters and of the gaps within columns
     std::vector<Place> places;
-    double headHeight;
     double rowHeight;
 };
+
+double widest(const QStringList& texts, double size) {
+    double width = 0;
+    for (const QString& text : texts)
+        width = std::max(width, Sheet::WidthOf(text, {size, true}));
+    return width;
+}
+
+// In two lines where it has words enough, divided where that makes it narrowest, but
+// not between brackets.
+QStringList headOf(const QString& text) {
+    const QStringList words = text.split(u' ');
+    QStringList head{text};
+    for (qsizetype above = 1; above < words.size() && !words[above - 1].startsWith(u'('); ++above) {
+        const QStringList lines{words.first(above).join(u' '), words.sliced(above).join(u' ')};
+        if (widest(lines, headSize) < widest(head, headSize))
+            head = lines;
+    }
+    return head;
+}
 
 QString inFigures(int number) {
     return number == 0 ? QString() : QString::number(number);
 }
 
 Column weekdayColumn(const std::vector<PaperDay>& days) {
-    Column column{Text(StringTexts(WeekDayText)), {}, {}};
+    Column column{headOf(Text(StringTexts(WeekDayText))), {}, {}};
     for (const PaperDay& day : days)
         column.words.append(Text(WeekDayNames(day.weekday)));
     return column;
 }
 
 Column dateColumn(const std::vector<PaperDay>& days, int c) {
-    Column column{Text(CalendarNames(c)), {}, {}};
+    Column column{headOf(Text(CalendarNames(c))), {}, {}};
     for (const PaperDay& day : days) {
         const PaperDate& date = day.dates(c);
         column.figures.append(inFigures(date.day));
@@ -88,21 +109,21 @@ Column dateColumn(const std::vector<PaperDay>& days, int c) {
 // Of the name that says what the number and the number of days in the year are, the
 // first half.
 Column dayOfYearColumn(const std::vector<PaperDay>& days, int c) {
-    Column column{Text(StringTexts(DayOfYearText)).section(u'/', 0, 0), {}, {}};
+    Column column{headOf(Text(StringTexts(DayOfYearText)).section(u'/', 0, 0)), {}, {}};
     for (const PaperDay& day : days)
         column.figures.append(QString::number(day.dates(c).dayOfYear));
     return column;
 }
 
 Column julianDayColumn(const std::vector<PaperDay>& days) {
-    Column column{Text(StringTexts(JulianDayText)), {}, {}};
+    Column column{headOf(Text(StringTexts(JulianDayText))), {}, {}};
     for (const PaperDay& day : days)
         column.figures.append(QString::number(day.julianDay));
     return column;
 }
 
 Column moonColumn(const std::vector<PaperDay>& days) {
-    Column column{Text(StringTexts(MoonAgeText)), {}, {}};
+    Column column{headOf(Text(StringTexts(MoonAgeText))), {}, {}};
     for (const PaperDay& day : days) {
         column.figures.append(FormatOneDecimal(day.moonAge));
         column.words.append(Printing::SignOfQuarter(day.moonAge));
@@ -130,26 +151,8 @@ MonthOnPaper monthOf(int c) {
     return month;
 }
 
-double widest(const QStringList& texts, double size) {
-    double width = 0;
-    for (const QString& text : texts)
-        width = std::max(width, Sheet::WidthOf(text, {size, true}));
-    return width;
-}
-
 bool isOfFigures(const Column& column) {
     return column.words.isEmpty();
-}
-
-// Of a head in two lines, divided where that makes it narrowest.
-double headWidth(const QString& head) {
-    const QStringList words = head.split(u' ');
-    double width = Sheet::WidthOf(head, {headSize});
-    for (qsizetype above = 1; above < words.size(); ++above) {
-        const QStringList lines{words.first(above).join(u' '), words.sliced(above).join(u' ')};
-        width = std::min(width, widest(lines, headSize));
-    }
-    return width;
 }
 
 // At the left edge of the page, in letters of the usual size.
@@ -157,7 +160,7 @@ Place placeOf(const Column& column) {
     const double figures = widest(column.figures, letterSize);
     const double words = widest(column.words, letterSize);
     const double gap = figures > 0 && words > 0 ? gapInColumn : 0;
-    const double width = std::max(figures + gap + words, headWidth(column.head));
+    const double width = std::max(figures + gap + words, widest(column.head, headSize));
     const double figuresLeft = isOfFigures(column) ? width - figures : 0;
     return {0, width, figuresLeft, figures, figures + gap};
 }
@@ -178,27 +181,25 @@ Measures measuresOf(const MonthOnPaper& month, const Sheet& sheet, double top) {
     const double scale = std::min(1.0, (sheet.Width() - gaps * leastGap) / totalWidth(places));
     const double gap = (sheet.Width() - totalWidth(places) * scale) / gaps;
     double left = 0;
-    double headHeight = 0;
-    for (std::size_t at = 0; at < places.size(); ++at) {
-        Place& place = places[at];
+    for (Place& place : places) {
         place = {left, place.width * scale, left + place.figuresLeft * scale,
                  place.figuresWidth * scale, left + place.wordsLeft * scale};
         left += place.width + gap;
-        headHeight = std::max(
-            headHeight, Sheet::HeightOf(month.columns[at].head, {headSize * scale}, place.width));
     }
-    const double height = sheet.Height() - top - headHeight - belowHead;
-    return {scale, places, headHeight, height / (mostRows + mostWeekGaps * weekGap)};
+    return {scale, places, (sheet.Height() - top) / (mostRows + mostWeekGaps * weekGap)};
 }
 
 void writeHeads(const Sheet& sheet, const MonthOnPaper& month, const Measures& measures,
-                double top) {
+                double bottom) {
     for (std::size_t at = 0; at < month.columns.size(); ++at) {
         const Column& column = month.columns[at];
         const Place& place = measures.places[at];
-        sheet.WriteLines({place.left, top, place.width, measures.headHeight}, column.head,
-                         {headSize * measures.scale},
-                         isOfFigures(column) ? Qt::AlignRight : Qt::AlignLeft);
+        double top = bottom - static_cast<double>(column.head.size()) * headLine;
+        for (const QString& line : column.head) {
+            sheet.Write({place.left, top, place.width, headLine}, line, {headSize * measures.scale},
+                        isOfFigures(column) ? Qt::AlignRight : Qt::AlignLeft);
+            top += headLine;
+        }
     }
 }
 
@@ -217,10 +218,9 @@ void writeRow(const Sheet& sheet, const MonthOnPaper& month, const Measures& mea
 }
 
 void writeMonth(const Sheet& sheet, const MonthOnPaper& month) {
-    double top = sheet.WriteHeading(month.title, month.subtitle);
+    double top = sheet.WriteHeading(month.title, month.subtitle) + headHeight;
     const Measures measures = measuresOf(month, sheet, top);
-    writeHeads(sheet, month, measures, top);
-    top += measures.headHeight + belowHead;
+    writeHeads(sheet, month, measures, top - belowHead);
     sheet.DrawRule(0, sheet.Width(), top, ruleThickness);
     for (std::size_t row = 0; row < month.opensWeek.size(); ++row) {
         if (row != 0 && month.opensWeek[row])

@@ -61,17 +61,20 @@ Sheet::Sheet(QPainter& painter, const QPageLayout& layout, bool rightToLeft)
     painter.setLayoutDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
 }
 
-void Sheet::Write(const QRectF& where, const QString& text, Letters letters) const {
-    write(where, text, fontOf(letters), Qt::AlignLeft | Qt::TextSingleLine);
+void Sheet::Write(const QRectF& where, const QString& text, Letters letters,
+                  Qt::Alignment alignment) const {
+    QRectF place = inParts(onPaper(where));
+    const QFont font = FittedFont(fontOf(letters), text, static_cast<int>(place.width()));
+    place.setBottom(place.bottom() + QFontMetricsF(font).descent());
+    m_painter.setFont(font);
+    m_painter.drawText(place,
+                       static_cast<int>(alignment | Qt::AlignBottom) | Qt::TextSingleLine |
+                           Qt::TextDontClip,
+                       text);
 }
 
 void Sheet::WriteFigures(const QRectF& where, const QString& figures, Letters letters) const {
-    write(where, figures, fontOf(letters), Qt::AlignRight | Qt::AlignAbsolute | Qt::TextSingleLine);
-}
-
-void Sheet::WriteLines(const QRectF& where, const QString& text, Letters letters,
-                       Qt::Alignment alignment) const {
-    write(where, text, fontOf(letters), static_cast<int>(alignment) | Qt::TextWordWrap);
+    Write(where, figures, letters, Qt::AlignRight | Qt::AlignAbsolute);
 }
 
 double Sheet::WriteHeading(const QString& title, const QString& subtitle) const {
@@ -91,22 +94,7 @@ double Sheet::WidthOf(const QString& text, Letters letters) {
     return QFontMetricsF(fontOf(letters)).horizontalAdvance(text) / parts;
 }
 
-double Sheet::HeightOf(const QString& text, Letters letters, double width) {
-    const QRectF room(0, 0, width * parts, INT_MAX);
-    return QFontMetricsF(fontOf(letters)).boundingRect(room, Qt::TextWordWrap, text).height() /
-           parts;
-}
-
 QRectF Sheet::onPaper(const QRectF& where) const {
     const double left = m_rightToLeft ? m_width - where.right() : where.left();
     return {left, where.top(), where.width(), where.height()};
-}
-
-void Sheet::write(const QRectF& where, const QString& text, const QFont& font, int flags) const {
-    QRectF place = inParts(onPaper(where));
-    const bool oneLine = (flags & Qt::TextSingleLine) != 0;
-    const QFont fitted = oneLine ? FittedFont(font, text, static_cast<int>(place.width())) : font;
-    place.setBottom(place.bottom() + QFontMetricsF(fitted).descent());
-    m_painter.setFont(fitted);
-    m_painter.drawText(place, flags | Qt::AlignBottom | Qt::TextDontClip, text);
 }

@@ -30,30 +30,22 @@ public:
     double Height() const { return m_height; }
 
     /// A line of text that stands on the lower edge of a place, in smaller letters
-    /// where it would be too wide.
-    void Write(const QRectF& where, const QString& text, Letters letters) const;
+    /// where it would be too wide; AlignRight is where lines end.
+    void Write(const QRectF& where, const QString& text, Letters letters,
+               Qt::Alignment alignment = Qt::AlignLeft) const;
 
     /// The same for a number, the last figure at the right.
     void WriteFigures(const QRectF& where, const QString& figures, Letters letters) const;
-
-    /// Text in as many lines as it takes, the last one on the lower edge; AlignRight
-    /// is where lines end.
-    void WriteLines(const QRectF& where, const QString& text, Letters letters,
-                    Qt::Alignment alignment) const;
 
     /// Title and subtitle above a rule at the top of the page; returns the y below.
     double WriteHeading(const QString& title, const QString& subtitle) const;
 
     void DrawRule(double left, double right, double y, double thickness) const;
 
-    /// The room that a text takes in one line, and the height that it takes in lines
-    /// of a width.
     static double WidthOf(const QString& text, Letters letters);
-    static double HeightOf(const QString& text, Letters letters, double width);
 
 private:
     QRectF onPaper(const QRectF& where) const;
-    void write(const QRectF& where, const QString& text, const QFont& font, int flags) const;
 
     QPainter& m_painter;
     double m_width;

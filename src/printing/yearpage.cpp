@@ -22,9 +22,11 @@ constexpr double gapBelow = 11;
 constexpr Sheet::Letters nameLetters{10.5, true};
 constexpr double nameHeight = 9;
 constexpr Sheet::Letters lineLetters{6};
-constexpr double lineHeight = 8.5;
+constexpr double lineHeight = 8;
 constexpr double aboveRule = 4;
 constexpr double belowRule = 3;
+constexpr double titleHeight =
+    nameHeight + (calendarCount - 1) * lineHeight + aboveRule + belowRule;
 constexpr Sheet::Letters weekdayLetters{6};
 constexpr double weekdayWidth = 17;
 
@@ -37,7 +39,7 @@ constexpr double smallLetters = 0.33;
 
 struct MonthBlock {
     QString name;
-    QStringList lines; ///< the months of the other calendars
+    QStringList lines; ///< the months of each other calendar
     int leadingBlanks;
     std::vector<PaperDay> days;
 };
@@ -54,25 +56,10 @@ struct YearOnPaper {
 /// What the page leaves for a block.
 struct Measures {
     double width;
-    double titleHeight;
     double rowHeight;
 
     double Height() const { return titleHeight + daysInWeek * rowHeight; }
 };
-
-// As many parts in a line as fit on any page.
-QStringList inLines(const QStringList& parts) {
-    constexpr double width = (Sheet::leastWidth - (blocksInBand - 1) * gapBeside) / blocksInBand;
-    QStringList lines;
-    for (const QString& part : parts) {
-        const QString longer = lines.isEmpty() ? part : Printing::Joined({lines.last(), part});
-        if (lines.isEmpty() || Sheet::WidthOf(longer, lineLetters) > width)
-            lines.append(part);
-        else
-            lines.last() = longer;
-    }
-    return lines;
-}
 
 MonthBlock blockOf(const std::vector<int>& calendars, int month) {
     const int c = calendars.front();
@@ -81,8 +68,8 @@ MonthBlock blockOf(const std::vector<int>& calendars, int month) {
                      {},
                      Calc::LeadingBlanks(c, month),
                      Printing::DaysBetween(first, first + MonthDays(c, month) - 1)};
-    block.lines = inLines(Printing::InOthers(
-        calendars, [&block](int other) { return Printing::MonthsTouched(block.days, other); }));
+    block.lines = Printing::InOthers(
+        calendars, [&block](int other) { return Printing::MonthsTouched(block.days, other); });
     return block;
 }
 
@@ -102,19 +89,10 @@ YearOnPaper yearOf(int c) {
     return year;
 }
 
-qsizetype mostLines(const YearOnPaper& year) {
-    qsizetype most = 0;
-    for (const MonthBlock& month : year.months)
-        most = std::max(most, month.lines.size());
-    return most;
-}
-
 Measures measuresOf(const YearOnPaper& year, const Sheet& sheet, double top) {
     const auto bands = (static_cast<int>(year.months.size()) + blocksInBand - 1) / blocksInBand;
     const double height = (sheet.Height() - top + gapBelow) / bands - gapBelow;
-    const double titleHeight =
-        nameHeight + static_cast<double>(mostLines(year)) * lineHeight + aboveRule + belowRule;
-    return {(sheet.Width() + gapBeside) / blocksInBand - gapBeside, titleHeight,
+    return {(sheet.Width() + gapBeside) / blocksInBand - gapBeside,
             (height - titleHeight) / daysInWeek};
 }
 
@@ -126,32 +104,28 @@ void writeTitle(const Sheet& sheet, QPointF corner, const Measures& measures,
         sheet.Write({corner.x(), top, measures.width, lineHeight}, line, lineLetters);
         top += lineHeight;
     }
-    sheet.DrawRule(corner.x(), corner.x() + measures.width,
-                   corner.y() + measures.titleHeight - belowRule, 0.4);
+    sheet.DrawRule(corner.x(), corner.x() + measures.width, corner.y() + titleHeight - belowRule,
+                   0.4);
 }
 
-// In the middle of a width, the figures of all days above each other.
-void writeNumber(const Sheet& sheet, const QRectF& where, int number, Sheet::Letters letters) {
-    const double width = Sheet::WidthOf(QStringLiteral("00"), {letters.size, true});
-    const QRectF middle(where.center().x() - width / 2, where.top(), width, where.height());
-    sheet.WriteFigures(middle, QString::number(number), letters);
-}
-
+// In the middle of the cell, the figures of all days above each other.
 void writeDay(const Sheet& sheet, const QRectF& cell, const YearOnPaper& year,
               const PaperDay& day) {
     const double height = cell.height();
-    writeNumber(sheet, {cell.left(), cell.top(), cell.width(), height * dayBottom},
-                day.dates(year.calendar).day, {height * dayLetters});
+    const double width = Sheet::WidthOf(QStringLiteral("00"), {height * dayLetters});
+    const double left = cell.center().x() - width / 2;
+    sheet.WriteFigures({left, cell.top(), width, height * dayBottom},
+                       QString::number(day.dates(year.calendar).day), {height * dayLetters});
     const int other = day.dates(year.other).day;
     if (other != 0)
-        writeNumber(sheet, {cell.left(), cell.top(), cell.width(), height * smallBottom}, other,
-                    {height * smallLetters, other == 1});
+        sheet.WriteFigures({left, cell.top(), width, height * smallBottom}, QString::number(other),
+                           {height * smallLetters, other == 1});
 }
 
 void writeBlock(const Sheet& sheet, QPointF corner, const Measures& measures,
                 const YearOnPaper& year, const MonthBlock& month) {
     writeTitle(sheet, corner, measures, month);
-    const double top = corner.y() + measures.titleHeight;
+    const double top = corner.y() + titleHeight;
     for (int row = 0; row < daysInWeek; ++row)
         sheet.Write({corner.x(), top + row * measures.rowHeight, weekdayWidth,
                      measures.rowHeight * dayBottom},

@@ -107,14 +107,17 @@ INSTANTIATE_TEST_SUITE_P(, MonthPages,
 
 class MonthPage : public PrintingTest {
 protected:
-    /// The words of a text, from the top.
-    std::vector<double> heightsOf(const QString& text) const {
-        std::vector<double> heights;
-        for (const Word& word : words()) {
+    /// The rooms of a text's words, from the top.
+    std::vector<QRectF> roomsOf(const QString& text) const { return roomsOf(text, words()); }
+
+    static std::vector<QRectF> roomsOf(const QString& text, const std::vector<Word>& words) {
+        std::vector<QRectF> rooms;
+        for (const Word& word : words) {
             if (word.text == text)
-                heights.push_back(word.room.bottom());
+                rooms.push_back(word.room);
         }
-        return heights;
+        EXPECT_FALSE(rooms.empty()) << text.toStdString();
+        return rooms.empty() ? std::vector<QRectF>(1) : rooms;
     }
 };
 
@@ -124,9 +127,10 @@ TEST_F(MonthPage, HasTitleSpansAndHeads) {
     EXPECT_EQ(found[0], QStringLiteral("Gregorian calendar November 2026"));
     EXPECT_EQ(found[1], QStringLiteral("October – November 2026 · Heshvan – Kislev 5787 · "
                                        "Jumada I – Jumada II 1448"));
-    EXPECT_EQ(found[2], QStringLiteral("Year day Moon age"));
-    EXPECT_EQ(found[3], QStringLiteral("Week day Gregorian calendar Julian calendar Jewish "
-                                       "calendar Moslem calendar number Julian Day (in days)"));
+    EXPECT_EQ(found[2],
+              QStringLiteral("Week Gregorian Julian Jewish Moslem Year day Julian Moon age"));
+    EXPECT_EQ(found[3], QStringLiteral("day calendar calendar calendar calendar number Day (in "
+                                       "days)"));
     EXPECT_EQ(found.size(), 4 + 30);
 }
 
@@ -162,9 +166,10 @@ TEST_F(MonthPage, SetsWeeksApart) {
     for (const int first : {Monday, Tuesday, Wednesday, Thursday, Friday, Saturday, Sunday}) {
         FirstWeekDay(Gregorian) = first;
         print(Printing::MonthPage(Gregorian));
+        const auto found = words();
         std::vector<double> rows;
         for (int day = 2461346; day <= 2461375; ++day)
-            rows.push_back(heightsOf(QString::number(day)).at(0));
+            rows.push_back(roomsOf(QString::number(day), found)[0].bottom());
         const double row =
             rows[2] - rows[1] < rows[3] - rows[2] ? rows[2] - rows[1] : rows[3] - rows[2];
         for (std::size_t at = 1; at < rows.size(); ++at) {
@@ -176,20 +181,34 @@ TEST_F(MonthPage, SetsWeeksApart) {
 
 // In a language from right to left the columns stand in that order.
 TEST_F(MonthPage, RunsAsItsLanguageDoes) {
-    const auto leftOf = [this](const QString& text) {
-        const auto all = words();
-        const auto found = std::ranges::find(all, text, &Word::text);
-        EXPECT_NE(found, all.end());
-        return found->room.left();
-    };
+    const auto leftOf = [this](const char* text) { return roomsOf(QLatin1String(text))[0].left(); };
     print(Printing::MonthPage(Gregorian));
-    EXPECT_LT(leftOf(QStringLiteral("305")), leftOf(QStringLiteral("2461346")));
-    EXPECT_LT(leftOf(QStringLiteral("2461346")), leftOf(QStringLiteral("21.2")));
+    EXPECT_LT(leftOf("305"), leftOf("2461346"));
+    EXPECT_LT(leftOf("2461346"), leftOf("21.2"));
     for (const QString& language : {hebrew, persian, QStringLiteral("Arabic")}) {
         Names(language).Choose();
         print(Printing::MonthPage(Gregorian));
-        EXPECT_GT(leftOf(QStringLiteral("305")), leftOf(QStringLiteral("2461346")));
-        EXPECT_GT(leftOf(QStringLiteral("2461346")), leftOf(QStringLiteral("21.2")));
+        EXPECT_GT(leftOf("305"), leftOf("2461346"));
+        EXPECT_GT(leftOf("2461346"), leftOf("21.2"));
+    }
+}
+
+// A name that a language lacks stands where its own do.
+TEST_F(MonthPage, HasNamesOfOtherLettersInTheirColumn) {
+    Names(hebrew).Choose();
+    MonthNames(Julian, 10) = "X";
+    print(Printing::MonthPage(Gregorian));
+    const auto found = words();
+    auto names = roomsOf(QStringLiteral("X"), found);
+    ASSERT_EQ(names.size(), 1U + 13);
+    EXPECT_NEAR(names[0].right(), 555, 0.1); // where the line below the title begins
+    names.erase(names.begin());
+    for (const QRectF& name : names) {
+        const auto isDay = [&name](const Word& word) {
+            return word.room.left() > name.right() && word.room.left() < name.right() + 6 &&
+                   std::abs(word.room.bottom() - name.bottom()) < 1;
+        };
+        EXPECT_TRUE(std::ranges::any_of(found, isDay));
     }
 }
 
@@ -198,14 +217,35 @@ TEST_F(MonthPage, HasItsFiguresAboveEachOther) {
     for (const QString& language : {english, hebrew}) {
         Names(language).Choose();
         print(Printing::MonthPage(Gregorian));
-        std::vector<double> ends;
-        for (const Word& word : words()) {
-            if (word.text == QStringLiteral("0.6") || word.text == QStringLiteral("20.6"))
-                ends.push_back(word.room.right());
-        }
-        ASSERT_EQ(ends.size(), 2U);
-        EXPECT_NEAR(ends[0], ends[1], 0.05);
+        const auto found = words();
+        EXPECT_NEAR(roomsOf(QStringLiteral("0.6"), found)[0].right(),
+                    roomsOf(QStringLiteral("20.6"), found)[0].right(), 0.05);
     }
+}
+
+// A head is above what it names: where its column's lines begin, or end if it is of
+// figures alone. The chosen day, in bold, is the widest.
+TEST_F(MonthPage, HasItsHeadsAboveTheirColumns) {
+    Names(german).Choose();
+    print(Printing::MonthPage(Gregorian));
+    const auto found = words();
+    const auto room = [&found](const char* text) { return roomsOf(QLatin1String(text), found)[0]; };
+    EXPECT_NEAR(room("Wochentag").left(), room("Freitag").left(), 0.05);
+    EXPECT_NEAR(room("Wochentag").bottom(), room("(in").bottom(), 0.05);
+    EXPECT_NEAR(room("Jahr").right(), room("305").right(), 0.05);
+    EXPECT_NEAR(room("des").right(), room("305").right(), 0.05);
+    EXPECT_NEAR(room("Tag").right(), room("2461346").right(), 0.05);
+    EXPECT_NEAR(room("Mondalter").left(), room("10.6").left(), 0.05);
+    EXPECT_NEAR(room("(in").left(), room("10.6").left(), 0.05);
+}
+
+TEST_F(MonthPage, DividesNoHeadBetweenBrackets) {
+    StringTexts(MoonAgeText) = "Moon (days since the last new one)";
+    StringTexts(DayOfYearText) = "One two three four/five";
+    print(Printing::MonthPage(Gregorian));
+    EXPECT_TRUE(lines()[2].endsWith(QStringLiteral("One two Julian Moon")));
+    EXPECT_TRUE(
+        lines()[3].endsWith(QStringLiteral("three four Day (days since the last new one)")));
 }
 
 } // namespace

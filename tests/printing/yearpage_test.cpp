@@ -53,8 +53,14 @@ public:
     }
 
     /// The two sizes of which there are most: of the days, and the small ones.
-    Cells Days() const { return inCells(std::max(m_groups[0], m_groups[1], isSmaller)); }
-    Cells Small() const { return inCells(std::min(m_groups[0], m_groups[1], isSmaller)); }
+    Cells Days() const { return numbersOf(DayWords()); }
+    Cells Small() const { return numbersOf(SmallWords()); }
+    std::map<Cell, Word> DayWords() const {
+        return inCells(std::max(m_groups[0], m_groups[1], isSmaller));
+    }
+    std::map<Cell, Word> SmallWords() const {
+        return inCells(std::min(m_groups[0], m_groups[1], isSmaller));
+    }
 
 private:
     static bool isSmaller(const std::vector<Word>& one, const std::vector<Word>& other) {
@@ -71,20 +77,27 @@ private:
         return static_cast<int>((placeOf(word) - margin) / (m_width - 2 * margin) * blocksInBand);
     }
 
-    Cells inCells(const std::vector<Word>& words) const {
+    static Cells numbersOf(const std::map<Cell, Word>& words) {
+        Cells numbers;
+        for (const auto& [cell, word] : words)
+            numbers[cell] = word.text.toInt();
+        return numbers;
+    }
+
+    std::map<Cell, Word> inCells(const std::vector<Word>& words) const {
         std::vector<double> rows;
         std::vector<double> columns[blocksInBand];
         for (const Word& word : words) {
             rows.push_back(word.room.top());
             columns[blockOf(word)].push_back(placeOf(word));
         }
-        Cells cells;
+        std::map<Cell, Word> cells;
         for (const Word& word : words) {
             const int row = rankOf(word.room.top(), rows);
             const int block = blockOf(word);
             const Cell cell{row / 7, row % 7, block, rankOf(placeOf(word), columns[block])};
             EXPECT_FALSE(cells.contains(cell)) << cell;
-            cells[cell] = word.text.toInt();
+            cells[cell] = word;
         }
         return cells;
     }
@@ -308,22 +321,54 @@ TEST_F(YearPage, HasTheSmallFiguresOfTheFirstOtherPane) {
 }
 
 TEST_F(YearPage, NamesItsWeekdaysInEveryBlock) {
-    FirstWeekDay(Jewish) = Wednesday;
-    print(Printing::YearPage(Jewish));
-    std::map<QString, int> names;
-    QStringList order;
-    auto all = words();
-    std::ranges::stable_sort(all, {}, [](const Word& word) { return word.room.top(); });
-    for (const Word& word : all) {
-        const bool isName = QRegularExpression(QStringLiteral("^(Mo|Tu|We|Th|Fr|Sa|Su)$"))
-                                .match(word.text)
-                                .hasMatch();
-        if (isName && ++names[word.text] == 1)
-            order.append(word.text);
+    const QString week = QStringLiteral("Mo Tu We Th Fr Sa Su Mo Tu We Th Fr Sa ");
+    for (const int first : {Monday, Tuesday, Wednesday, Thursday, Friday, Saturday, Sunday}) {
+        FirstWeekDay(Jewish) = first;
+        print(Printing::YearPage(Jewish));
+        auto all = words();
+        std::erase_if(all, [&week](const Word& word) { return !week.contains(word.text + u' '); });
+        std::ranges::stable_sort(all, {}, [](const Word& word) { return word.room.top(); });
+        ASSERT_EQ(all.size(), 13U * 7);
+        QString order;
+        for (std::size_t at = 0; at < 7; ++at)
+            order += all[at * 3].text + u' '; // three blocks in a band
+        EXPECT_EQ(order.toStdString(), week.mid((first - 1) * 3, 21).toStdString());
     }
-    for (const auto& [name, count] : names)
-        EXPECT_EQ(count, 13) << name.toStdString();
-    EXPECT_EQ(order.join(u' '), QStringLiteral("We Th Fr Sa Su Mo Tu"));
+}
+
+TEST_F(YearPage, NamesEachCalendarsMonthsInALineOfTheirOwn) {
+    print(Printing::YearPage(Jewish));
+    const QStringList found = lines();
+    EXPECT_EQ(found[3], QStringLiteral("August – September 2026 September – October 2026 October "
+                                       "– November 2026"));
+    EXPECT_EQ(found[4], QStringLiteral("September – October 2026 October – November 2026 November "
+                                       "– December 2026"));
+    EXPECT_EQ(found[5],
+              QStringLiteral("Rabi I – Rabi II 1448 Jumada I 1448 Jumada II – Rajab 1448"));
+}
+
+// In a year of thirteen months, which has the smallest letters: much smaller than the
+// day above, ending below its end, nearer to it than to the next day, yet to be read.
+TEST_F(YearPage, HasSmallFiguresUnderTheirDays) {
+    for (const auto paper : {QPageSize::A4, QPageSize::Letter}) {
+        print(Printing::YearPage(Jewish), paper);
+        const NumbersOnPage numbers(words(), QPageSize(paper).size(QPageSize::Point).width(),
+                                    false);
+        const auto days = numbers.DayWords();
+        for (const auto& [cell, word] : numbers.SmallWords()) {
+            const QRectF small = word.room;
+            const QRectF day = days.at(cell).room;
+            EXPECT_GT(small.height(), 4.5) << cell;
+            EXPECT_LT(small.height(), day.height() * 0.7) << cell;
+            EXPECT_NEAR(small.right(), day.right(), 0.1) << cell;
+            const auto next = days.find({cell.band, cell.weekday + 1, cell.block, cell.week});
+            if (next != days.end()) {
+                const double middle = small.center().y();
+                EXPECT_LT(middle - day.center().y(), next->second.room.center().y() - middle)
+                    << cell;
+            }
+        }
+    }
 }
 
 } // namespace
