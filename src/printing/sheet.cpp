@@ -7,6 +7,7 @@
 #include <QFontMetricsF>
 #include <QPageLayout>
 #include <QPainter>
+#include <QRegularExpression>
 #include <algorithm>
 #include <cmath>
 
@@ -35,6 +36,13 @@ QFont fontOf(Sheet::Letters letters) {
 
 QRectF inParts(const QRectF& where) {
     return {where.topLeft() * parts, where.size() * parts};
+}
+
+// On a line from right to left: a year would stand before a Latin numeral that ends
+// the month's name.
+QString withNumbersBehind(QString text) {
+    static const QRegularExpression blank(QStringLiteral(" (?=[0-9])"));
+    return text.replace(blank, QStringLiteral("\u200f "));
 }
 
 QRectF printedPart(const QPageLayout& layout) {
@@ -70,7 +78,7 @@ void Sheet::Write(const QRectF& where, const QString& text, Letters letters,
     m_painter.drawText(place,
                        static_cast<int>(alignment | Qt::AlignBottom) | Qt::TextSingleLine |
                            Qt::TextDontClip,
-                       text);
+                       m_rightToLeft ? withNumbersBehind(text) : text);
 }
 
 void Sheet::WriteFigures(const QRectF& where, const QString& figures, Letters letters) const {

@@ -193,6 +193,19 @@ TEST_F(MonthPage, RunsAsItsLanguageDoes) {
     }
 }
 
+// Read from the right: the month, its numeral, the year.
+TEST_F(MonthPage, HasYearsBehindNumeralsOfOtherLetters) {
+    for (const QString& language : {hebrew, persian}) {
+        choose({Jewish, 5787, 7, language});
+        print(Printing::MonthPage(Jewish));
+        const auto found = words();
+        const QRectF numeral = roomsOf(QStringLiteral("II"), found)[0];
+        const QRectF year = roomsOf(QStringLiteral("5787"), found)[0];
+        EXPECT_NEAR(numeral.center().y(), year.center().y(), 1); // both in the title
+        EXPECT_LT(year.right(), numeral.left());
+    }
+}
+
 // A name that a language lacks stands where its own do.
 TEST_F(MonthPage, HasNamesOfOtherLettersInTheirColumn) {
     Names(hebrew).Choose();
