@@ -2,6 +2,7 @@
 """A page is printed into a file through the desktop's print dialog, where there is
 no printer."""
 
+import datetime
 import subprocess
 
 from testcase import EndToEndTest
@@ -23,15 +24,28 @@ class OnPaper(EndToEndTest):
 
     def test_a_cancelled_month_leaves_the_day_and_no_file(self):
         monthly = self.start_monthly()
-        monthly.wait_until_in_front()
-        monthly.press_key("ctrl+c")
-        before = self._copied()
+        today = f"Gregorian calendar: {datetime.date.today():%-d %B %Y}\n"
         self._open_dialog(monthly)
         self._press_until_gone("Escape")
+        monthly.wait_until_in_front()
         monthly.press_key("ctrl+c")
-        self.assertEqual(self._copied(), before)
+        wait_until(self._copied, "the day is copied")
+        self.assertIn(today, self._copied())
         self.assertEqual(self._pages(), [])
         monthly.press_key("ctrl+q")
+        self.assert_ends_well()
+
+    def test_a_full_disk_is_told_and_leaves_no_file(self):
+        self.program.run_by(["sh", "-c", "trap '' XFSZ; ulimit -f 4; exec \"$@\"", "sh"])
+        year = self.start_year("Moslem")
+        self._open_dialog(year)
+        self._press_until_gone("Return")
+        self.program.message_box().accept()
+        wait_until(lambda: not self.program.message_boxes(), "the message is gone",
+                   found=self.program.describe_windows)
+        year.wait_until_in_front()
+        self.assertEqual(list(self.program.home.iterdir()), [])
+        year.press_key("ctrl+q")
         self.assert_ends_well()
 
     def _open_dialog(self, window):
