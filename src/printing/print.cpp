@@ -80,7 +80,6 @@ void Printing::Print(Paper paper, int c) {
     const Page page = pageOf(paper, c);
     QPrinter printer(QPrinter::HighResolution);
     printer.setDocName(page.title);
-    printer.setCreator(ProgramTitle());
     if (isAccepted(printer))
         PrintPage(page, printer);
 }

@@ -31,6 +31,14 @@ protected:
         });
     }
 
+    void acceptWith(const QString& file) {
+        answerDialog([file](QPrintDialog& dialog) {
+            dialog.printer()->setOutputFormat(QPrinter::PdfFormat);
+            dialog.printer()->setOutputFileName(file);
+            dialog.done(QDialog::Accepted);
+        });
+    }
+
     int m_dialogs = 0;
 };
 
@@ -65,7 +73,9 @@ struct Everything {
 
 TEST_F(PrintedPages, LeavesEveryTableAsItIs) {
     for (const int type : {1, 2}) {
-        for (const int day : {1721319, 1721500, 1948440, 2461365, 2461000, 2817152, 2817404}) {
+        // Of 2461101 the Jewish year is common, at the end of the Gregorian one it is not.
+        for (const int day :
+             {1721319, 1721500, 1948440, 2461365, 2461000, 2461101, 2817152, 2817404}) {
             resetState(type);
             Names(QStringLiteral("English")).Choose();
             goToDay(day);
@@ -169,13 +179,31 @@ TEST_F(PrintedPages, AsksForThePrinterAndProposesTheTitleAsName) {
 }
 
 TEST_F(PrintedPages, PrintsWhatTheDialogAccepts) {
-    answerDialog([this](QPrintDialog& dialog) {
-        dialog.printer()->setOutputFormat(QPrinter::PdfFormat);
-        dialog.printer()->setOutputFileName(pdfPath());
-        dialog.done(QDialog::Accepted);
-    });
+    acceptWith(pdfPath());
     Printing::Print(Paper::Year, Moslem);
     EXPECT_EQ(lines()[0], QStringLiteral("Moslem calendar 1448"));
+}
+
+TEST_F(PrintedPages, LeavesEveryTableAsItIsWhetherItPrintsOrFails) {
+    const Everything before;
+    for (const char* file : {"page.pdf", "nowhere/page.pdf", ""}) {
+        acceptWith(*file == 0 ? QString() : inFolder(file));
+        Printing::Print(Paper::Year, Jewish);
+        Printing::Print(Paper::Month, Gregorian);
+        EXPECT_TRUE(before == Everything()) << file;
+    }
+    EXPECT_EQ(m_messages.take().size(), 4);
+    EXPECT_EQ(m_dialogs, 6);
+}
+
+TEST_F(PrintedPages, OffersAFileAndTheSizeOfThePaper) {
+    QAbstractPrintDialog::PrintDialogOptions options;
+    answerDialog([&options](QPrintDialog& dialog) {
+        options = dialog.options();
+        dialog.reject();
+    });
+    Printing::Print(Paper::Year, Jewish);
+    EXPECT_EQ(options, QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize);
 }
 
 TEST_F(PrintedPages, BeepsWhereThereIsNothingToPrint) {
