@@ -181,10 +181,11 @@ def report(result):
 
 
 def keep(results, long):
-    """What the page on verification says of the long tests."""
+    """What the page on verification says of this run."""
     rows = [{"name": one.name, "passed": one.passed, "failed": one.failed,
-             "seconds": round(one.seconds)} for one in results]
-    kept = {"long": long, "results": rows}
+             "skipped": one.skipped, "seconds": round(one.seconds)} for one in results]
+    commit = run(["git", "rev-parse", "--short", "HEAD"])[1].strip()
+    kept = {"long": long, "commit": commit, "results": rows}
     (ROOT / "build/results.json").write_text(json.dumps(kept, indent=1) + "\n")
 
 

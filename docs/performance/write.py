@@ -9,11 +9,16 @@ import os
 import pathlib
 import statistics
 import subprocess
+import sys
 import tempfile
 
 import outside
 
 ROOT = outside.ROOT
+sys.path.append(str(ROOT / "docs"))
+
+import machine  # noqa: E402  beside the folders of the pages
+
 BIN = ROOT / "build/bench/bin"
 HERE = pathlib.Path(__file__).resolve().parent
 STARTS = 5
@@ -48,6 +53,7 @@ def measured():
     ours = [outside.measured(BIN / "orvalen-years-calendar", 2, run == 0) for run in range(STARTS)]
     empty = [outside.measured(BIN / "empty_window", 1, False) for _ in range(STARTS)]
     return {
+        "system": machine.described(),
         "times": {**benchmarks("arithmetic_bench"), **benchmarks("windows_bench")},
         "windows": medians(run["milliseconds"] for run in ours),
         "empty_window": medians(run["milliseconds"] for run in empty),
@@ -134,12 +140,14 @@ At its peak the program takes {results["kilobytes"] / 1024:.1f} MB of memory, an
 
 
 def page(results):
-    times = Times(results["times"])
+    times, made = Times(results["times"]), results["system"]
     return "\n".join([
-        """# Performance
+        f"""# Performance
 
 Written by `docs/performance/write.py` from measured results. Compare within a row: what stands there was
-measured in one run on one machine, in time of the processor, as the median of five.
+measured in one run on one machine, in time of the processor, as the median of five: {made["processor"]},
+{made["cores"]} cores, {made["memory"]} of memory, {made["system"]} ({made["machine"]}), {made["compiler"]},
+Qt {made["qt"]}, ICU {made["icu"]}, the program at commit {made["commit"]}.
 """,
         days(times), steps(times), start(results),
         """## To make it again

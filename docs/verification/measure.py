@@ -5,19 +5,19 @@ their reports say."""
 import json
 import os
 import pathlib
-import platform
 import subprocess
+import sys
 import tempfile
 
 from coverage import coverage, forget
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
+sys.path.append(str(ROOT / "docs"))
+
+import machine  # noqa: E402  beside the folders of the pages
+
 BUILD = ROOT / "build/coverage"
 HOURLONG = "*AMillionRandomActions*"  # for ./test --long, under the sanitizers
-
-
-def said_by(*command):
-    return subprocess.run(command, cwd=ROOT, check=True, capture_output=True, text=True).stdout
 
 
 def build():
@@ -32,7 +32,8 @@ def run_tests(room):
         report = pathlib.Path(folder) / "report.json"
         environment = {**os.environ, "QT_QPA_PLATFORM": "offscreen", "XDG_RUNTIME_DIR": folder,
                        "GTEST_OUTPUT": f"json:{report}"}
-        subprocess.run([BUILD / "bin" / f"{room}_tests", "--gtest_also_run_disabled_tests",
+        on_screen = [sys.executable, "tests/endtoend/on_screen.py"] if room == "screen" else []
+        subprocess.run([*on_screen, BUILD / "bin" / f"{room}_tests", "--gtest_also_run_disabled_tests",
                         f"--gtest_filter=-{HOURLONG}"], cwd=ROOT, env=environment, check=True,
                        stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         return json.loads(report.read_text())
@@ -67,18 +68,6 @@ def late_years(found):
     return [numbers[i:i + 4] for i in range(0, len(numbers), 4)]
 
 
-def system():
-    release = platform.freedesktop_os_release()
-    return {
-        "system": release["PRETTY_NAME"],
-        "machine": platform.machine(),
-        "compiler": said_by("c++", "--version").splitlines()[0],
-        "gcov": said_by("gcov", "--version").splitlines()[0],
-        "qt": said_by("pkg-config", "--modversion", "Qt6Core").strip(),
-        "commit": said_by("git", "rev-parse", "--short", "HEAD").strip(),
-    }
-
-
 def measured():
     build()
     forget(BUILD)
@@ -90,7 +79,7 @@ def measured():
               flush=True)
     found = cases(reports)
     return {
-        "system": system(),
+        "system": machine.described(),
         "tests": {room: report["tests"] for room, report in reports.items()},
         "judgements": judgements(found),
         "late": late_years(found),

@@ -2,7 +2,7 @@
 """Writes docs/verification.md from measured results.
 
 Measures first, unless --page asks for the page alone. The results of the mutations
-and of the long tests come from their own commands."""
+and of ./test come from their own commands."""
 
 import argparse
 import collections
@@ -119,24 +119,32 @@ anybody could see; each has its reason in `tests/mutations/equivalents.json`.
 """
 
 
-def take_long_tests():
-    """Keeps the results of ./test when the last run was the long one."""
+def failed_in(run):
+    return [row["name"] for row in run["results"] if row["failed"]]
+
+
+def take_run():
+    """Keeps the results of the last ./test; a page tells of nothing that failed."""
     path = ROOT / "build/results.json"
-    if path.exists() and json.loads(path.read_text())["long"]:
-        shutil.copyfile(path, HERE / "long.json")
-
-
-def long_tests():
-    run = read("long.json")
+    if path.exists():
+        shutil.copyfile(path, HERE / "run.json")
+    run = read("run.json")
     if run is None:
-        return ""
-    rows = [(row["name"], number(row["passed"]), row["failed"], f"{row['seconds']} s")
+        raise SystemExit("No results of ./test: run it first.")
+    if failed_in(run):
+        raise SystemExit(f"The last ./test failed in: {', '.join(failed_in(run))}. No page is made of it.")
+
+
+def run_of_everything():
+    run = read("run.json")
+    rows = [(row["name"], number(row["passed"]), row["skipped"], f"{row['seconds']} s")
             for row in run["results"]]
-    return f"""## The long tests
+    command = "`./test --long`, with the long runs" if run["long"] else "`./test`"
+    return f"""## One run of everything
 
-`./test --long`, everything once, with a million random actions on all windows among the tests of endurance:
+{command} at commit {run["commit"]}: {number(sum(row["passed"] for row in run["results"]))} passed, none failed.
 
-{table(("what", "passed", "failed", "took"), rows)}
+{table(("what", "passed", "skipped", "took"), rows)}
 """
 
 
@@ -147,15 +155,16 @@ def page(results):
 
 How far this program can be trusted, in figures that anybody can make again. Written by
 `docs/verification/write.py` from measured results; nothing here is typed by hand. Measured on
-{made["system"]} ({made["machine"]}) with {made["compiler"]} and Qt {made["qt"]}.
+{made["system"]} ({made["machine"]}, {made["processor"]}, {made["cores"]} cores) with {made["compiler"]} and
+Qt {made["qt"]}.
 """,
         judges(results), known_faults(results), coverage_of(results), endured(results), mutations(),
-        long_tests(),
+        run_of_everything(),
         """## To make it again
 
     python3 docs/verification/write.py          # judges, coverage, chance and malice, and this page
     python3 tests/mutations/mutate.py           # the changes, some hours; it goes on where it stopped
-    ./test --long                               # everything, with the long runs
+    ./test                                      # everything; --long adds the long runs
     python3 docs/verification/write.py --page   # this page alone, from what was measured last
 """]
     return "\n".join(filter(None, parts))
@@ -164,9 +173,9 @@ How far this program can be trusted, in figures that anybody can make again. Wri
 def main():
     parser = argparse.ArgumentParser(description=__doc__.split("\n\n")[0])
     parser.add_argument("--page", action="store_true", help="measure nothing")
+    take_run()
     if not parser.parse_args().page:
         (HERE / "measured.json").write_text(json.dumps(measured(), indent=1) + "\n")
-    take_long_tests()
     (ROOT / "docs/verification.md").write_text(page(read("measured.json")))
 
 
