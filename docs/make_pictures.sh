@@ -9,7 +9,7 @@ cd "$(dirname "$0")/.."
 . packaging/packages.sh
 
 need_packages "${build_packages[@]}" "${run_packages[@]}" libbenchmark-dev libicu-dev
-build_preset bench --target make_pictures
+build_preset quick --target make_pictures
 # Nothing of the user's environment shows. The screen that the program draws on
 # cannot raise windows and would say so for each of them.
-env -i QT_LOGGING_RULES=default.warning=false build/bench/bin/make_pictures "$folder"
+env -i QT_LOGGING_RULES=default.warning=false build/quick/bin/make_pictures "$folder"

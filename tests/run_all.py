@@ -16,15 +16,15 @@ from checks import compile_database
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 ASAN = ROOT / "build" / "asan"
-BENCH = ROOT / "build" / "bench"
-PROGRAM = BENCH / "bin"
+QUICK = ROOT / "build" / "quick"
+PROGRAM = QUICK / "bin"
 ROOMS = ["monthly", "controls", "changecals", "yearcals", "start", "platform", "settings",
          "calc", "moon", "shared", "printing"]
 TESTED = ["endurance", *ROOMS, "monitors", "screen"]
 DRAWN = ["monthly", "yearcals", "platform"]
 LINTED = ["src/platform", "src", *[f"src/{room}" for room in sorted(ROOMS) if room != "platform"],
           "assets/moonpicture"]
-LINTED_OF_BENCH = ["bench", "docs"]
+LINTED_OF_QUICK = ["bench", "docs"]
 LINTED_AT_LENGTH = [f"tests/{folder}" for folder in sorted([*TESTED, "support"])]
 
 
@@ -198,9 +198,9 @@ def run_everything(long):
     jobs += [lambda room=room: room_tests(room, options) for room in TESTED]
     jobs += [lambda room=room: room_tests_with_noto(room) for room in DRAWN]
     folders = [*LINTED, *(LINTED_AT_LENGTH if long else [])]
-    database, bench_database = compile_database.write(ASAN), compile_database.write(BENCH)
+    database, quick_database = compile_database.write(ASAN), compile_database.write(QUICK)
     jobs += [lambda folder=folder: linting(folder, database) for folder in folders]
-    jobs += [lambda folder=folder: linting(folder, bench_database) for folder in LINTED_OF_BENCH]
+    jobs += [lambda folder=folder: linting(folder, quick_database) for folder in LINTED_OF_QUICK]
     jobs += [formatting, floors, licences, release, papers, desktop_entry, moon_picture,
              keys, pictures, installing, cross_building]
     if long:

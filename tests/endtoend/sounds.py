@@ -157,7 +157,7 @@ HEBREW = [
 BEGINNING = """# How it sounds
 
 What the screen reader Orca says while the program is used by keyboard alone, on 20 November 2026. This page is
-written by a command, `/usr/bin/python3 tests/endtoend/sounds.py build/bench/bin`, which listens; `./test` listens
+written by a command, `/usr/bin/python3 tests/endtoend/sounds.py build/quick/bin`, which listens; `./test` listens
 again and fails when anything else is said. Orca has its usual settings and its English words; an ellipsis stands
 for what it tells by itself of a text field that is edited.
 """
