@@ -264,23 +264,28 @@ class Scales(OtherScreen):
     size = (3840, 2160)
 
     def test_from_one_to_three(self):
-        usual = self._marked_pixels(1)
+        self._see_marks(1, lambda red: 0 < red == self._red_pixels())
+        usual = self.red
         for scale in (1.25, 1.5, 2, 3):
             with self.subTest(scale):
-                ratio = self._marked_pixels(scale) / usual
-                self.assertAlmostEqual(ratio / scale ** 2, 1, delta=0.15)
+                self._see_marks(scale, lambda red: abs(red / usual / scale ** 2 - 1) < 0.15)
 
-    def _marked_pixels(self, scale):
+    def _red_pixels(self):
+        self.red = self.monthly.picture().count(RED, 0, 0, *self.monthly.size())
+        return self.red
+
+    # A window is there before all of it is painted.
+    def _see_marks(self, scale, are_as_large_as_they_should):
         self.program.more_environment["QT_SCALE_FACTOR"] = str(scale)
-        monthly = self.start_monthly()
-        marked = monthly.picture().count(RED, 0, 0, *monthly.size())
+        self.monthly = monthly = self.start_monthly()
+        wait_until(lambda: are_as_large_as_they_should(self._red_pixels()),
+                   f"the marks grow with the scale of {scale}", found=lambda: self.red)
         monthly.press_key("ctrl+y")
         for calendar in CALENDARS:
             self.program.year_window(calendar)
         monthly.press_key("ctrl+q")
         self.assert_ends_well()
         self.settings.path.unlink()
-        return marked
 
 
 class Clocks(FaultTest):
