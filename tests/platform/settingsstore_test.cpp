@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/settingsstore.h"
 
+#include "support/fulldisk.h"
 #include "support/platform_test.h"
 #include "support/usualrights.h"
 
@@ -9,10 +10,8 @@
 #include <QFile>
 #include <QLockFile>
 #include <QSettings>
-#include <csignal>
 #include <fcntl.h>
 #include <sys/file.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -336,26 +335,6 @@ TEST_F(SettingsStore, WithoutAHomeNothingIsReadOrWritten) {
     EXPECT_FALSE(QFileInfo::exists(QStringLiteral("$HOME")));
     qputenv("HOME", home);
 }
-
-/// Lets this process write files of so many bytes only, as a full disk would.
-class FullDisk {
-public:
-    explicit FullDisk(rlim_t bytes) {
-        std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &m_former);
-        const rlimit limit{bytes, m_former.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FullDisk() {
-        setrlimit(RLIMIT_FSIZE, &m_former);
-        std::signal(SIGXFSZ, SIG_DFL);
-    }
-    FullDisk(const FullDisk&) = delete;
-    FullDisk& operator=(const FullDisk&) = delete;
-
-private:
-    rlimit m_former{};
-};
 
 TEST_F(SettingsStore, AFullDiskLeavesTheFileWholeAndIsTold) {
     const QByteArray lines("[Startup]\nWindow=1\nLanguage=German\n");

@@ -2,11 +2,11 @@
 #include "printing/print.h"
 
 #include "printing/printing_test.h"
+#include "support/fulldisk.h"
+#include "support/usualrights.h"
 
 #include <QDir>
 #include <QPrintDialog>
-#include <csignal>
-#include <sys/resource.h>
 
 namespace {
 
@@ -40,26 +40,6 @@ protected:
     }
 
     int m_dialogs = 0;
-};
-
-/// No file grows beyond a few bytes, as on a full disk.
-class SmallFiles {
-public:
-    SmallFiles() {
-        ::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &m_former);
-        const rlimit few{1000, m_former.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &few);
-    }
-    ~SmallFiles() {
-        setrlimit(RLIMIT_FSIZE, &m_former);
-        ::signal(SIGXFSZ, SIG_DFL);
-    }
-    SmallFiles(const SmallFiles&) = delete;
-    SmallFiles& operator=(const SmallFiles&) = delete;
-
-private:
-    rlimit m_former{};
 };
 
 /// The state and the texts, with what the state's snapshot leaves out.
@@ -115,12 +95,39 @@ TEST_F(PrintedPages, EmbedsItsFontsAndNamesItself) {
         EXPECT_TRUE(about.contains(QRegularExpression(QLatin1String(fact)))) << fact;
 }
 
+TEST_F(PrintedPages, HaveTheSizeAndTheMarginsThatAreAskedFor) {
+    for (const auto& [asked, margin] : {std::pair(60.0, 60.0), std::pair(0.0, 40.0)}) {
+        QPrinter printer(QPrinter::HighResolution);
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(pdfPath());
+        printer.setPageLayout(QPageLayout(QPageSize(QPageSize::Letter), QPageLayout::Portrait,
+                                          {asked, asked, asked, asked}, QPageLayout::Point));
+        Printing::PrintPage(Printing::MonthPage(Gregorian), printer);
+        const auto found = words();
+        double right = 0;
+        for (const Word& word : found)
+            right = std::max(right, word.room.right());
+        EXPECT_EQ(found[0].text, QStringLiteral("Gregorian"));
+        EXPECT_NEAR(found[0].room.left(), margin, 0.1);
+        EXPECT_GT(right, 612 - margin - 4);
+        EXPECT_LT(right, 612 - margin + 0.1);
+        const QByteArray about = output(QStringLiteral("pdfinfo"), {pdfPath()});
+        EXPECT_TRUE(about.contains("612 x 792 pts (letter)")) << about.toStdString();
+    }
+}
+
 // Errors
 
 TEST_F(PrintedPages, SaysWhichFileCannotBeWritten) {
-    printInto(inFolder("nowhere/page.pdf"));
-    EXPECT_EQ(m_messages.take().join(u'|').toStdString(),
-              inFolder("nowhere/page.pdf").toStdString() + "\r\n\r\nThe file cannot be written.");
+    ASSERT_TRUE(QDir().mkdir(inFolder("locked")));
+    for (const char* name : {"nowhere/page.pdf", "locked/page.pdf"}) {
+        const UsualRights rights; // its folder is another user's where this one may do all
+        QFile::setPermissions(inFolder("locked"), QFile::ReadOwner | QFile::ExeOwner);
+        printInto(inFolder(name));
+        EXPECT_EQ(m_messages.take().join(u'|').toStdString(),
+                  inFolder(name).toStdString() + "\r\n\r\nThe file cannot be written.");
+    }
+    EXPECT_TRUE(QDir(inFolder("locked")).isEmpty());
 }
 
 // A folder stands in the file's place, as /dev/full is not a file that is replaced.
@@ -136,7 +143,7 @@ TEST_F(PrintedPages, LeavesWhatStandsInTheFilesPlace) {
 TEST_F(PrintedPages, LeavesTheOldFileWhereTheDiskIsFull) {
     writeFile(pdfPath(), "former");
     {
-        const SmallFiles small;
+        const FullDisk disk(1000);
         printInto(pdfPath());
     }
     EXPECT_EQ(m_messages.take().join(u'|').toStdString(),
