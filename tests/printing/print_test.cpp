@@ -64,6 +64,7 @@ TEST_F(PrintedPages, LeavesEveryTableAsItIs) {
                 if (!isWithinRange(c))
                     continue;
                 EXPECT_FALSE(Printing::YearPage(c).title.isEmpty());
+                EXPECT_TRUE(before == Everything()) << day << " in calendar " << c;
                 EXPECT_FALSE(Printing::MonthPage(c).title.isEmpty());
                 EXPECT_TRUE(before == Everything()) << day << " in calendar " << c;
             }
