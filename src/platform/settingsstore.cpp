@@ -9,6 +9,7 @@
 #include <QLockFile>
 #include <QStandardPaths>
 #include <filesystem>
+#include <sys/stat.h>
 #include <unistd.h>
 #include <vector>
 
@@ -50,13 +51,18 @@ bool haveAPlace() {
     return QDir::isAbsolutePath(settingsPath());
 }
 
-// With the folders above it, for the user alone where they are missing.
-bool makeFolder(const QString& path) {
-    const auto userOnly = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
-    return QFileInfo(path).isDir() ||
-           (makeFolder(QFileInfo(path).path()) &&
-            (QDir().mkdir(path, userOnly) || QFileInfo(path).isDir())); // by another meanwhile
-}
+/// While it lasts, what is made is for the user alone: the lock of a killed program
+/// could be held by whoever may read it.
+class ForTheUserAlone {
+public:
+    ForTheUserAlone() = default;
+    ~ForTheUserAlone() { umask(m_former); }
+    ForTheUserAlone(const ForTheUserAlone&) = delete;
+    ForTheUserAlone& operator=(const ForTheUserAlone&) = delete;
+
+private:
+    const mode_t m_former = umask(S_IRWXG | S_IRWXO);
+};
 
 // False also for what cannot be looked for.
 bool isAbsent(const QFileInfo& file) {
@@ -136,7 +142,8 @@ void SaveSetting(const QString& section, const QString& key, const QString& valu
 bool FlushSettings() {
     if (unsaved.empty())
         return true;
-    if (!haveAPlace() || !makeFolder(settingsFolder()))
+    const ForTheUserAlone alone;
+    if (!haveAPlace() || !QDir().mkpath(settingsFolder()))
         return false;
     QLockFile lock(settingsPath() + QStringLiteral(".lock"));
     lock.setStaleLockTime(longestSave);

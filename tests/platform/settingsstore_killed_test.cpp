@@ -45,6 +45,14 @@ protected:
         return true;
     }
 
+    /// Else whoever may read the folder could hold the lock for ever.
+    void expectLockOfTheUserAlone() const {
+        const QFile lock(settingsPath() + QStringLiteral(".lock"));
+        const auto others =
+            QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther;
+        EXPECT_FALSE(lock.exists() && (lock.permissions() & others));
+    }
+
     /// As if time had passed: what was killed while it made the lock has left no name in it.
     void ageEmptyLock() const {
         QFile lock(settingsPath() + QStringLiteral(".lock"));
@@ -70,6 +78,7 @@ TEST_F(SettingsKilled, TheFileHoldsTheOldValuesOrTheNewAndCanBeSaved) {
         const QByteArray found = readFile(settingsPath());
         ASSERT_TRUE(found == after || (found == before && killed)) << stop << found.constData();
         changed += static_cast<int>(found == after);
+        expectLockOfTheUserAlone();
         ageEmptyLock();
         ASSERT_TRUE(FlushSettings()) << stop;
         ASSERT_EQ(readFile(settingsPath()), after) << stop;
