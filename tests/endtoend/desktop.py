@@ -70,6 +70,11 @@ class Desktop:
         """The numbers of all windows, the lowest first."""
         return _window_numbers(self._xprop("-root", "_NET_CLIENT_LIST_STACKING"))
 
+    def allowed_actions(self, number):
+        """What the window manager offers to do with a window, as "MOVE" and "CLOSE"."""
+        text = self._xprop("-id", str(number), "_NET_WM_ALLOWED_ACTIONS")
+        return set(re.findall(r"_NET_WM_ACTION_(\w+)", text))
+
     def has_popup(self, pid):
         """Whether a process has the list of a drop-down control open."""
         found = self.run("xdotool", "search", "--onlyvisible", "--pid", str(pid), check=False)

@@ -5,7 +5,7 @@ from settings import WINDOW_SECTIONS, position
 from testcase import EndToEndTest
 
 CYCLES = 2
-SCALES = ("1.2", "1.33", "1.5", "1.75")
+SCALES = ("1.2", "1.25", "1.33", "1.5", "1.75")
 PLACES = {section: (60 + 110 * number, 40 + 70 * number)
           for number, section in enumerate(WINDOW_SECTIONS)}
 
@@ -64,20 +64,25 @@ class KeepingPositions(EndToEndTest):
 
 
 class FractionalScales(EndToEndTest):
-    """Nobody moves a window, and it stays where it was stored. The tests are made
-    below, one for each scale."""
+    """Nobody moves a window, and it stays where it was stored, or where it stood first.
+    The tests are made below, one for each scale."""
 
     def check_that_places_stay(self, scale):
         self.program.more_environment = {"QT_SCALE_FACTOR": scale}
         self.settings.write(position("Monthly", 31, 22) | position("Julian", 56, 21))
+        self._open_all_years_and_end()
+        self.assertEqual(self.settings.position("Monthly"), (31, 22))
+        self.assertEqual(self.settings.position("Julian"), (56, 21))
+        stored = self.settings.bytes()
         for _ in range(CYCLES):
-            monthly = self.start_monthly()
-            monthly.press_key("ctrl+y")
-            self.program.year_window("Julian").wait_until_in_front()
-            self.desktop.xdotool("key", "ctrl+q")
-            self.assert_ends_well()
-            self.assertEqual(self.settings.position("Monthly"), (31, 22))
-            self.assertEqual(self.settings.position("Julian"), (56, 21))
+            self._open_all_years_and_end()
+            self.assertEqual(self.settings.bytes(), stored, "the settings file")
+
+    def _open_all_years_and_end(self):
+        self.start_monthly().press_key("ctrl+y")
+        self.program.year_window("Julian").wait_until_in_front()
+        self.desktop.xdotool("key", "ctrl+q")
+        self.assert_ends_well()
 
 
 for _scale in SCALES:

@@ -105,6 +105,26 @@ class Session(EndToEndTest):
                    "the first list has an outline")
 
 
+class WindowsOfOneSize(EndToEndTest):
+    """Window managers that draw a button for it all the same draw it as disabled."""
+
+    def test_no_window_can_be_maximised(self):
+        monthly = self.start_monthly()
+        windows = [monthly, *monthly.open_all_years().values()]
+        monthly.press_moon()
+        windows.append(self.program.moon_window())
+        monthly.press("options")
+        windows.append(self.program.options_window())
+        for window in windows:
+            self._check_actions(window)
+
+    def _check_actions(self, window):
+        wait_until(lambda: {"MOVE", "CLOSE"} <= self.desktop.allowed_actions(window.number),
+                   "the window manager has the window")
+        actions = self.desktop.allowed_actions(window.number)
+        self.assertEqual(actions & {"RESIZE", "MAXIMIZE_HORZ", "MAXIMIZE_VERT"}, set())
+
+
 class MissingMoonPicture(EndToEndTest):
     def setUp(self):
         super().setUp()

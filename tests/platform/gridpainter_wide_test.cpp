@@ -35,10 +35,14 @@ protected:
         grid.SetRow(1);
         grid.SetCol(1);
         grid.SetCellFontBold(bold);
+        return inkIn(QRect(0, 0, 3 * cellWidth, 3 * cellHeight));
+    }
+
+    QRect inkIn(const QRect& part) {
         const QImage image = grid.viewport()->grab().toImage();
         QRect found;
-        for (int y = 0; y < 3 * cellHeight; ++y) {
-            for (int x = 0; x < 3 * cellWidth; ++x) {
+        for (int y = part.top(); y <= part.bottom(); ++y) {
+            for (int x = part.left(); x <= part.right(); ++x) {
                 if (image.pixelColor(x, y) != ToColor(ground))
                     found |= QRect(x, y, 1, 1);
             }
@@ -78,6 +82,12 @@ TEST_F(WideTexts, OfAnyLengthStayInTheirCellWithAllOfTheirLettersToAssistiveTool
         EXPECT_FALSE(drawn.isEmpty());
         EXPECT_EQ(accessibleCell(grid, 1, 1)->text(QAccessible::Name), text);
     }
+}
+
+TEST_F(WideTexts, ThatAreShortenedEndInDots) {
+    const QRect drawn = inkOf(QString(60, u'W'));
+    const QRect end = inkIn(drawn.adjusted(drawn.width() - 3, 0, 0, 0));
+    EXPECT_GT(end.top(), drawn.center().y());
 }
 
 TEST_F(WideTexts, HaveTheRoomOfAllCellsThatAreMerged) {
