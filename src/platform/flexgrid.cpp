@@ -215,8 +215,8 @@ bool MSFlexGrid::event(QEvent* event) {
 }
 
 // Whole pixels of the screen, close around the cells: at a fractional scale the
-// toolkit would round each side by itself. With the focus it is in the desktop's
-// highlight colour, otherwise the same on every theme.
+// toolkit would round each side by itself. With the focus it is in the colour of the
+// theme's texts, otherwise the same on every theme.
 void MSFlexGrid::paintFrame() {
     QPainter painter(this);
     const QTransform toScreen = painter.deviceTransform();
@@ -224,7 +224,7 @@ void MSFlexGrid::paintFrame() {
     const QRectF cells = toScreen.mapRect(QRectF(viewport()->geometry()));
     const QRectF whole(cells.topLeft().toPoint(), cells.bottomRight().toPoint());
     painter.fillRect(toScreen.inverted().mapRect(whole.adjusted(-line, -line, line, line)),
-                     hasFocus() ? palette().color(QPalette::Highlight) : frameColor);
+                     hasFocus() ? palette().color(QPalette::WindowText) : frameColor);
 }
 
 void MSFlexGrid::focusOutEvent(QFocusEvent* event) {

@@ -6,7 +6,9 @@
 #include "platform/text.h"
 
 #include <QPainter>
+#include <QRegion>
 #include <QStyleOptionViewItem>
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -16,16 +18,17 @@ constexpr std::size_t mostTexts = 500;
 
 constexpr double fadedOpacity = 0.5;
 
+// Told from the pale cells and from a red one, and from what lies around either.
+constexpr QColor outlineColor(0, 0, 128);
+
 bool isSingleDigit(const QString& text) {
     return text.size() == 1 && text.front().isDigit();
 }
 
 // A pen would stand half outside where a screen has several pixels for one.
-void outline(QPainter* painter, const QRect& cell, const QColor& color) {
-    painter->fillRect(QRect(cell.left(), cell.top(), cell.width(), 1), color);
-    painter->fillRect(QRect(cell.left(), cell.bottom(), cell.width(), 1), color);
-    painter->fillRect(QRect(cell.left(), cell.top(), 1, cell.height()), color);
-    painter->fillRect(QRect(cell.right(), cell.top(), 1, cell.height()), color);
+void outline(QPainter* painter, const QRect& cell) {
+    for (const QRect& side : QRegion(cell) - cell.adjusted(1, 1, -1, -1))
+        painter->fillRect(side, outlineColor);
 }
 
 } // namespace
@@ -46,13 +49,14 @@ void GridPainter::paint(QPainter* painter, const QStyleOptionViewItem& option,
     painter->fillRect(option.rect, ToColor(cell.back));
     if (!cell.text.isEmpty()) {
         painter->setOpacity(option.state.testFlag(QStyle::State_Enabled) ? 1 : fadedOpacity);
-        painter->setClipRect(option.rect); // marks can be piled on a letter
-        paintText(painter, cell, option.rect);
+        const QRect room = option.rect.adjusted(index.column() == 0 ? 1 : 0, 0, 0, 0);
+        painter->setClipRect(room); // marks can be piled on a letter
+        paintText(painter, cell, room);
         painter->setClipping(false);
         painter->setOpacity(1);
     }
     if (option.state.testFlag(QStyle::State_HasFocus))
-        outline(painter, option.rect, ToColor(cell.fore));
+        outline(painter, option.rect);
 }
 
 QSize GridPainter::sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const {
@@ -82,8 +86,8 @@ void GridPainter::paintText(QPainter* painter, const GridCell& cell, const QRect
     const LaidOutText& entry = laidOut(cell.text, cell.bold, rect.width());
     // A single digit stands below the second digit of larger numbers.
     const double digitShift = isSingleDigit(cell.text) ? entry.advance / 2 : 0;
-    const double indent = (rect.width() - entry.advance) / 2 + digitShift;
-    const QPointF at(rect.x() + std::floor(indent),
+    const double indent = std::floor((rect.width() - entry.advance) / 2 + digitShift);
+    const QPointF at(rect.x() + std::max(0.0, indent),
                      rect.y() + std::round((rect.height() - entry.text.size().height()) / 2));
     painter->setPen(ToColor(cell.fore));
     painter->setFont(entry.font);

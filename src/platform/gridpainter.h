@@ -11,9 +11,9 @@ struct GridCell;
 
 /// Paints a grid cell: its ground, its text, and nothing of the desktop's theme.
 /// A text too wide for its cell is shown in a smaller font, and shortened where
-/// the smallest is too wide. The current cell of the grid that has the focus is
-/// outlined in the colour of its text; the texts of a disabled grid are faded to
-/// half.
+/// the smallest is too wide; in the first column it stays clear of the grid's
+/// frame. The current cell of the grid that has the focus is outlined in navy; the
+/// texts of a disabled grid are faded to half.
 class GridPainter : public QAbstractItemDelegate {
     Q_OBJECT
 

@@ -30,9 +30,6 @@ protected:
         grid->SetAllCellColors(pale, navy);
         grid->SetSelectedColor(red);
         other->move(100, 0);
-        QPalette colors = window.palette();
-        colors.setColor(QPalette::Highlight, QColor(0, 120, 215));
-        window.setPalette(colors);
         window.show();
         window.activateWindow();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
@@ -85,15 +82,34 @@ TEST_F(GridLook, TheFrameIsOneLineOnAllSidesAtAnyScale) {
     }
 }
 
-TEST_F(GridLook, TheFrameOfTheGridWithTheFocusIsHighlighted) {
-    other->setFocus();
-    const QColor before = picture().pixelColor(0, 30);
-    grid->setFocus();
-    EXPECT_EQ(picture().pixelColor(0, 30), QColor(0, 120, 215));
-    EXPECT_EQ(picture().pixelColor(30, 3 * cellSide + 1), QColor(0, 120, 215));
-    other->setFocus();
-    EXPECT_EQ(picture().pixelColor(0, 30), before);
-    EXPECT_NE(before, QColor(0, 120, 215));
+/// The middle of the frame's left and lower side.
+std::vector<QColor> frameOf(const QImage& image) {
+    return {image.pixelColor(0, 30), image.pixelColor(30, 3 * cellSide + 1)};
+}
+
+// In the themes that are on most desktops.
+TEST_F(GridLook, TheFrameOfTheGridWithTheFocusIsToldFromTheOneWithout) {
+    const struct {
+        QRgb ground;
+        QRgb text;
+    } themes[] = {{0xffefefef, 0xff000000}, {0xfff6f5f4, 0xff2e3436}, {0xff353535, 0xffffffff},
+                  {0xff31363b, 0xffeff0f1}, {0xff353535, 0xffeeeeec}, {0xff000000, 0xffffffff}};
+    for (const auto& theme : themes) {
+        QPalette colors(QColor(theme.ground));
+        colors.setColor(QPalette::WindowText, theme.text);
+        window.setPalette(colors);
+        other->setFocus();
+        const std::vector<QColor> without = frameOf(picture());
+        grid->setFocus();
+        const std::vector<QColor> with = frameOf(picture());
+        for (std::size_t side = 0; side < with.size(); ++side) {
+            SCOPED_TRACE(QColor(theme.ground).name().toStdString());
+            EXPECT_GE(contrast(with[side], without[side]), enoughContrast);
+            EXPECT_GE(contrast(with[side], QColor(theme.ground)), enoughContrast);
+        }
+        other->setFocus();
+        EXPECT_EQ(frameOf(picture()), without);
+    }
 }
 
 TEST_F(GridLook, TheCurrentCellIsOutlinedFromTheFirstMomentOnTheMarkToo) {
@@ -110,6 +126,28 @@ TEST_F(GridLook, TheCurrentCellIsOutlinedFromTheFirstMomentOnTheMarkToo) {
     EXPECT_GE(contrast(corner(moved, 2, 1), ToColor(pale)), enoughContrast);
     other->setFocus();
     EXPECT_EQ(corner(picture(), 2, 1), ToColor(pale));
+}
+
+TEST_F(GridLook, TheOutlineOfTheMarkIsToldFromTheMarkAndFromWhatLiesAroundIt) {
+    for (const int ground : {white, pale, 0xC0FFFF, 0xC0FFC0}) {
+        grid->SetAllCellColors(ground, navy);
+        mark(1, 1);
+        grid->setFocus(Qt::TabFocusReason);
+        const QImage image = picture();
+        const QRect cell(1 + cellSide, 1 + cellSide, cellSide, cellSide);
+        for (int along = 1; along < cellSide - 1; ++along) {
+            const QPoint top(cell.left() + along, cell.top());
+            const QPoint right(cell.right(), cell.top() + along);
+            EXPECT_GE(contrast(image.pixelColor(top), image.pixelColor(top + QPoint(0, 1))),
+                      enoughContrast);
+            EXPECT_GE(contrast(image.pixelColor(top), image.pixelColor(top - QPoint(0, 1))),
+                      enoughContrast);
+            EXPECT_GE(contrast(image.pixelColor(right), image.pixelColor(right - QPoint(1, 0))),
+                      enoughContrast);
+            EXPECT_GE(contrast(image.pixelColor(right), image.pixelColor(right + QPoint(1, 0))),
+                      enoughContrast);
+        }
+    }
 }
 
 /// The pixels between the middles of the first and the last cell that are not pale.
@@ -132,10 +170,10 @@ TEST_F(GridLook, TheOutlineOfACellIsItsOutermostPixelsOnFinerScreensToo) {
         const QRect cell = strangersIn(image);
         EXPECT_NEAR(cell.width(), cellSide * scale, 1);
         for (int along = 0; along < cell.width(); ++along) {
-            EXPECT_EQ(image.pixelColor(cell.left() + along, cell.top()), ToColor(white));
-            EXPECT_EQ(image.pixelColor(cell.left() + along, cell.bottom()), ToColor(white));
-            EXPECT_EQ(image.pixelColor(cell.left(), cell.top() + along), ToColor(white));
-            EXPECT_EQ(image.pixelColor(cell.right(), cell.top() + along), ToColor(white));
+            EXPECT_EQ(image.pixelColor(cell.left() + along, cell.top()), ToColor(navy));
+            EXPECT_EQ(image.pixelColor(cell.left() + along, cell.bottom()), ToColor(navy));
+            EXPECT_EQ(image.pixelColor(cell.left(), cell.top() + along), ToColor(navy));
+            EXPECT_EQ(image.pixelColor(cell.right(), cell.top() + along), ToColor(navy));
         }
         EXPECT_EQ(image.pixelColor(cell.center()), ToColor(red));
     }

@@ -65,6 +65,18 @@ void expectYearGridFits(int c, const std::string& language) {
     }
 }
 
+/// The weekdays' names leave the pixels beside the frame of their grid free.
+void expectFrameStandsFree(const std::string& language) {
+    constexpr int besideFrame = 1;
+    for (const char* name : {"MSFlexGrid1_1", "MSFlexGrid1_2", "MSFlexGrid1_3", "MSFlexGrid1_4"}) {
+        const QImage image = child<QWidget>(ChangeCals::LoadMonthly(), name)->grab().toImage();
+        const QColor ground = image.pixelColor(besideFrame, besideFrame);
+        for (int y = besideFrame; y < image.height() - besideFrame; ++y)
+            ASSERT_EQ(image.pixelColor(besideFrame, y), ground)
+                << language << " " << name << " " << y;
+    }
+}
+
 void expectLabelsFit(const Form& options, const std::string& language) {
     for (const QLabel* label : options.findChildren<QLabel*>()) {
         if (!label->isVisible())
@@ -100,6 +112,8 @@ TEST_P(TextsFit, InEveryControlOfEveryWindow) {
         ChangeCals::SetAllTexts();
         for (int c = 1; c <= calendarCount; ++c)
             expectYearGridFits(c, language);
+        ChangeCals::LoadMonthly().ReSetForm();
+        expectFrameStandsFree(language);
         ChangeCals::ShowOptions();
         expectOptionsFit(language);
     }
