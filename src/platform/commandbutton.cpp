@@ -3,25 +3,39 @@
 
 #include "platform/pictures.h"
 
+#include <QFile>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QStyleOptionButton>
+
+namespace {
+
+QString pointedAt(const QString& picture) {
+    const QString other = picture + QStringLiteral("-pointed");
+    return QFile::exists(QStringLiteral(":/%1.svg").arg(other)) ? other : picture;
+}
+
+} // namespace
 
 CommandButton::CommandButton(const QString& name, const QString& picture, QWidget* parent)
-    : QPushButton(parent) {
+    : QPushButton(parent), m_pointedAt(ButtonPicture(pointedAt(picture))) {
     setObjectName(name);
     setFocusPolicy(Qt::StrongFocus);
     setAutoDefault(false);
     setFixedSize(side, side);
     setIconSize({pictureSide, pictureSide});
-    SetPicture(picture);
-}
-
-void CommandButton::SetPicture(const QString& picture) {
-    setIcon(Picture(picture));
+    setIcon(ButtonPicture(picture));
+    setAttribute(Qt::WA_Hover); // not every style has it repainted under the pointer
 }
 
 void CommandButton::SetTabStop(bool on) {
     setFocusPolicy(on ? Qt::StrongFocus : Qt::ClickFocus);
+}
+
+void CommandButton::initStyleOption(QStyleOptionButton* option) const {
+    QPushButton::initStyleOption(option);
+    if (isEnabled() && underMouse())
+        option->icon = m_pointedAt;
 }
 
 void CommandButton::mousePressEvent(QMouseEvent* event) {

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QIcon>
 #include <QPushButton>
 
-/// A button with a picture. It takes the focus when it is clicked, as every
+/// A button with a picture; under the pointer with that of the same name and
+/// "-pointed" where there is one. It takes the focus when it is clicked, as every
 /// control does here, so that a field that is left hears of it.
 class CommandButton : public QPushButton {
     Q_OBJECT
@@ -15,7 +17,6 @@ public:
     static constexpr int side = 30;
     static constexpr int pictureSide = 24;
 
-    void SetPicture(const QString& picture);
     void SetTabStop(bool on);
 
 Q_SIGNALS:
@@ -23,6 +24,10 @@ Q_SIGNALS:
     void MouseDown(Qt::MouseButton button);
 
 protected:
+    void initStyleOption(QStyleOptionButton* option) const override;
     void mousePressEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    QIcon m_pointedAt;
 };

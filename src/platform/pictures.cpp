@@ -17,11 +17,23 @@ namespace {
 
 using Drawing = std::shared_ptr<QSvgRenderer>;
 
-QPixmap drawn(QSvgRenderer& drawing, const QSize& size) {
+// So much white makes a picture that stands out from a light theme's buttons stand out
+// from those of a dark one. No colour does both.
+constexpr QColor veil(255, 255, 255, 90);
+
+bool hasDarkButtons() {
+    constexpr int middleGray = 128;
+    return qGray(QGuiApplication::palette().color(QPalette::Button).rgb()) < middleGray;
+}
+
+QPixmap drawn(QSvgRenderer& drawing, const QSize& size, bool pale) {
     QPixmap pixmap(size);
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
     drawing.render(&painter);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceAtop);
+    if (pale)
+        painter.fillRect(pixmap.rect(), veil);
     return pixmap;
 }
 
@@ -34,8 +46,8 @@ QPixmap inStyle(QIcon::Mode mode, const QPixmap& pixmap) {
 // Sizes of pixmaps are in pixels of the device.
 class PictureEngine : public QIconEngine {
 public:
-    PictureEngine(QString name, Drawing drawing)
-        : m_name(std::move(name)), m_drawing(std::move(drawing)) {}
+    PictureEngine(QString name, Drawing drawing, bool onButton)
+        : m_name(std::move(name)), m_drawing(std::move(drawing)), m_onButton(onButton) {}
 
     QIconEngine* clone() const override { return new PictureEngine(*this); }
 
@@ -55,11 +67,15 @@ public:
 private:
     // Drawing takes much longer than finding what was drawn before.
     QPixmap kept(const QSize& size) {
-        const QString key =
-            QStringLiteral("%1 %2x%3").arg(m_name).arg(size.width()).arg(size.height());
+        const bool pale = m_onButton && hasDarkButtons();
+        const QString key = QStringLiteral("%1 %2x%3 %4")
+                                .arg(m_name)
+                                .arg(size.width())
+                                .arg(size.height())
+                                .arg(pale);
         QPixmap pixmap;
         if (!QPixmapCache::find(key, &pixmap) && !isNull() && !size.isEmpty()) {
-            pixmap = drawn(*m_drawing, size);
+            pixmap = drawn(*m_drawing, size, pale);
             QPixmapCache::insert(key, pixmap);
         }
         return pixmap;
@@ -67,6 +83,7 @@ private:
 
     QString m_name;
     Drawing m_drawing;
+    bool m_onButton;
 };
 
 Drawing readDrawing(const QString& name) {
@@ -92,5 +109,9 @@ Drawing drawingOf(const QString& name) {
 } // namespace
 
 QIcon Picture(const QString& name) {
-    return QIcon(new PictureEngine(name, drawingOf(name)));
+    return QIcon(new PictureEngine(name, drawingOf(name), false));
+}
+
+QIcon ButtonPicture(const QString& name) {
+    return QIcon(new PictureEngine(name, drawingOf(name), true));
 }

@@ -3,6 +3,8 @@
 
 #include "platform/buttons_test.h"
 
+#include <QEnterEvent>
+
 namespace {
 
 const QString closePicture = QStringLiteral("buttons/close");
@@ -59,6 +61,36 @@ TEST_F(OneButton, DisabledOnesDoNothing) {
     QTest::keyClick(button, Qt::Key_Return);
     EXPECT_EQ(clicks, 0);
     EXPECT_EQ(presses.size(), 0U);
+}
+
+/// The colour in the middle of a button, where the strokes of a cross meet.
+QColor middle(QWidget& button) {
+    return button.grab().toImage().pixelColor(button.rect().center());
+}
+
+void pointAt(QWidget& widget) {
+    QEnterEvent enter({}, {}, {});
+    QApplication::sendEvent(&widget, &enter);
+}
+
+void pointElsewhere(QWidget& widget) {
+    QEvent leave(QEvent::Leave);
+    QApplication::sendEvent(&widget, &leave);
+}
+
+TEST_F(OneButton, ItsCrossIsGreyAndRedUnderThePointer) {
+    constexpr int grey = 80; // a saturation below it
+    show();
+    pointElsewhere(*button);
+    EXPECT_LT(middle(*button).hsvSaturation(), grey);
+    pointAt(*button);
+    EXPECT_GT(middle(*button).hsvSaturation(), 2 * grey);
+    EXPECT_EQ(middle(*button).hue() / 10, 0) << "red";
+    button->setEnabled(false);
+    EXPECT_LT(middle(*button).hsvSaturation(), grey) << "cannot be pressed";
+    button->setEnabled(true);
+    pointElsewhere(*button);
+    EXPECT_LT(middle(*button).hsvSaturation(), grey);
 }
 
 TEST_F(OneButton, AClickTakesTheFocus) {

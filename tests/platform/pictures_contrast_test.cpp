@@ -1,14 +1,18 @@
 // SPDX-License-Identifier: MIT
 // The pictures on buttons and panes lie on whatever ground the desktop's theme
 // gives them, so their rims are judged against light, dark and extreme grounds.
+#include "platform/commandbutton.h"
 #include "platform/pictures.h"
 
 #include "support/contrast.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QImage>
+#include <QStyle>
 #include <algorithm>
 #include <gtest/gtest.h>
+#include <tuple>
 
 namespace {
 
@@ -54,28 +58,53 @@ struct Rim {
     double worst = 21.0; ///< the lowest contrast of any of them
 };
 
-Rim rimOn(const QImage& image, const QColor& ground) {
+/// How the rim of a picture of this shape, drawn at a place of `image`, stands out from
+/// the ground.
+Rim rimOf(const QImage& shape, const QImage& image, const QImage& ground, QPoint at = {}) {
     Rim rim;
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x)
-            if (isRim(image, x, y)) {
+    for (int y = 0; y < shape.height(); ++y)
+        for (int x = 0; x < shape.width(); ++x)
+            if (isRim(shape, x, y)) {
                 ++rim.pixels;
-                rim.worst = std::min(rim.worst, contrast(image.pixelColor(x, y), ground));
+                rim.worst = std::min(rim.worst, contrast(image.pixelColor(at + QPoint(x, y)),
+                                                         ground.pixelColor(at + QPoint(x, y))));
             }
     return rim;
 }
 
-void expectSeenOn(const QString& picture, const QColor& ground) {
-    SCOPED_TRACE((picture + QStringLiteral(" on ") + ground.name()).toStdString());
-    const Rim rim = rimOn(drawn(picture), ground);
+void expectSeen(const Rim& rim) {
     EXPECT_GT(rim.pixels, side);
     EXPECT_GE(rim.worst, enoughContrast);
 }
 
+void expectSeenOn(const QString& picture, const QColor& ground) {
+    SCOPED_TRACE((picture + QStringLiteral(" on ") + ground.name()).toStdString());
+    const QImage image = drawn(picture);
+    QImage plain = image;
+    plain.fill(ground);
+    expectSeen(rimOf(image, image, plain));
+}
+
+/// On buttons as a style draws them in a theme of windows and buttons in this colour.
+class ButtonContrast : public testing::TestWithParam<std::tuple<const char*, QRgb>> {
+protected:
+    ButtonContrast() : m_formerStyle(QApplication::style()->name()) {
+        QApplication::setStyle(QLatin1String(std::get<0>(GetParam())));
+        QApplication::setPalette(QPalette(QColor(std::get<1>(GetParam()))));
+    }
+    ~ButtonContrast() override {
+        QApplication::setStyle(m_formerStyle);
+        QApplication::setPalette(QPalette());
+    }
+
+private:
+    QString m_formerStyle;
+};
+
 } // namespace
 
 TEST(PictureContrast, AllAreFound) {
-    EXPECT_EQ(allPictures().size(), 8 + 4 + 9);
+    EXPECT_EQ(allPictures().size(), 9 + 4 + 9);
 }
 
 TEST(PictureContrast, StandOutFromTheGroundsOfLightAndDarkThemes) {
@@ -89,6 +118,29 @@ TEST(PictureContrast, StandOutFromTheGroundsOfHighContrastThemes) {
         for (const QRgb ground : {0xff000000, 0xffffffff})
             expectSeenOn(picture, QColor(ground));
 }
+
+TEST_P(ButtonContrast, EveryPictureStandsOutFromItsButton) {
+    constexpr int edge = CommandButton::side - CommandButton::pictureSide; // both sides of it
+    constexpr int scale = side / CommandButton::pictureSide;
+    for (const QString& picture : allPictures()) {
+        SCOPED_TRACE(picture.toStdString());
+        CommandButton button(QStringLiteral("button"), picture, nullptr);
+        button.setFixedSize(scale * CommandButton::side, scale * CommandButton::side);
+        button.setIconSize({side, side});
+        const QImage image = button.grab().toImage();
+        button.setIcon({});
+        const QImage ground = button.grab().toImage();
+        expectSeen(rimOf(drawn(picture), image, ground, {scale * edge / 2, scale * edge / 2}));
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Themes, ButtonContrast,
+                         testing::Combine(testing::Values("fusion", "windows"),
+                                          testing::Values(0xff353535, 0xff31363b, 0xff2b2b2b,
+                                                          0xffefefef, 0xffffffff)));
+INSTANTIATE_TEST_SUITE_P(ThemeOfItsOwn, ButtonContrast,
+                         testing::Values(std::tuple("adwaita", 0xfff6f5f4),
+                                         std::tuple("adwaita-dark", 0xff353535)));
 
 TEST(PictureContrast, TellTheLitPartOfTheMoonFromTheUnlit) {
     const QImage quarter = drawn(QStringLiteral("moon/phase2"));
