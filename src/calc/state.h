@@ -15,6 +15,19 @@ inline int CurJD = 0;
 /// CurDate(c, Day .. WeekNumber): the chosen day in calendar c.
 inline Table<int, calendarCount, 5> CurDate;
 
+/// A date of a calendar.
+struct Date {
+    int day;
+    int month;
+    int year;
+    bool operator==(const Date& other) const = default;
+};
+
+/// The chosen day in calendar c.
+inline Date ChosenDate(int c) {
+    return {CurDate(c, Day), CurDate(c, Month), CurDate(c, Year)};
+}
+
 /// MonthDays(c, m), m = 1..monthLimit: length in days of month m in the current
 /// year of calendar c, 0 where there is no such month. MonthDays(c, weekdayRow +
 /// m): the weekday of that month's first day. The Jewish row follows the layout

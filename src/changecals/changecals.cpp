@@ -28,30 +28,15 @@ void redrawMonthly() {
     window.SetCommonInfo();
 }
 
-void toJulianDay(int c) {
-    switch (c) {
-    case Julian:
-        Calc::JulianToJD();
-        break;
-    case Gregorian:
-        Calc::GregorianToJD();
-        break;
-    case Jewish:
-        Calc::JewishToJD();
-        break;
-    case Moslem:
-        Calc::MoslemToJD();
-        break;
-    default:
-        break; // CurJD is the day
-    }
-}
+const Table<void (*)(), calendarCount> toJulianDay{Calc::JulianToJD, Calc::GregorianToJD,
+                                                   Calc::JewishToJD, Calc::MoslemToJD};
 
 // The one way from a day, written in calendar c or else in CurJD, to all the
 // calendars. The Gregorian date comes from the Julian, and the Jewish needs the
 // Julian year: hence the order.
 void deriveAll(int c) {
-    toJulianDay(c);
+    if (IsCalendar(c))
+        toJulianDay(c)();
     if (c != Julian)
         Calc::JDToJulian();
     if (c != Gregorian)
@@ -60,16 +45,6 @@ void deriveAll(int c) {
         Calc::JDToJewish();
     if (c != Moslem)
         Calc::JDToMoslem();
-}
-
-SystemDate chosenDate() {
-    return {CurDate(Gregorian, Day), CurDate(Gregorian, Month), CurDate(Gregorian, Year)};
-}
-
-void writeDate(const SystemDate& date) {
-    CurDate(Gregorian, Day) = date.day;
-    CurDate(Gregorian, Month) = date.month;
-    CurDate(Gregorian, Year) = date.year;
 }
 
 } // namespace
@@ -85,6 +60,22 @@ void ChangeCals::ChangeJD() {
     deriveAll(0);
     SetMoonAge();
     UpdateWindows();
+}
+
+void ChangeCals::ChooseDate(int c, const Date& date, MainWindowNumber window) {
+    const UpdatingGuard updating;
+    CurDate(c, Day) = date.day;
+    CurDate(c, Month) = date.month;
+    CurDate(c, Year) = date.year;
+    CurrentWindow = IsCalendar(window) ? window : 0;
+    ChangeCal(c);
+}
+
+void ChangeCals::ChooseJulianDay(int day, MainWindowNumber window) {
+    const UpdatingGuard updating;
+    CurJD = day;
+    CurrentWindow = IsCalendar(window) ? window : 0;
+    ChangeJD();
 }
 
 void ChangeCals::DeriveDay(int day) {
@@ -153,11 +144,9 @@ void ChangeCals::SetMoonAge() {
     MoonPhase = CInt(MoonAge / month * phases).value_or(0);
 }
 
-void ChangeCals::GoToToday(int window) {
-    const SystemDate today = Today();
-    if (chosenDate() == today)
-        return;
-    writeDate(today);
-    CurrentWindow = window;
-    ChangeCal(Gregorian);
+void ChangeCals::GoToToday(MainWindowNumber window) {
+    const auto [day, month, year] = Today();
+    const Date today{day, month, year};
+    if (today != ChosenDate(Gregorian))
+        ChooseDate(Gregorian, today, window);
 }

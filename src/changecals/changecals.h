@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "calc/state.h"
 #include "shared/settings.h"
 
 /// Carries a change of the chosen day to all calendars and then to all windows.
@@ -13,6 +14,13 @@ void ChangeCal(int c);
 
 /// The same after CurJD was written.
 void ChangeJD();
+
+/// The user has chosen a day of calendar c in a window, which is redrawn first: the one
+/// way from a window to all the others. Meanwhile no change of a list is the user's.
+void ChooseDate(int c, const Date& date, MainWindowNumber window);
+
+/// The same by its Julian Day.
+void ChooseJulianDay(int day, MainWindowNumber window);
 
 /// Makes `day` the chosen day in the tables only, and leaves the moon. From there a
 /// choice that replaces an earlier one is measured; it then tells the windows.
@@ -44,8 +52,7 @@ void SetMoonAge();
 /// One lunation in days, in single precision as the moon's age is counted.
 inline constexpr float lunation = 29.530588F;
 
-/// Makes today the chosen day, as changed in window number `window` (as
-/// CurrentWindow). Nothing happens when it already is.
-void GoToToday(int window);
+/// The same for today. Nothing happens when it is chosen already.
+void GoToToday(MainWindowNumber window);
 
 } // namespace ChangeCals

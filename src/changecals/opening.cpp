@@ -5,7 +5,6 @@
 #include "changecals/closing.h"
 #include "changecals/windows.h"
 #include "shared/calendars.h"
-#include "shared/flags.h"
 #include "shared/settings.h"
 
 void ChangeCals::OpenYearWindow(int c) {
@@ -44,8 +43,8 @@ void ChangeCals::ShowMonthlyWindow() {
     MonthlyWindow& window = LoadMonthly();
     if (!window.Visible()) {
         window.ReSetForm();
-        CurrentWindow = 0;
-        ChangeCal(Jewish); // whichever calendar the user comes from
+        // Whichever calendar the user comes from.
+        ChooseDate(Jewish, ChosenDate(Jewish), MonthlyWindowNumber);
     }
     window.Show();
     RefreshCloseTips();

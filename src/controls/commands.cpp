@@ -54,7 +54,7 @@ Look lookOf(Command command) {
 
 } // namespace
 
-Commands::Commands(Form& window, int number, std::function<void()> close,
+Commands::Commands(Form& window, MainWindowNumber number, std::function<void()> close,
                    std::function<void()> print)
     : m_number(number), m_close(std::move(close)), m_print(std::move(print)) {
     addKeys(window);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "shared/settings.h"
+
 #include <QString>
 #include <functional>
 
@@ -22,10 +24,11 @@ enum class Command {
 /// The commands as one window carries them out.
 class Commands {
 public:
-    /// `number` is the window's as CurrentWindow has it, 0 for a window that shows
-    /// no calendar; `close` and `print` are what Close and Print do there.
+    /// `number` is the window to be redrawn first, of a dialog the monthly one; `close`
+    /// and `print` are what Close and Print do.
     Commands(
-        Form& window, int number, std::function<void()> close, std::function<void()> print = [] {});
+        Form& window, MainWindowNumber number, std::function<void()> close,
+        std::function<void()> print = [] {});
 
     Commands(const Commands&) = delete;
     Commands& operator=(const Commands&) = delete;
@@ -44,7 +47,7 @@ public:
 private:
     void addKeys(Form& window);
 
-    int m_number;
+    MainWindowNumber m_number;
     std::function<void()> m_close;
     std::function<void()> m_print;
 };

@@ -23,12 +23,10 @@ void Controls::ShowYearInList(ComboBox& list, int c) {
 }
 
 // Measured against the chosen day, so that no earlier text can go stale.
-void Controls::ChooseYearOf(const ComboBox& list, int c, int window) {
+void Controls::ChooseYearOf(const ComboBox& list, int c, MainWindowNumber window) {
     const int year = list.ListIndex() + MinYear(c);
     if (Updating || list.ListCount() < 2 || year == CurDate(c, Year))
         return;
     ChangeCals::DeriveDay(list.Origin());
-    CurDate(c, Year) = year;
-    CurrentWindow = window;
-    ChangeCals::ChangeCal(c);
+    ChangeCals::ChooseDate(c, {CurDate(c, Day), CurDate(c, Month), year}, window);
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/combobox.h"
+#include "shared/settings.h"
 
 /// A list of all years that a calendar can show, in rising order.
 namespace Controls {
@@ -17,8 +18,8 @@ ListEntries YearEntries(int c);
 /// year that the list has no place for is shown alone in any case.
 void ShowYearInList(ComboBox& list, int c);
 
-/// The user chose an entry: carries its year to all calendars, as changed in window
-/// number `window` (as CurrentWindow). The year that is chosen already does nothing.
-void ChooseYearOf(const ComboBox& list, int c, int window);
+/// The user chose an entry: carries its year to all calendars, as changed in a
+/// window. The year that is chosen already does nothing.
+void ChooseYearOf(const ComboBox& list, int c, MainWindowNumber window);
 
 } // namespace Controls

@@ -11,6 +11,7 @@
 #include "platform/numbers.h"
 #include "platform/text.h"
 #include "shared/flags.h"
+#include "shared/settings.h"
 #include "shared/texts.h"
 
 #include <QLocale>
@@ -127,11 +128,10 @@ int CommonInfo::moonAgeWidth() const {
 // either case the refill puts the lists right.
 void CommonInfo::moveBy(double days) {
     const int moved = CLng(days + CurJD).value_or(CurJD);
-    if (moved < MinJD(Jewish))
+    const bool isTooLow = moved < MinJD(Jewish);
+    if (isTooLow)
         Beep();
-    else
-        CurJD = moved;
-    ChangeCals::ChangeJD();
+    ChangeCals::ChooseJulianDay(isTooLow ? CurJD : moved, MonthlyWindowNumber);
 }
 
 float MyVal(const QString& text) {

@@ -45,7 +45,7 @@ const Table<Command, commandCount> commands{Command::YearCalendars, Command::Tod
 frmMonthlyCal::frmMonthlyCal()
     : MonthlyWindow(QStringLiteral("frmMonthlyCal")),
       m_commands(
-          *this, 0,
+          *this, MonthlyWindowNumber,
           [this] {
               m_common->JulianDay()->Leave();
               ChangeCals::CloseWindow(*this);

@@ -10,6 +10,7 @@
 #include "platform/numbers.h"
 #include "platform/text.h"
 #include "shared/flags.h"
+#include "shared/settings.h"
 #include "shared/texts.h"
 
 #include <QApplication>
@@ -159,12 +160,10 @@ void JulianDayField::accept() {
         return;
     m_accepted = Text();
     const auto day = typedDay();
-    if (!day) {
+    if (!day)
         refuseNumber();
-    } else if (*day != CurJD) {
-        CurJD = *day;
-        ChangeCals::ChangeJD();
-    }
+    else if (*day != CurJD)
+        ChangeCals::ChooseJulianDay(*day, MonthlyWindowNumber);
 }
 
 // Nothing when the number is none that the program can show.

@@ -16,21 +16,16 @@ constexpr int firstRowHeight = 345; // twips
 constexpr int otherRowHeight = 300; // twips
 constexpr int digitPixels = 11;
 
-struct YearMonth {
-    int year;
-    int month;
-};
-
 // The last month of a year that the tables do not hold is 13 for all: where the
 // year has 12, the arithmetic takes the twelfth.
-YearMonth neighbour(int c, int direction) {
-    const YearMonth shown{CurDate(c, Year), CurDate(c, Month)};
+Date inNeighbour(int c, int direction) {
+    const auto [day, month, year] = ChosenDate(c);
     const int last = c == Jewish ? 13 : 12;
-    if (direction < 0 && shown.month == 1)
-        return {shown.year - 1, last};
-    if (direction > 0 && shown.month == Calc::MonthsInYear(c))
-        return {shown.year + 1, 1};
-    return {shown.year, shown.month + direction};
+    if (direction < 0 && month == 1)
+        return {day, last, year - 1};
+    if (direction > 0 && month == Calc::MonthsInYear(c))
+        return {day, 1, year + 1};
+    return {day, month + direction, year};
 }
 
 } // namespace
@@ -87,13 +82,10 @@ void MonthGrid::MSFlexGrid1_DblClick() {
 // To the month or year before or after, as far as the calendar goes.
 void MonthGrid::page(int direction, bool byYear) {
     const int c = Calendar();
-    const YearMonth to = byYear ? YearMonth{CurDate(c, Year) + direction, CurDate(c, Month)}
-                                : neighbour(c, direction);
-    if (to.year < MinYear(c) || to.year > MaxYear(c))
-        return;
-    CurDate(c, Year) = to.year;
-    CurDate(c, Month) = to.month;
-    ChangeCals::ChangeCal(c);
+    const auto [day, month, year] = ChosenDate(c);
+    const Date to = byYear ? Date{day, month, year + direction} : inNeighbour(c, direction);
+    if (to.year >= MinYear(c) && to.year <= MaxYear(c))
+        ChangeCals::ChooseDate(c, to, MonthlyWindowNumber);
 }
 
 void MonthGrid::chooseEnd(End end) {
@@ -105,6 +97,6 @@ void MonthGrid::chooseEnd(End end) {
 }
 
 void MonthGrid::chooseDay(int day) {
-    CurDate(Calendar(), Day) = day;
-    ChangeCals::ChangeCal(Calendar());
+    const int c = Calendar();
+    ChangeCals::ChooseDate(c, {day, CurDate(c, Month), CurDate(c, Year)}, MonthlyWindowNumber);
 }

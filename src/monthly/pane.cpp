@@ -124,7 +124,7 @@ void Pane::Combo1_Click() {
 }
 
 void Pane::Combo2_Click() {
-    Controls::ChooseYearOf(*m_combo2, calendar(), 0);
+    Controls::ChooseYearOf(*m_combo2, calendar(), MonthlyWindowNumber);
 }
 
 void Pane::Combo3_Click() {
@@ -133,16 +133,13 @@ void Pane::Combo3_Click() {
     if (Updating || m_combo3->ListCount() < 2 || month == CurDate(c, Month))
         return;
     ChangeCals::DeriveDay(m_combo3->Origin());
-    CurDate(c, Month) = month;
-    ChangeCals::ChangeCal(c);
+    ChangeCals::ChooseDate(c, {CurDate(c, Day), month, CurDate(c, Year)}, MonthlyWindowNumber);
 }
 
 void Pane::Combo4_Click() {
     const double days = Val(m_combo4->Text()) - CurDate(calendar(), DayNumber);
-    if (Updating || days == 0)
-        return;
-    CurJD = CLng(days + CurJD).value_or(CurJD);
-    ChangeCals::ChangeJD();
+    if (!Updating && days != 0)
+        ChangeCals::ChooseJulianDay(CLng(days + CurJD).value_or(CurJD), MonthlyWindowNumber);
 }
 
 void Pane::Combo5_Click() {
@@ -153,8 +150,8 @@ void Pane::Combo5_Click() {
     ChangeCals::DeriveDay(m_combo5->Origin());
     const double weeks = week - CurDate(c, WeekNumber);
     const int sameWeekday = CLng(weeks * daysInWeek + CurJD).value_or(CurJD);
-    CurJD = std::clamp(sameWeekday, YearJD(c, FirstDay), YearJD(c, LastDay));
-    ChangeCals::ChangeJD();
+    ChangeCals::ChooseJulianDay(std::clamp(sameWeekday, YearJD(c, FirstDay), YearJD(c, LastDay)),
+                                MonthlyWindowNumber);
 }
 
 void Pane::setFillers() {

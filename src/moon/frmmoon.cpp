@@ -41,7 +41,7 @@ void setBackground(QWidget* widget, const QColor& color) {
 
 frmMoon::frmMoon()
     : MoonWindow(QStringLiteral("frmMoon")),
-      m_commands(*this, 0, [this] { Hide(); }),
+      m_commands(*this, MoonWindowNumber, [this] { Hide(); }),
       m_label2(new QLabel(this)),
       m_picture1(new MoonPicture(QStringLiteral("Picture1"), this)),
       m_label1(new QLabel(m_picture1)) {

@@ -27,6 +27,10 @@ inline Table<int, calendarCount> FirstWeekDay;
 enum MainWindowNumber : int { MonthlyWindowNumber = 5, MoonWindowNumber = 6 };
 inline constexpr int mainWindowCount = 6;
 
+constexpr MainWindowNumber YearWindowNumber(int c) {
+    return static_cast<MainWindowNumber>(c);
+}
+
 /// A position that means "none stored".
 inline constexpr int noPosition = 32737;
 

@@ -7,7 +7,8 @@
 #include <QScrollArea>
 #include <QVBoxLayout>
 
-Dialog::Dialog(const QString& name) : Form(name), m_commands(*this, 0, [this] { Unload(); }) {
+Dialog::Dialog(const QString& name)
+    : Form(name), m_commands(*this, MonthlyWindowNumber, [this] { Unload(); }) {
     setWindowFlags(Qt::Dialog);
 }
 

@@ -65,7 +65,7 @@ bool Start::Main() {
     Calc::FillConstantRows();
     LoadLanguage(LanguageName);
     Calc::SetMoslemType();
-    ChangeCals::GoToToday(0);
+    ChangeCals::GoToToday(MonthlyWindowNumber);
     loadWindows();
     ChangeCals::SetAllTexts();
     splash.WaitItsTime();

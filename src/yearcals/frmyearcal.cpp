@@ -14,7 +14,6 @@
 #include "platform/commandbutton.h"
 #include "platform/text.h"
 #include "platform/twips.h"
-#include "shared/flags.h"
 #include "shared/texts.h"
 #include "yearcals/yeargrid.h"
 
@@ -47,7 +46,7 @@ frmYearCal::frmYearCal(int c)
     : YearWindow(nameOf(c)),
       m_calendar(c),
       m_commands(
-          *this, c, [this] { ChangeCals::CloseWindow(*this); },
+          *this, YearWindowNumber(c), [this] { ChangeCals::CloseWindow(*this); },
           [c] { ChangeCals::Print(Paper::Year, c); }),
       m_combo1(new ComboBox(QStringLiteral("Combo1"), this)),
       m_command2(this),
@@ -115,7 +114,7 @@ void frmYearCal::changeEvent(QEvent* event) {
 }
 
 void frmYearCal::Combo1_Click() {
-    Controls::ChooseYearOf(*m_combo1, m_calendar, m_calendar);
+    Controls::ChooseYearOf(*m_combo1, m_calendar, YearWindowNumber(m_calendar));
 }
 
 void frmYearCal::MSFlexGrid1_MouseDown(Qt::MouseButton button) {
@@ -147,13 +146,10 @@ void frmYearCal::Form_Resize() {
 
 // Each way has its own end, so that a year beyond the last one has a way back.
 void frmYearCal::StepYear(int by) {
-    const UpdatingGuard updating;
-    const int year = CurDate(m_calendar, Year) + by;
-    if (by < 0 ? year < MinYear(m_calendar) : year > MaxYear(m_calendar))
-        return;
-    CurDate(m_calendar, Year) = year;
-    CurrentWindow = m_calendar;
-    ChangeCals::ChangeCal(m_calendar);
+    const auto [day, month, shown] = ChosenDate(m_calendar);
+    const int year = shown + by;
+    if (by < 0 ? year >= MinYear(m_calendar) : year <= MaxYear(m_calendar))
+        ChangeCals::ChooseDate(m_calendar, {day, month, year}, YearWindowNumber(m_calendar));
 }
 
 void frmYearCal::createControls() {

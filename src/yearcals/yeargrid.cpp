@@ -7,7 +7,6 @@
 #include "platform/pointer.h"
 #include "platform/text.h"
 #include "platform/twips.h"
-#include "shared/flags.h"
 #include "shared/look.h"
 #include "shared/texts.h"
 #include "yearcals/yearlayout.h"
@@ -155,9 +154,6 @@ void YearGrid::chooseEnd(End end) {
 }
 
 void YearGrid::chooseDay(int month, int day) {
-    const UpdatingGuard updating;
-    CurDate(Calendar(), Day) = day;
-    CurDate(Calendar(), Month) = month;
-    CurrentWindow = Calendar();
-    ChangeCals::ChangeCal(Calendar());
+    ChangeCals::ChooseDate(Calendar(), {day, month, CurDate(Calendar(), Year)},
+                           YearWindowNumber(Calendar()));
 }

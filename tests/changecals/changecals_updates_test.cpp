@@ -4,6 +4,8 @@
 #include "support/recording_windows.h"
 #include "support/widget_test.h"
 
+#include <algorithm>
+
 namespace {
 
 using Calls = std::vector<std::string>;
@@ -81,10 +83,35 @@ TEST_F(Updates, AStoredWindowNumberThatIsNoneCountsAsTheMonthlyWindow) {
     }
 }
 
+TEST_F(Updates, AChosenDateIsCarriedAndItsWindowComesFirst) {
+    for (const int c : {Julian, Jewish})
+        ChangeCals::LoadYear(c).Show();
+    ChangeCals::ChooseDate(Moslem, {11, 6, 1448}, YearWindowNumber(Jewish));
+    EXPECT_EQ(CurJD, 2461366);
+    EXPECT_EQ(takeCalls(), (Calls{"year3.ShowYear", "year1.ShowYear"}));
+    ChangeCals::ChooseJulianDay(2461365, MoonWindowNumber);
+    EXPECT_EQ(dateIn(Gregorian), (Date{20, 11, 2026}));
+    EXPECT_EQ(takeCalls(), (Calls{"year1.ShowYear", "year3.ShowYear"}));
+}
+
+TEST_F(Updates, NoChangeOfAListIsTakenForTheUsersWhileTheDayIsCarried) {
+    class Watching : public RecordingMonthly {
+        void SetCommonInfo() override { ::record(Updating ? "updating" : "free"); }
+    };
+    auto factories = recordingFactories();
+    factories.monthly = [] { return new Watching; };
+    ChangeCals::BeginRun(factories);
+    ChangeCals::LoadMonthly().Show();
+    ChangeCals::ChooseDate(Gregorian, {1, 1, 2000}, MonthlyWindowNumber);
+    ChangeCals::ChooseJulianDay(2451546, MonthlyWindowNumber);
+    EXPECT_EQ(std::ranges::count(calls, "updating"), 2);
+    EXPECT_FALSE(Updating);
+}
+
 TEST_F(Updates, TodayWithoutAChangeDoesNothing) {
     ChangeCals::LoadYear(Julian).Show();
     CurrentWindow = 0;
-    ChangeCals::GoToToday(Jewish);
+    ChangeCals::GoToToday(YearWindowNumber(Jewish));
     EXPECT_EQ(takeCalls(), Calls{});
     EXPECT_EQ(CurrentWindow, 0);
 }
@@ -94,7 +121,7 @@ TEST_F(Updates, TodayGoesThroughTheGregorianCalendar) {
     ChangeCals::ChangeJD();
     ChangeCals::LoadYear(Jewish).Show();
     ChangeCals::LoadYear(Julian).Show();
-    ChangeCals::GoToToday(Jewish);
+    ChangeCals::GoToToday(YearWindowNumber(Jewish));
     EXPECT_EQ(dateIn(Gregorian), (Date{20, 11, 2026}));
     EXPECT_EQ(takeCalls(), (Calls{"year3.ShowYear", "year1.ShowYear"}));
 }

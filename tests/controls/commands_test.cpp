@@ -19,7 +19,7 @@ protected:
         useRecordingWindows();
         m_window = std::make_unique<Form>(QStringLiteral("window"));
         m_commands = std::make_unique<Commands>(
-            *m_window, 0, [this] { ++m_closed; }, [this] { ++m_printed; });
+            *m_window, MonthlyWindowNumber, [this] { ++m_closed; }, [this] { ++m_printed; });
         m_window->Show();
         EXPECT_TRUE(waitUntil([this] { return m_window->isActiveWindow(); }));
         calls.clear();
@@ -66,7 +66,7 @@ TEST_F(CommandKeys, CtrlPPrintsWhereTheWindowHasSomethingToPrint) {
     m_commands.reset();
     for (auto* shortcut : m_window->findChildren<QShortcut*>())
         delete shortcut;
-    const Commands withoutPaper(*m_window, 0, [] {});
+    const Commands withoutPaper(*m_window, MonthlyWindowNumber, [] {});
     press(Qt::Key_P);
     EXPECT_EQ(m_printed, 1);
 }

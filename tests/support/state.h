@@ -108,14 +108,6 @@ inline void setDate(int c, int day, int month, int year) {
     CurDate(c, Year) = year;
 }
 
-/// A date of calendar c as day, month and year, to be compared and printed.
-struct Date {
-    int day;
-    int month;
-    int year;
-    bool operator==(const Date& other) const = default;
-};
-
 inline Date dateIn(int c) {
     return {CurDate(c, Day), CurDate(c, Month), CurDate(c, Year)};
 }
