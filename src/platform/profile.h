@@ -1,16 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QByteArray>
-#include <QString>
-#include <map>
+#include "platform/inifile.h"
 
-/// A text file in initialisation-file form, sections of key=value lines, read once
-/// into a table of bytes. Section and key names are matched without regard to the case of Latin
-/// letters; blanks around them and around values are ignored. Of sections of one
-/// name only the first is searched, of equal keys the first is taken. Lines that
-/// begin with ";", lines without "=", header lines without "]" and what stands
-/// before the first section are skipped. A NUL ends a value.
+#include <QString>
+
+/// An initialisation file as it is read by its platform: of sections of one name only
+/// the first is searched, of equal keys the first is taken. Blanks around values are
+/// ignored, and a NUL ends them.
 class ProfileFile {
 public:
     /// Files beyond this size in bytes are not read.
@@ -41,12 +38,9 @@ public:
 private:
     ProfileFile() = default;
 
-    using Section = std::map<QByteArray, QByteArray>; // value by key
-
     void take(const QByteArray& bytes);
-    void takeLine(QByteArrayView line, Section*& section);
 
     Status m_status = Status::Unreadable;
     bool m_isUtf8 = false;
-    std::map<QByteArray, Section> m_sections;
+    IniFile m_entries;
 };

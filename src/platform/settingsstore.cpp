@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/settingsstore.h"
 
-#include "platform/initext.h"
+#include "platform/inifile.h"
 #include "platform/program.h"
+#include "platform/settingvalue.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -20,12 +21,12 @@ constexpr int longestWait = 900;        // milliseconds, for another program tha
 constexpr int longestSave = 5000;       // milliseconds, after which a lock was left behind
 
 struct Setting {
-    QString section;
-    QString key;
-    QString value;
+    QByteArray section;
+    QByteArray key;
+    QByteArray value; // as written
 };
 
-IniText settings;             // as loaded, with what was saved since
+IniFile settings;             // as loaded, with what was saved since
 std::vector<Setting> unsaved; // in the order in which they were saved
 
 // A relative folder is none, as the rules for base directories say. Without a home
@@ -108,16 +109,12 @@ bool writeFile(const QByteArray& bytes) {
     return !failure;
 }
 
-void setAll(IniText& text, const std::vector<Setting>& values) {
-    for (const Setting& setting : values)
-        text.SetValue(setting.section, setting.key, setting.value);
-}
-
 // What is written can be read again.
 bool merge() {
     const auto bytes = readFile();
-    IniText text(bytes.value_or(QByteArray()));
-    setAll(text, unsaved);
+    IniFile text(bytes.value_or(QByteArray()));
+    for (const Setting& setting : unsaved)
+        text.Set(setting.section, setting.key, setting.value);
     return bytes && text.Bytes().size() <= largestFile && writeFile(text.Bytes());
 }
 
@@ -125,18 +122,20 @@ bool merge() {
 
 bool LoadSettings() {
     const auto bytes = readFile();
-    settings = IniText(bytes.value_or(QByteArray()));
+    settings = IniFile(bytes.value_or(QByteArray()));
     unsaved.clear();
     return bytes.has_value();
 }
 
 QString GetSetting(const QString& section, const QString& key, const QString& standard) {
-    return settings.Value(section, key).value_or(standard);
+    const auto value = settings.Value(section.toUtf8(), key.toUtf8(), IniFile::Which::Last);
+    return value ? ReadSettingValue(*value) : standard;
 }
 
 void SaveSetting(const QString& section, const QString& key, const QString& value) {
-    unsaved.push_back({section, key, value});
-    settings.SetValue(section, key, value);
+    const Setting& saved =
+        unsaved.emplace_back(Setting{section.toUtf8(), key.toUtf8(), WriteSettingValue(value)});
+    settings.Set(saved.section, saved.key, saved.value);
 }
 
 bool FlushSettings() {

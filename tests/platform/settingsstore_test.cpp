@@ -199,6 +199,14 @@ TEST_F(SettingsStore, OfSeveralPlacesOfAKeyTheLastCounts) {
     EXPECT_EQ(get("Window"), QStringLiteral("3"));
 }
 
+TEST_F(SettingsStore, NamesAreMatchedWithoutRegardToCaseAndNeverInComments) {
+    load("[startup]\nWINDOW = 1\n;Window=4\n[Startup\n");
+    EXPECT_EQ(get("Window"), QStringLiteral("1"));
+    save("Window", "2");
+    EXPECT_TRUE(FlushSettings());
+    EXPECT_EQ(readFile(settingsPath()), "[startup]\nWindow=2\n;Window=4\n[Startup\n");
+}
+
 TEST_F(SettingsStore, ForeignFormsAreRead) {
     load("\xEF\xBB\xBF[ Startup ]\r\nWindow = \"3\"\r\nShowTips=1;on\r\nLanguage=\"unclosed\r\n");
     EXPECT_EQ(get("Window"), QStringLiteral("3"));
