@@ -16,8 +16,8 @@ constexpr int firstRowHeight = 345; // twips
 constexpr int otherRowHeight = 300; // twips
 constexpr int digitPixels = 11;
 
-// The last month of a year that the tables do not hold is 13 for all: where the
-// year has 12, the arithmetic takes the twelfth.
+// The tables do not hold the year before. Of a Jewish one 13 is asked for: where it has
+// 12 months, the arithmetic takes the twelfth.
 Date inNeighbour(int c, int direction) {
     const auto [day, month, year] = ChosenDate(c);
     const int last = c == Jewish ? 13 : 12;
