@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
-# What is given to others is hardened, and does not tell where it was built. Flags
-# of a distribution that harden already, the compiler's own or the environment's,
-# are left alone, and so is a build that is not optimised or is sanitized.
+# What is given to others is hardened. Flags of a distribution that harden already,
+# the compiler's own or the environment's, are left alone, and so is a build that is
+# not optimised or is sanitized.
 include(CheckCXXCompilerFlag)
 include(CheckCXXSourceCompiles)
 
@@ -16,8 +16,7 @@ if(ORVALEN_SANITIZE OR NOT ORVALEN_HARDENED_BY_US)
     return()
 endif()
 
-target_compile_options(project_options INTERFACE
-    -fstack-protector-strong "-ffile-prefix-map=${PROJECT_SOURCE_DIR}=.")
+target_compile_options(project_options INTERFACE -fstack-protector-strong)
 target_compile_definitions(project_options INTERFACE _FORTIFY_SOURCE=2)
 foreach(flag IN ITEMS -fstack-clash-protection -fcf-protection) # not on every processor
     string(MAKE_C_IDENTIFIER ${flag} taken)

@@ -14,6 +14,10 @@ if(ORVALEN_SANITIZE)
     target_compile_options(project_options INTERFACE
         -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_link_options(project_options INTERFACE -fsanitize=address,undefined)
+else()
+    # Where it was built is told by no program. Debian's flags say so too, but not in
+    # a folder whose name has a blank.
+    target_compile_options(project_options INTERFACE "-ffile-prefix-map=${PROJECT_SOURCE_DIR}=.")
 endif()
 
 include(cmake/Hardening.cmake)

@@ -18,9 +18,10 @@ MAKERS = {
 
 
 def package(folder, variables, umask):
-    subprocess.run(["git", "clone", "--quiet", sources.ROOT, folder], check=True)
-    subprocess.run(["dpkg-buildpackage", "--build=binary", "--no-sign"], cwd=folder, check=True,
-                   stdout=subprocess.DEVNULL, env={**os.environ, **variables}, umask=umask)
+    options = {"check": True, "env": {**os.environ, **variables}, "umask": umask}
+    subprocess.run(["git", "clone", "--quiet", sources.ROOT, folder], **options)
+    subprocess.run(["dpkg-buildpackage", "--build=binary", "--no-sign"], cwd=folder,
+                   stdout=subprocess.DEVNULL, **options)
     made, = folder.parent.glob("orvalen-years-calendar_*.deb")
     return made.read_bytes()
 
