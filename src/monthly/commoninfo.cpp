@@ -60,8 +60,7 @@ CommonInfo::CommonInfo(QWidget* parent)
 }
 
 int CommonInfo::Width() const {
-    return widestWeekday(*m_combo6) + moonAgeWidth() + CommandButton::side + m_combo8->OwnWidth() +
-           3 * gap;
+    return widestWeekday(*m_combo6) + moonAgeWidth() + Height() + m_combo8->OwnWidth() + 3 * gap;
 }
 
 int CommonInfo::Height() const {
@@ -77,8 +76,8 @@ void CommonInfo::Place(int left, int middle, int width) {
     };
     placeNext(m_combo6, widestWeekday(*m_combo6) - std::max(0, Width() - width));
     placeNext(m_combo7, moonAgeWidth());
-    m_command2.Move(left, middle - CommandButton::side / 2);
-    left += CommandButton::side + gap;
+    m_command2.Place(left, middle - Height() / 2, Height());
+    left += Height() + gap;
     placeNext(m_combo8, m_combo8->OwnWidth());
 }
 

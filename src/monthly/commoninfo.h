@@ -16,6 +16,8 @@ public:
 
     /// What the controls need in a row, in pixels, in the present font and language.
     int Width() const;
+
+    /// Of the row, and of its buttons, which are square.
     int Height() const;
 
     /// Places the controls from `left` on in a row around `middle`, in pixels.

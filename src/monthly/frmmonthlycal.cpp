@@ -34,7 +34,6 @@ constexpr int gap = 6;
 constexpr int commandAreaHeight = 56;
 constexpr int commandCount = frmMonthlyCal::commandCount;
 constexpr int closeButton = commandCount;
-constexpr int commandsWidth = commandCount * (CommandButton::side + gap) - gap; // in pixels
 
 // Of Command1, by its index.
 const Table<Command, commandCount> commands{Command::YearCalendars, Command::Today,
@@ -174,17 +173,19 @@ int frmMonthlyCal::placeCommon(int top, int width) {
     const int rowHeight = std::max(commandAreaHeight, m_common->Height() + 4 * gap);
     const int middle = top + rowHeight / 2;
     m_common->Place(margin, middle, width);
+    const int side = m_common->Height();
+    const int commandsWidth = commandCount * (side + gap) - gap;
     const bool fits = m_common->Width() + margin + commandsWidth <= width;
-    const int commandsMiddle = fits ? middle : middle + rowHeight / 2 + CommandButton::side / 2;
-    placeCommands(commandsMiddle);
-    return fits ? top + rowHeight : commandsMiddle + commandAreaHeight / 2;
+    const int commandsMiddle = fits ? middle : middle + rowHeight / 2 + side / 2;
+    placeCommands(margin + width - commandsWidth, commandsMiddle, side);
+    return commandsMiddle + rowHeight / 2;
 }
 
-void frmMonthlyCal::placeCommands(int middle) {
-    int left = ToPixels(PaneLeft(paneCount)) + Pane::width - commandsWidth;
+void frmMonthlyCal::placeCommands(int left, int middle, int side) {
     for (int index = 1; index <= commandCount; ++index) {
-        m_command1(index)->move(left, middle - CommandButton::side / 2);
-        left += CommandButton::side + gap;
+        m_command1(index)->SetSide(side);
+        m_command1(index)->move(left, middle - side / 2);
+        left += side + gap;
     }
 }
 

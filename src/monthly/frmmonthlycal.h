@@ -43,7 +43,7 @@ private:
     void createCommands();
     void place();
     int placeCommon(int top, int width);
-    void placeCommands(int middle);
+    void placeCommands(int left, int middle, int side);
     void placeEmblems();
     void addPaneKeys();
     void goToPane(int step);

@@ -48,14 +48,14 @@ Pane::Pane(int pane, QWidget* parent)
 
 int Pane::Place(int top) {
     const int left = ToPixels(PaneLeft(m_pane));
-    const int height = m_combo1->sizeHint().height();
-    const auto placeNext = [&](ComboBox* combo) {
+    const auto placeNext = [&](ComboBox* combo, const QStringList& names = {}) {
+        const int height = combo->HeightFor(names, width);
         combo->setGeometry(left, top, width, height);
         top += height + gap;
     };
-    placeNext(m_combo1);
+    placeNext(m_combo1, CalendarEntries());
     placeNext(m_combo2);
-    placeNext(m_combo3);
+    placeNext(m_combo3, EntriesOfAllMonths());
     m_grid->move(left + (width - m_grid->width()) / 2, top + gap);
     top += m_grid->height() + 3 * gap;
     placeNext(m_combo4);
@@ -74,9 +74,7 @@ void Pane::ShareLetterSizes(const Table<Pane*, paneCount>& panes) {
 }
 
 void Pane::Reset() {
-    m_combo1->Clear();
-    for (const int c : {Julian, Gregorian, Jewish, Moslem})
-        m_combo1->AddItem(Text(CalendarNames(c)));
+    m_combo1->SetItems(CalendarEntries(), -1);
     selectCalendar();
     m_combo3->Clear();
 }

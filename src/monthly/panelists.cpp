@@ -27,6 +27,23 @@ QString WeekEntry(int c, int week) {
     return fraction(week, YearDays(c, WeeksInYear));
 }
 
+QStringList CalendarEntries() {
+    QStringList names;
+    for (const int c : {Julian, Gregorian, Jewish, Moslem})
+        names.append(Text(CalendarNames(c)));
+    return names;
+}
+
+QStringList EntriesOfAllMonths() {
+    QStringList entries;
+    for (int c = 1; c <= calendarCount; ++c)
+        entries += NumberedEntries(1, Calc::MonthsInYear(c), 1, [c](int month) {
+                       return MonthEntry(c, month);
+                   }).texts;
+    return entries << fraction(7, 13) + QStringLiteral("  ") +
+                          Isolated(Text(AdarName + AdarSuffixes(2)));
+}
+
 ListEntries MonthEntries(int c) {
     return NumberedEntries(1, Calc::MonthsInYear(c), CurDate(c, Month),
                            [c](int month) { return MonthEntry(c, month); });

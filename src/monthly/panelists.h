@@ -15,6 +15,12 @@ QString DayEntry(int c, int day);
 /// "7/53", the week of the year.
 QString WeekEntry(int c, int week);
 
+/// The four calendars' names.
+QStringList CalendarEntries();
+
+/// The entries of every month that any calendar can have, in any year.
+QStringList EntriesOfAllMonths();
+
 /// All entries of each list, the chosen day's chosen.
 ListEntries MonthEntries(int c);
 ListEntries DayEntries(int c);

@@ -15,9 +15,11 @@ ButtonStack::ButtonStack(const QString& name, const QStringList& pictures, QWidg
     Front()->raise();
 }
 
-void ButtonStack::Move(int x, int y) {
-    for (CommandButton* button : m_buttons)
+void ButtonStack::Place(int x, int y, int side) {
+    for (CommandButton* button : m_buttons) {
+        button->SetSide(side);
         button->move(x, y);
+    }
 }
 
 void ButtonStack::BringToFront(int index) {

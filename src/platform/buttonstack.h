@@ -15,7 +15,7 @@ class ButtonStack : public QObject {
 public:
     ButtonStack(const QString& name, const QStringList& pictures, QWidget* parent);
 
-    void Move(int x, int y);
+    void Place(int x, int y, int side);
 
     /// The focus, where a button of the stack has it, goes along.
     void BringToFront(int index);

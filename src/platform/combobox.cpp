@@ -18,15 +18,15 @@ namespace {
 
 constexpr int visibleEntries = 15;
 
+// In pixels. The arrow is our own: a style's can be as wide as the list is high, or on
+// the wrong side of a list that runs right to left.
+constexpr int arrowSide = 12;
+constexpr QMargins border(4, 2, 4, 2); // the frame and what lies between it and the rest
+
 /// What stays free beside a text inside its field, for the overhang of letters, and
 /// what an editable field takes for itself, on each side in pixels.
 constexpr int textMargin = 2;
 constexpr int editMargin = 10;
-
-QRect textField(const QComboBox& list, const QStyleOptionComboBox& option) {
-    return list.style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField,
-                                        &list);
-}
 
 } // namespace
 
@@ -73,14 +73,16 @@ int ComboBox::WidthFor(const QString& text) const {
     return fontMetrics().horizontalAdvance(text) + 2 * margin + chromeWidth();
 }
 
+int ComboBox::HeightFor(const QStringList& texts, int width) const {
+    const QSize size(width, sizeHint().height());
+    const bool oneLine = std::all_of(texts.begin(), texts.end(), [&](const QString& text) {
+        return FitsInLines(fontMetrics(), text, roomIn(size));
+    });
+    return size.height() + (oneLine ? 0 : fontMetrics().lineSpacing());
+}
+
 int ComboBox::FitWidth(const QString& text, int most) {
-    QFont fitted = parentWidget()->font();
-    setFont(fitted);
-    for (int size = QFontInfo(fitted).pixelSize();
-         WidthFor(text) > most && size > smallestPixelSize;) {
-        fitted.setPixelSize(--size);
-        setFont(fitted);
-    }
+    setFont(FittedFont(parentWidget()->font(), text, most - WidthFor({})));
     return std::min(WidthFor(text), most);
 }
 
@@ -140,15 +142,22 @@ void ComboBox::paintEvent(QPaintEvent* event) {
     }
     QStyleOptionComboBox option;
     initStyleOption(&option);
+    option.subControls &= ~QStyle::SC_ComboBoxArrow;
     QStylePainter painter(this);
     painter.setPen(palette().color(QPalette::Text));
     painter.drawComplexControl(QStyle::CC_ComboBox, option);
+    const QRect inner = rect() - border;
+    const auto visual = [&](const QRect& part) {
+        return QStyle::visualRect(layoutDirection(), rect(), part);
+    };
     painter.setFont(fittedFont());
     // The style would draw inside a margin of its own, which nothing tells.
-    style()->drawItemText(&painter, textField(*this, option).adjusted(1, 0, -1, 0),
+    style()->drawItemText(&painter, visual(inner.adjusted(1, 0, -arrowSide - 1, 0)),
                           int(QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft)) |
-                              Qt::AlignVCenter,
+                              Qt::AlignVCenter | Qt::TextWordWrap,
                           option.palette, isEnabled(), option.currentText);
+    option.rect = visual(inner.adjusted(inner.width() - arrowSide, 0, 0, 0));
+    style()->drawPrimitive(QStyle::PE_IndicatorArrowDown, &option, &painter, this);
 }
 
 // The toolkit calls it for another font or style as well.
@@ -167,20 +176,26 @@ void ComboBox::fill() {
 }
 
 int ComboBox::chromeWidth() const {
+    if (!isEditable())
+        return border.left() + border.right() + arrowSide;
     QStyleOptionComboBox option;
     initStyleOption(&option);
     option.rect = QRect(0, 0, 10 * sizeHint().height(), sizeHint().height());
-    return option.rect.width() - textField(*this, option).width();
+    return option.rect.width() -
+           style()
+               ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this)
+               .width();
+}
+
+// What a list of this size has for its text.
+QSize ComboBox::roomIn(const QSize& size) const {
+    return {size.width() - WidthFor({}), size.shrunkBy(border).height()};
 }
 
 // Kept, since all lists of one letter size ask for it whenever one is painted.
 const QFont& ComboBox::ownFittedFont() const {
-    if (!m_ownFitted) {
-        QStyleOptionComboBox option;
-        initStyleOption(&option);
-        m_ownFitted = FittedFont(font(), option.currentText,
-                                 textField(*this, option).width() - 2 * textMargin);
-    }
+    if (!m_ownFitted)
+        m_ownFitted = FittedFont(font(), currentText(), roomIn(size()));
     return *m_ownFitted;
 }
 

@@ -25,8 +25,9 @@ ListEntries NumberedEntries(
 
 /// A drop-down list in the classic terms. Click is raised for the user's choices
 /// only, also when the same entry is chosen again. The wheel does nothing without
-/// the focus. A text too wide for the list is shown in a smaller font rather than
-/// cut. At most 15 entries drop down, the chosen one in their middle.
+/// the focus. A text too wide for the list is broken between words where the list is
+/// high enough, and else shown in a smaller font rather than cut. At most 15 entries drop down, the
+/// chosen one in their middle.
 ///
 /// A number typed into the list chooses at each digit (ListTyping).
 class ComboBox : public QComboBox, public Speaker {
@@ -71,9 +72,12 @@ public:
     /// The width that shows `text` whole in the list's own font, in pixels.
     int WidthFor(const QString& text) const;
 
+    /// The height that shows each of these texts in the list's own font, in a list of
+    /// `width` pixels: on two lines where one of them does not fit on one.
+    int HeightFor(const QStringList& texts, int width) const;
+
     /// Takes a font smaller than the parent's where `text` would not be shown whole
-    /// in `most` pixels: a smaller arrow goes with it. Returns the width that the
-    /// text needs, `most` at the most.
+    /// in `most` pixels. Returns the width that the text needs, `most` at the most.
     int FitWidth(const QString& text, int most);
 
     /// From now on these lists show their texts in one letter size, the smallest
@@ -97,6 +101,7 @@ private:
     void fill();
 
     int chromeWidth() const;
+    QSize roomIn(const QSize& size) const;
     const QFont& ownFittedFont() const;
     QFont fittedFont() const;
 

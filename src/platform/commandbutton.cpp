@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QStyleOptionButton>
+#include <algorithm>
 
 namespace {
 
@@ -22,10 +23,15 @@ CommandButton::CommandButton(const QString& name, const QString& picture, QWidge
     setObjectName(name);
     setFocusPolicy(Qt::StrongFocus);
     setAutoDefault(false);
-    setFixedSize(side, side);
-    setIconSize({pictureSide, pictureSide});
+    SetSide(side);
     setIcon(ButtonPicture(picture));
     setAttribute(Qt::WA_Hover); // not every style has it repainted under the pointer
+}
+
+void CommandButton::SetSide(int pixels) {
+    const int edge = std::max(side, pixels);
+    setFixedSize(edge, edge);
+    setIconSize(QSize(edge, edge) * pictureSide / side);
 }
 
 void CommandButton::SetTabStop(bool on) {

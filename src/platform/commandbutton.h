@@ -13,9 +13,12 @@ class CommandButton : public QPushButton {
 public:
     CommandButton(const QString& name, const QString& picture, QWidget* parent);
 
-    /// Edge length of the button and of its picture, in pixels.
+    /// Least edge length of the button and of its picture, in pixels.
     static constexpr int side = 30;
     static constexpr int pictureSide = 24;
+
+    /// The picture grows with the button.
+    void SetSide(int pixels);
 
     void SetTabStop(bool on);
 

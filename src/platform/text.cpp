@@ -5,6 +5,19 @@
 #include <QFontMetrics>
 #include <QRegularExpression>
 #include <QTextDocument>
+#include <functional>
+
+namespace {
+
+QFont fitted(const QFont& font, const std::function<bool(const QFontMetrics&)>& fits) {
+    QFont smaller = font;
+    int pixels = QFontInfo(font).pixelSize();
+    while (pixels > smallestPixelSize && !fits(QFontMetrics(smaller)))
+        smaller.setPixelSize(--pixels);
+    return smaller;
+}
+
+} // namespace
 
 QString Caption(const std::string& text) {
     return Text(text).replace(u'&', QStringLiteral("&&"));
@@ -27,9 +40,18 @@ QString Spoken(QString text) {
 }
 
 QFont FittedFont(const QFont& font, const QString& text, int width) {
-    QFont fitted = font;
-    int pixels = QFontInfo(font).pixelSize();
-    while (pixels > smallestPixelSize && QFontMetrics(fitted).horizontalAdvance(text) > width)
-        fitted.setPixelSize(--pixels);
-    return fitted;
+    return fitted(font, [&](const QFontMetrics& metrics) {
+        return metrics.horizontalAdvance(text) <= width;
+    });
+}
+
+QFont FittedFont(const QFont& font, const QString& text, const QSize& room) {
+    return fitted(font,
+                  [&](const QFontMetrics& metrics) { return FitsInLines(metrics, text, room); });
+}
+
+bool FitsInLines(const QFontMetrics& metrics, const QString& text, const QSize& room) {
+    const QRect whole(QPoint(), room);
+    return metrics.horizontalAdvance(text) <= room.width() ||
+           whole.contains(metrics.boundingRect(whole, Qt::TextWordWrap, text));
 }

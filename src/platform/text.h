@@ -2,6 +2,8 @@
 #pragma once
 
 #include <QFont>
+#include <QFontMetrics>
+#include <QSize>
 #include <QString>
 #include <string>
 
@@ -31,3 +33,9 @@ inline constexpr int smallestPixelSize = 6;
 
 /// `font`, made smaller where `text` would not fit into `width` pixels.
 QFont FittedFont(const QFont& font, const QString& text, int width);
+
+/// The same for a text that may be broken between words.
+QFont FittedFont(const QFont& font, const QString& text, const QSize& room);
+
+/// Whether such a text fits, on one line or on so many as there is room for.
+bool FitsInLines(const QFontMetrics& metrics, const QString& text, const QSize& room);

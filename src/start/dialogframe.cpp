@@ -10,14 +10,16 @@
 DialogFrame::DialogFrame(const QString& title, int width, QWidget* parent)
     : QGroupBox(parent), m_rows(new QVBoxLayout(this)) {
     setAccessibleName(title);
-    if (fontMetrics().horizontalAdvance(title) <= width)
-        setTitle(Caption(title.toStdString()));
-    else
-        m_rows->addWidget(NewDialogLabel(title, width, this));
+    const QMargins margins = m_rows->contentsMargins();
+    m_rows->setContentsMargins(margins - QMargins(0, margins.top() / 2, 0, margins.bottom() / 2));
+    QFont bold = font();
+    bold.setBold(true);
+    m_rows->addWidget(NewDialogLabel(title, width, this, bold));
 }
 
-QLabel* NewDialogLabel(const QString& text, int width, QWidget* parent) {
+QLabel* NewDialogLabel(const QString& text, int width, QWidget* parent, const QFont& font) {
     auto* label = new QLabel(parent);
+    label->setFont(font);
     label->setTextFormat(Qt::PlainText);
     label->setText(Wrapped(text, label->font(), width));
     return label;

@@ -41,6 +41,15 @@ QString variantCaption(int era, int leapYears) {
                           : text + u'\n' + Text(LabelTexts(leapYears));
 }
 
+int widestWord(const QFontMetrics& metrics) {
+    int width = 0;
+    for (int c = 1; c <= calendarCount; ++c) {
+        for (const QString& word : Text(CalendarNames(c)).split(u' '))
+            width = std::max(width, metrics.horizontalAdvance(word));
+    }
+    return width;
+}
+
 } // namespace
 
 frmOptions::frmOptions()
@@ -97,21 +106,32 @@ void frmOptions::measure() {
     m_columnWidth = m_textWidth / 2 - Metric(QStyle::PM_LayoutLeftMargin);
 }
 
-// Two columns below the first frame; where they are too wide they stand one
-// below the other.
+// Two columns below the first frame. Where they are too wide, or too narrow for a word,
+// they stand one below the other, each as wide as the frame.
 void frmOptions::placeFrames(QWidget* frames) {
     auto* rows = new QVBoxLayout(frames);
     rows->setContentsMargins({});
     rows->addWidget(moslemFrame(frames));
-    auto* columns = new QHBoxLayout;
-    rows->addLayout(columns);
-    columns->addWidget(weekdaysFrame(frames));
+    QWidget* columns = newColumns(frames, QBoxLayout::LeftToRight);
+    const int most = m_textWidth + 3 * Metric(QStyle::PM_LayoutLeftMargin);
+    if (columns->minimumSizeHint().width() > most || widestWord(fontMetrics()) > nameWidth()) {
+        delete columns;
+        m_columnWidth = m_textWidth;
+        columns = newColumns(frames, QBoxLayout::TopToBottom);
+    }
+    rows->addWidget(columns);
+}
+
+QWidget* frmOptions::newColumns(QWidget* parent, QBoxLayout::Direction direction) {
+    auto* widget = new QWidget(parent);
+    auto* columns = new QBoxLayout(direction, widget);
+    columns->setContentsMargins({});
+    columns->addWidget(weekdaysFrame(widget));
     auto* right = new QVBoxLayout;
     columns->addLayout(right, 1);
-    right->addWidget(languageFrame(frames));
-    right->addWidget(startupFrame(frames));
-    if (columns->minimumSize().width() > m_textWidth + 3 * Metric(QStyle::PM_LayoutLeftMargin))
-        columns->setDirection(QBoxLayout::TopToBottom);
+    right->addWidget(languageFrame(widget));
+    right->addWidget(startupFrame(widget));
+    return widget;
 }
 
 DialogFrame* frmOptions::moslemFrame(QWidget* parent) {
@@ -146,9 +166,10 @@ DialogFrame* frmOptions::weekdaysFrame(QWidget* parent) {
         const QString name = IsCalendar(c) ? Text(CalendarNames(c)) : QString();
         m_combo1(pane) = newWeekdayList(pane, frame);
         m_combo1(pane)->setAccessibleName(name);
-        grid->addWidget(NewDialogLabel(name, m_columnWidth * 2 / 3, frame), pane - 1, 0);
+        grid->addWidget(NewDialogLabel(name, nameWidth(), frame), pane - 1, 0);
         grid->addWidget(m_combo1(pane), pane - 1, 1);
     }
+    grid->setColumnStretch(0, 1);
     return frame;
 }
 
@@ -193,9 +214,19 @@ ComboBox* frmOptions::newWideList(const QString& name, int label, DialogFrame* f
     return list;
 }
 
+// Of a calendar beside its list of weekdays.
+int frmOptions::nameWidth() const {
+    return m_columnWidth * 2 / 3;
+}
+
+// They are as high as a list.
+int frmOptions::buttonSide() const {
+    return std::max(CommandButton::side, m_combo3->sizeHint().height());
+}
+
 QHBoxLayout* frmOptions::commandRow() {
     const int captionWidth = m_textWidth - Metric(QStyle::PM_IndicatorWidth) -
-                             Metric(QStyle::PM_CheckBoxLabelSpacing) - 2 * CommandButton::side;
+                             Metric(QStyle::PM_CheckBoxLabelSpacing) - 2 * buttonSide();
     m_check1 =
         new QCheckBox(WrappedCaption(Text(LabelTexts(ShowTipsLabel)), font(), captionWidth), this);
     m_check1->setObjectName(QStringLiteral("Check1"));
@@ -210,6 +241,7 @@ QHBoxLayout* frmOptions::commandRow() {
 
 CommandButton* frmOptions::newCommand(int index, const QString& picture, int tip) {
     auto* button = new CommandButton(QStringLiteral("Command1_%1").arg(index), picture, this);
+    button->SetSide(buttonSide());
     Controls::SetTip(button, tip);
     connect(button, &CommandButton::clicked, this, [this, index] { Command1_Click(index); });
     return button;

@@ -7,13 +7,13 @@
 #include "shared/table.h"
 #include "start/dialog.h"
 
+#include <QBoxLayout>
 #include <string>
 
 class ComboBox;
 class CommandButton;
 class DialogFrame;
 class QCheckBox;
-class QHBoxLayout;
 
 /// The options dialog. What is chosen in it takes effect with Apply.
 class frmOptions : public Dialog {
@@ -43,12 +43,15 @@ private:
 
     void measure();
     void placeFrames(QWidget* frames);
+    QWidget* newColumns(QWidget* parent, QBoxLayout::Direction direction);
     DialogFrame* moslemFrame(QWidget* parent);
     DialogFrame* weekdaysFrame(QWidget* parent);
     ComboBox* newWeekdayList(int pane, QWidget* parent);
     DialogFrame* languageFrame(QWidget* parent);
     DialogFrame* startupFrame(QWidget* parent);
     ComboBox* newWideList(const QString& name, int label, DialogFrame* frame);
+    int nameWidth() const;
+    int buttonSide() const;
     QHBoxLayout* commandRow();
     CommandButton* newCommand(int index, const QString& picture, int tip);
     void selectLanguage();
@@ -58,7 +61,7 @@ private:
     static void applyChanges(const Choices& before);
 
     int m_textWidth;   ///< of a line, in pixels
-    int m_columnWidth; ///< of a line in one of two columns
+    int m_columnWidth; ///< of a line in a column
 
     int m_moslemType;                         ///< pending
     Table<int, calendarCount> m_firstWeekDay; ///< pending, by calendar

@@ -208,7 +208,7 @@ void frmYearCal::placeControls() {
     left += gap;
     placeGroup(PreviousYear, TodayButton);
     left += gap;
-    m_command2.Move(left, (height - CommandButton::side) / 2);
+    m_command2.Place(left, (height - CommandButton::side) / 2, CommandButton::side);
     placeNext(m_command2.Front());
     placeGroup(FirstOtherCalendar, buttonCount);
     left += gap;

@@ -75,7 +75,7 @@ TEST_F(MonthlyLayout, PanesStandBelowTheirEmblems) {
 
 TEST_F(MonthlyLayout, APaneIsAsHighAsItsControls) {
     for (int pane = 1; pane <= 4; ++pane) {
-        const int height = combo(1, pane).height();
+        const int height = combo(1, pane).height(); // one line
         EXPECT_EQ(combo(2, pane).y(), combo(1, pane).y() + height + paneGap);
         EXPECT_EQ(combo(3, pane).y(), combo(2, pane).y() + height + paneGap);
         EXPECT_EQ(grid(pane).y(), combo(3, pane).y() + height + 2 * paneGap);
@@ -111,6 +111,36 @@ TEST_F(MonthlyLayout, LargeListsKeepTheirDistanceFromTheLine) {
     EXPECT_GE(combo(6).y() - (line().y() + line().height()), 2 * gap);
     EXPECT_NEAR(command(1).y() - (combo(6).y() + combo(6).height()), 2 * gap, 1)
         << "an odd height is not halved evenly";
+}
+
+TEST_F(MonthlyLayout, ButtonsAreAsHighAsTheListsBesideThemButNeverSmall) {
+    EXPECT_EQ(command(1).size(), QSize(30, 30));
+    EXPECT_EQ(moonButton(3).size(), QSize(30, 30));
+    enlargeLetters();
+    const int height = combo(6).height();
+    EXPECT_GT(height, 40);
+    EXPECT_EQ(command(1).size(), QSize(height, height));
+    EXPECT_EQ(command(5).size(), QSize(height, height));
+    EXPECT_EQ(moonButton(3).size(), QSize(height, height));
+    EXPECT_EQ(rightOf(command(5)), right);
+}
+
+// Of the row that is shown and of those that could be: nothing moves with the day.
+TEST_F(MonthlyLayout, ListsOfNamesAreAsHighAsTheirLongestNameNeeds) {
+    const int oneLine = combo(2, 1).height();
+    EXPECT_EQ(combo(1, 1).height(), oneLine);
+    EXPECT_EQ(combo(3, 1).height(), oneLine);
+    MonthNames(Jewish, 5) = "Wwwwwwwww Wwwwwwwww";
+    window().SetTexts();
+    expectNothingOverlapsOrSticksOut();
+    for (int pane = 1; pane <= 4; ++pane) {
+        EXPECT_EQ(combo(1, pane).height(), oneLine);
+        EXPECT_GT(combo(3, pane).height(), oneLine + 8);
+    }
+    CalendarNames(Moslem) = "Wwwwwwwww Wwwwwwwww";
+    window().SetTexts();
+    EXPECT_GT(combo(1, 1).height(), oneLine + 8);
+    EXPECT_EQ(combo(2, 1).height(), oneLine);
 }
 
 TEST_F(MonthlyLayout, TheListOfWeekdaysTakesTheRoomThatItsNamesNeedOrElseWhatIsLeft) {

@@ -13,7 +13,7 @@ protected:
                 {QStringLiteral("moon/phase0"), QStringLiteral("moon/phase1"),
                  QStringLiteral("moon/phase2")},
                 &window) {
-        stack.Move(10, 40);
+        stack.Place(10, 40, CommandButton::side);
         QObject::connect(&stack, &ButtonStack::Click, &stack, [this] { ++clicks; });
     }
 

@@ -37,6 +37,71 @@ TEST_P(ComboInStyle, FifteenEntriesDropDownTheChosenOneInTheirMiddle) {
     EXPECT_TRUE(view->verticalScrollBar()->isVisible());
 }
 
+// The pixels that a list shows for its entry alone.
+QRect inkOf(ComboBox& list) {
+    const QImage full = list.grab().toImage();
+    const QString text = list.Text();
+    list.SetOnlyItem({});
+    const QImage empty = list.grab().toImage();
+    list.SetOnlyItem(text);
+    QRect ink;
+    for (int y = 0; y < full.height(); ++y)
+        for (int x = 0; x < full.width(); ++x)
+            if (full.pixel(x, y) != empty.pixel(x, y))
+                ink |= QRect(x, y, 1, 1);
+    return ink;
+}
+
+// Some styles shade from the top to the bottom; an arrow differs from what is beside it.
+bool isPlain(const QImage& image, const QRect& part) {
+    for (int y = part.top(); y <= part.bottom(); ++y)
+        for (int x = part.left(); x <= part.right(); ++x)
+            if (image.pixel(x, y) != image.pixel(part.left(), y))
+                return false;
+    return true;
+}
+
+TEST_P(ComboInStyle, TheArrowStandsAtTheEndOfALineAndCoversNoEntry) {
+    show();
+    list->SetOnlyItem(QStringLiteral("Hebrew"));
+    list->resize(100, 60);
+    for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+        SCOPED_TRACE(direction);
+        list->setLayoutDirection(direction);
+        const QRect ink = inkOf(*list);
+        const QRect whole = list->rect();
+        list->SetOnlyItem({});
+        const QImage empty = list->grab().toImage();
+        EXPECT_TRUE(isPlain(empty, ink));
+        const bool fromRight = direction == Qt::RightToLeft;
+        EXPECT_LT(fromRight ? whole.right() - ink.right() : ink.left(), 10);
+        const QRect end(fromRight ? 6 : whole.right() - 15, 10, 10, 40);
+        EXPECT_FALSE(isPlain(empty, end)) << "the arrow";
+        list->SetOnlyItem(QStringLiteral("Hebrew"));
+    }
+}
+
+TEST_P(ComboInStyle, WordsAreWrappedBeforeTheirLettersShrink) {
+    show();
+    QFont font = list->font();
+    font.setPixelSize(20);
+    list->setFont(font);
+    const QStringList names{QStringLiteral("Hxxx"), QStringLiteral("Hxxx Hxxx")};
+    const int oneLine = list->HeightFor({names.first()}, 90);
+    const int twoLines = list->HeightFor(names, 90);
+    EXPECT_EQ(oneLine, list->sizeHint().height());
+    EXPECT_NEAR(twoLines - oneLine, 24, 2) << "a line";
+    list->SetOnlyItem(names.first());
+    list->resize(90, twoLines);
+    const QRect one = inkOf(*list);
+    list->SetOnlyItem(names.last());
+    const QRect two = inkOf(*list);
+    EXPECT_EQ(two.width(), one.width());
+    EXPECT_NEAR(two.height() - one.height(), 24, 2);
+    list->resize(90, one.height() + 8);
+    EXPECT_LT(inkOf(*list).height(), one.height()) << "there is no room for a second line";
+}
+
 TEST_P(ComboInStyle, AShortListDropsDownWhole) {
     show();
     focusList();

@@ -93,6 +93,35 @@ TEST_F(OneButton, ItsCrossIsGreyAndRedUnderThePointer) {
     EXPECT_LT(middle(*button).hsvSaturation(), grey);
 }
 
+// The width of the cross that is drawn in it.
+int pictureWidth(CommandButton& button) {
+    const QImage image = button.grab().toImage();
+    int left = image.width();
+    int right = -1;
+    for (int x = 0; x < image.width(); ++x) {
+        for (int y = 0; y < image.height(); ++y) {
+            const QColor pixel = image.pixelColor(x, y);
+            if (pixel.blue() > pixel.red() + 30) {
+                left = std::min(left, x);
+                right = std::max(right, x);
+            }
+        }
+    }
+    return right - left + 1;
+}
+
+TEST_F(OneButton, ItsPictureGrowsWithIt) {
+    show();
+    pointElsewhere(*button);
+    EXPECT_NEAR(pictureWidth(*button), 20, 2);
+    button->SetSide(60);
+    EXPECT_EQ(button->size(), QSize(60, 60));
+    EXPECT_NEAR(pictureWidth(*button), 40, 2);
+    button->SetSide(10);
+    EXPECT_EQ(button->size(), QSize(30, 30)) << "as small as it gets";
+    EXPECT_NEAR(pictureWidth(*button), 20, 2);
+}
+
 TEST_F(OneButton, AClickTakesTheFocus) {
     show();
     click(button);

@@ -172,11 +172,28 @@ TEST_F(Options, FramesAreNamedAlsoWhereTheirTitleIsWrapped) {
     open();
     const auto* frame = qobject_cast<QGroupBox*>(list("Combo2")->parentWidget());
     ASSERT_NE(frame, nullptr);
-    EXPECT_EQ(frame->title(), QString());
     EXPECT_EQ(frame->accessibleName(), QString(254, u'W'));
+    EXPECT_EQ(frame->findChild<QLabel*>()->text().remove(u'\n'), QString(254, u'W'));
     const auto* other = qobject_cast<QGroupBox*>(list("Combo3")->parentWidget());
-    EXPECT_EQ(other->title(), Text(LabelTexts(StartupWindowLabel)));
+    EXPECT_EQ(other->findChild<QLabel*>()->text(), QStringLiteral("Startup window"));
     close();
+}
+
+TEST_F(Options, ButtonsAreAsHighAsTheListsButNeverSmall) {
+    open();
+    EXPECT_EQ(child<CommandButton>(*dialog, "Command1_1")->size(), QSize(30, 30));
+    close();
+    const QFont former = QApplication::font();
+    QFont font = former;
+    font.setPointSize(22);
+    QApplication::setFont(font);
+    open();
+    const int height = list("Combo3")->height();
+    EXPECT_GT(height, 36);
+    EXPECT_EQ(child<CommandButton>(*dialog, "Command1_1")->size(), QSize(height, height));
+    EXPECT_EQ(child<CommandButton>(*dialog, "Command1_2")->size(), QSize(height, height));
+    close();
+    QApplication::setFont(former);
 }
 
 TEST_F(Options, TipsAreShownWithTipsOnly) {

@@ -16,6 +16,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFontInfo>
+#include <QRegularExpression>
 #include <QStyle>
 #include <tuple>
 
@@ -81,8 +82,19 @@ protected:
             ASSERT_TRUE(QFile::copy(shipped.filePath(file), programPath(file)));
     }
 
-    // Whether a list twice as wide draws the same in a size between that of the
-    // list and the smallest that can be read.
+    // The text on one line, and broken at each of its blanks and hyphens.
+    static QStringList inLines(const QString& text) {
+        static const QRegularExpression blanks(QStringLiteral(" +|(?<=-)"));
+        QStringList broken{text};
+        for (auto found = blanks.globalMatch(text); found.hasNext();) {
+            const auto blank = found.next();
+            broken << text.left(blank.capturedStart()) + u'\n' + text.mid(blank.capturedEnd());
+        }
+        return broken;
+    }
+
+    // Whether a list twice as wide draws the same, on one line or two, in a size
+    // between that of the list and the smallest that can be read.
     static bool isDrawnWhole(ComboBox& list, const QString& text) {
         const QImage drawn = ink(list, text);
         ComboBox wide(QStringLiteral("Wide"), list.parentWidget());
@@ -92,8 +104,10 @@ protected:
         for (int size = QFontInfo(font).pixelSize(); size >= smallestLetters; --size) {
             font.setPixelSize(size);
             wide.setFont(font);
-            if (ink(wide, text) == drawn)
-                return true;
+            for (const QString& lines : inLines(text)) {
+                if (ink(wide, lines) == drawn)
+                    return true;
+            }
         }
         return false;
     }
@@ -176,6 +190,78 @@ TEST_P(InkOfDigits, EveryControlOfTheMonthlyWindowHasRoomOfItsOwn) {
     }
 }
 
+/// In one style, in a font that grows.
+class GrowingInk : public InkInLists {
+protected:
+    static void setPoints(int points) {
+        QFont font = QApplication::font();
+        font.setPointSize(points);
+        QApplication::setFont(font);
+        processEvents();
+    }
+
+    // Of the highest band of ink without a blank row: a line, as dots above a letter
+    // make a low one of their own.
+    static int letterHeight(ComboBox& list, const QString& text) {
+        const QImage drawn = ink(list, text);
+        int highest = 0;
+        int band = 0;
+        for (int y = 0; y < drawn.height(); ++y) {
+            bool blank = true;
+            for (int x = 0; x < drawn.width(); ++x)
+                blank = blank && drawn.pixel(x, y) == qRgb(255, 255, 255);
+            band = blank ? 0 : band + 1;
+            highest = std::max(highest, band);
+        }
+        return highest;
+    }
+
+    // Of the calendars' names and the months of the longest names, in the language now
+    // chosen.
+    static std::vector<int> letterHeights() {
+        std::vector<int> heights;
+        const auto add = [&heights](const char* list, const QString& text) {
+            const QString pattern = QString::fromLatin1(list) + QStringLiteral("_%1");
+            for (int pane = 2; pane <= paneCount; ++pane)
+                child<ComboBox>(ChangeCals::LoadMonthly(), qPrintable(pattern.arg(pane)))
+                    ->SetOnlyItem(text);
+            auto* first = child<ComboBox>(ChangeCals::LoadMonthly(), qPrintable(pattern.arg(1)));
+            heights.push_back(letterHeight(*first, text));
+        };
+        for (int c = 1; c <= calendarCount; ++c)
+            add("Combo1", Text(CalendarNames(c)));
+        for (int month = 1; month <= 12; ++month)
+            add("Combo3", QStringLiteral("12/12  ") + Isolated(Text(MonthNames(Moslem, month))));
+        add("Combo4", QStringLiteral("288/385"));
+        auto* year = child<ComboBox>(ChangeCals::LoadYear(Julian), "Combo1");
+        heights.push_back(letterHeight(*year, QStringLiteral("2888")));
+        return heights;
+    }
+};
+
+TEST_P(GrowingInk, IsNowhereSmallerInALargerFont) {
+    placeLanguages();
+    ChangeCals::OpenYearWindow(Julian);
+    for (const QString& name : LanguageList()) {
+        std::string language = name.toStdString();
+        LoadLanguage(language);
+        setPoints(9);
+        ChangeCals::SetAllTexts();
+        const std::vector<int> usual = letterHeights();
+        for (const int points : {16, 22}) {
+            setPoints(points);
+            const std::vector<int> large = letterHeights();
+            for (std::size_t text = 0; text < usual.size(); ++text)
+                EXPECT_GE(large[text], usual[text]) << language << " " << text << " " << points;
+        }
+    }
+    std::string english = englishLanguage;
+    LoadLanguage(english);
+}
+
+INSTANTIATE_TEST_SUITE_P(InStyles, GrowingInk,
+                         testing::Combine(testing::Values("fusion", "adwaita"),
+                                          testing::Values(9)));
 INSTANTIATE_TEST_SUITE_P(AtPoints, InkOfNames,
                          testing::Combine(testing::Values("fusion", "adwaita"),
                                           testing::Values(8, 9, 11, 14)));

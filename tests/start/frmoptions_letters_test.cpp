@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: MIT
+// The options in the letters of several desktops, from small to large.
+#include "shared/texts.h"
+#include "start/frmoptions_test.h"
+#include "start/language.h"
+
+#include <QLabel>
+#include <QStyle>
+#include <tuple>
+
+namespace {
+
+/// By language, style and size of the letters.
+class OptionsInLargeLetters
+    : public Options,
+      public testing::WithParamInterface<std::tuple<const char*, const char*, int>> {
+protected:
+    OptionsInLargeLetters()
+        : m_formerFont(QApplication::font()), m_formerStyle(QApplication::style()->name()) {
+        const auto& [language, style, points] = GetParam();
+        QApplication::setStyle(QLatin1String(style));
+        QFont font = m_formerFont;
+        font.setPointSize(points);
+        QApplication::setFont(font);
+        copyLanguage(language);
+        std::string name = language;
+        LoadLanguage(name);
+    }
+    ~OptionsInLargeLetters() override {
+        QApplication::setStyle(m_formerStyle);
+        QApplication::setFont(m_formerFont);
+        std::string english = englishLanguage;
+        LoadLanguage(english);
+    }
+
+    /// The label that shows a text, wherever its lines are broken between words.
+    QLabel* labelOf(QString text) {
+        for (QLabel* label : dialog->findChildren<QLabel*>()) {
+            if (label->text().replace(u'\n', u' ') == text)
+                return label;
+        }
+        ADD_FAILURE() << text.toStdString();
+        return dialog->findChild<QLabel*>();
+    }
+
+private:
+    QFont m_formerFont;
+    QString m_formerStyle;
+};
+
+/// What is drawn on a label, from one edge to the other.
+int inkWidth(QLabel& label) {
+    const QImage image = label.grab().toImage();
+    const QRgb ground = image.pixel(0, 0);
+    int left = image.width();
+    int right = -1;
+    for (int x = 0; x < image.width(); ++x) {
+        for (int y = 0; y < image.height(); ++y) {
+            if (image.pixel(x, y) != ground) {
+                left = std::min(left, x);
+                right = std::max(right, x);
+            }
+        }
+    }
+    return right - left + 1;
+}
+
+TEST_P(OptionsInLargeLetters, WordsAreWholeAndListsNoWiderThanTheyNeed) {
+    open();
+    for (int c = 1; c <= calendarCount; ++c)
+        labelOf(Text(CalendarNames(c)));
+    for (const int title :
+         {MoslemCalendarLabel, FirstWeekDayLabel, LanguageLabel, StartupWindowLabel}) {
+        QLabel& label = *labelOf(Text(LabelTexts(title)));
+        const int drawn = inkWidth(label);
+        label.resize(label.width() + 100, label.height());
+        EXPECT_EQ(inkWidth(label), drawn) << "no letter is cut";
+    }
+    for (const char* name : {"Combo1_1", "Combo1_4"})
+        EXPECT_LE(list(name)->width(), 9 * list(name)->fontMetrics().averageCharWidth() + 80);
+    close();
+}
+
+INSTANTIATE_TEST_SUITE_P(AtPoints, OptionsInLargeLetters,
+                         testing::Combine(testing::Values("Russian", "German", "Hebrew"),
+                                          testing::Values("fusion", "adwaita"),
+                                          testing::Values(9, 16, 22)));
+
+} // namespace
