@@ -136,8 +136,8 @@ QWidget* frmOptions::newColumns(QWidget* parent, QBoxLayout::Direction direction
 
 DialogFrame* frmOptions::moslemFrame(QWidget* parent) {
     auto* frame = new DialogFrame(Text(LabelTexts(MoslemCalendarLabel)), m_textWidth, parent);
-    frame->Rows()->addWidget(
-        NewDialogLabel(Text(LabelTexts(MoslemTypesLabel)), m_textWidth, frame));
+    QLabel* types = NewDialogLabel(Text(LabelTexts(MoslemTypesLabel)), m_textWidth, frame);
+    frame->Rows()->addWidget(types);
     const int captionWidth = m_textWidth - Metric(QStyle::PM_ExclusiveIndicatorWidth) -
                              Metric(QStyle::PM_RadioButtonLabelSpacing);
     const Table<QString, 2> captions{variantCaption(MoslemEra1Label, MoslemLeapYears1Label),
@@ -153,6 +153,11 @@ DialogFrame* frmOptions::moslemFrame(QWidget* parent) {
                 Option1_Click(type);
         });
         frame->Rows()->addWidget(option);
+        if (types->buddy() == nullptr) {
+            // Told once, with the first choice; a buddy's key would take a "&".
+            types->setText(Caption(types->text().toStdString()));
+            types->setBuddy(option);
+        }
     }
     return frame;
 }
@@ -211,6 +216,7 @@ ComboBox* frmOptions::newWideList(const QString& name, int label, DialogFrame* f
     list->setMinimumContentsLength(18);
     list->setAccessibleName(Text(LabelTexts(label)));
     frame->Rows()->addWidget(list);
+    frame->Rows()->addStretch(); // titles of frames side by side stand on one line
     return list;
 }
 

@@ -45,7 +45,7 @@ class ScreenReader:
         with open(self._folder / "orca.log", "wb") as log:
             self._process = subprocess.Popen([COMMAND, "--replace"], env=self._environment,
                                              stdin=subprocess.DEVNULL, stdout=log, stderr=log)
-        self._listen(START_SECONDS)
+        self.listen(START_SECONDS)
         self._take()
 
     def stop(self):
@@ -59,11 +59,11 @@ class ScreenReader:
             wait_until(lambda: is_expected(self._said_since()), "what is expected is said")
         except AssertionError:
             pass  # who compares will see it
-        self._listen()
-        self._listen()
+        self.listen()
+        self.listen()
         return self._take()
 
-    def _listen(self, seconds=SECONDS):
+    def listen(self, seconds=SECONDS):
         """Until all that has happened has been said."""
         self._questions += 1
         os.write(self._pipe, f"{self._questions}\n".encode())

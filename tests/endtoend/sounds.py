@@ -20,7 +20,8 @@ DAY = "2026-11-20"
 ANYTHING = "\u2026"
 
 MONTHLY = ["Monthly calendars frame."]
-OPTIONS = ["Options dialog.", "Moslem calendar panel.", "Moslem calendar.",
+OPTIONS = ["Options dialog.", "Moslem calendar panel.",
+           "This program version support two types of Moslem calendar with 30 years (Arab) cycle:",
            "Hegira — July 15, 622 A.D. "
            "Leap years of the cycle: 2, 5, 7, 10, 13, 15, 18, 21, 24, 26, 29.",
            "selected radio button"]
@@ -146,7 +147,8 @@ HEBREW = [
     ("The window is closed", ["ctrl+w"],
      ["לוחות חודשיים frame.", "הלוח הגרגוריאני, מספר היום בשנה combo box.", "325/366."]),
     ("The options", ["ctrl+comma"],
-     ["אפשרויות dialog.", "הלוח המוסלמי panel.", "הלוח המוסלמי.",
+     ["אפשרויות dialog.", "הלוח המוסלמי panel.",
+      "גרסה זו של התוכנה תומכת בשני סוגים של הלוח המוסלמי בעל מחזור (ערבי) של 30 שנה:",
       "ההיג׳רה – 15 ביולי 622 לספירה שנים מעוברות במחזור: "
       "2, 5, 7, 10, 13, 15, 18, 21, 24, 26, 29.", "selected radio button"]),
     ("On to the first days of weeks", ["Tab"],
@@ -194,7 +196,9 @@ class Hearing:
         """What is said then."""
         if not keys:
             self.program.start()
-        for key in keys:
+        for number, key in enumerate(keys):
+            if number > 0:  # a quick one keeps the reader from what came before
+                self._reader.listen()
             if key.startswith("type "):
                 self._desktop.xdotool("type", key.removeprefix("type "))
             else:

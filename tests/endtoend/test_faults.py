@@ -185,6 +185,7 @@ class UnreadableSettings(FaultTest):
         monthly.press("close")
         self.program.message_box().accept()
         self.assert_ends_well()
+        self.settings.path.chmod(0o600)
         self.assertEqual(self.settings.bytes(), self.stored, "the settings file")
         self.assert_no_temporary_files()
 

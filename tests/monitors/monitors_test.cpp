@@ -9,6 +9,7 @@
 #include "support/widget_test.h"
 
 #include <QScreen>
+#include <filesystem>
 
 namespace {
 
@@ -104,7 +105,9 @@ TEST_F(Monitors, TheSplashStandsOnThePrimary) {
 
 int main(int argc, char* argv[]) {
     testing::InitGoogleTest(&argc, argv);
-    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" TEST_DATA_DIR "/two_monitors.json");
+    // Beside the file, as the platform reads no letter beyond Latin-1 in its path.
+    std::filesystem::current_path(TEST_DATA_DIR);
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=two_monitors.json");
     QApplication app(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     return RUN_ALL_TESTS();

@@ -87,17 +87,18 @@ TEST_P(ComboInStyle, WordsAreWrappedBeforeTheirLettersShrink) {
     font.setPixelSize(20);
     list->setFont(font);
     const QStringList names{QStringLiteral("Hxxx"), QStringLiteral("Hxxx Hxxx")};
+    const int lineHeight = QFontMetrics(font).lineSpacing();
     const int oneLine = list->HeightFor({names.first()}, 90);
     const int twoLines = list->HeightFor(names, 90);
     EXPECT_EQ(oneLine, list->sizeHint().height());
-    EXPECT_NEAR(twoLines - oneLine, 24, 2) << "a line";
+    EXPECT_EQ(twoLines - oneLine, lineHeight);
     list->SetOnlyItem(names.first());
     list->resize(90, twoLines);
     const QRect one = inkOf(*list);
     list->SetOnlyItem(names.last());
     const QRect two = inkOf(*list);
     EXPECT_EQ(two.width(), one.width());
-    EXPECT_NEAR(two.height() - one.height(), 24, 2);
+    EXPECT_NEAR(two.height() - one.height(), lineHeight, 2);
     list->resize(90, one.height() + 8);
     EXPECT_LT(inkOf(*list).height(), one.height()) << "there is no room for a second line";
 }

@@ -48,21 +48,22 @@ private:
     QString m_formerStyle;
 };
 
-/// What is drawn on a label, from one edge to the other.
-int inkWidth(QLabel& label) {
+/// What is drawn on a label, from edge to edge.
+QRect inkOf(QLabel& label) {
     const QImage image = label.grab().toImage();
-    const QRgb ground = image.pixel(0, 0);
-    int left = image.width();
-    int right = -1;
+    QRect ink;
     for (int x = 0; x < image.width(); ++x) {
         for (int y = 0; y < image.height(); ++y) {
-            if (image.pixel(x, y) != ground) {
-                left = std::min(left, x);
-                right = std::max(right, x);
-            }
+            if (image.pixel(x, y) != image.pixel(0, 0))
+                ink |= QRect(x, y, 1, 1);
         }
     }
-    return right - left + 1;
+    return ink;
+}
+
+int baseLineOf(QLabel& label) {
+    label.setText(QStringLiteral("H"));
+    return label.mapTo(label.window(), inkOf(label).bottomLeft()).y();
 }
 
 TEST_P(OptionsInLargeLetters, WordsAreWholeAndListsNoWiderThanTheyNeed) {
@@ -72,12 +73,22 @@ TEST_P(OptionsInLargeLetters, WordsAreWholeAndListsNoWiderThanTheyNeed) {
     for (const int title :
          {MoslemCalendarLabel, FirstWeekDayLabel, LanguageLabel, StartupWindowLabel}) {
         QLabel& label = *labelOf(Text(LabelTexts(title)));
-        const int drawn = inkWidth(label);
+        const int drawn = inkOf(label).width();
         label.resize(label.width() + 100, label.height());
-        EXPECT_EQ(inkWidth(label), drawn) << "no letter is cut";
+        EXPECT_EQ(inkOf(label).width(), drawn) << "no letter is cut";
     }
     for (const char* name : {"Combo1_1", "Combo1_4"})
         EXPECT_LE(list(name)->width(), 9 * list(name)->fontMetrics().averageCharWidth() + 80);
+    close();
+}
+
+TEST_P(OptionsInLargeLetters, TitlesOfFramesSideBySideStandOnOneLine) {
+    open();
+    QLabel& left = *labelOf(Text(LabelTexts(FirstWeekDayLabel)));
+    QLabel& right = *labelOf(Text(LabelTexts(LanguageLabel)));
+    if (left.parentWidget()->y() == right.parentWidget()->y()) {
+        EXPECT_EQ(baseLineOf(left), baseLineOf(right));
+    }
     close();
 }
 
