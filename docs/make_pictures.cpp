@@ -15,6 +15,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QFile>
 #include <QPageLayout>
 #include <QPainter>
 #include <QStyle>
@@ -25,7 +26,10 @@ namespace {
 
 /// The screens, fonts, settings, language and clock of this computer make no difference.
 void makeStage(const QTemporaryDir& settings) {
-    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" SCREEN_FILE);
+    // A copy, as the platform reads no letter beyond Latin-1 in its path.
+    const QString screen = settings.filePath(QStringLiteral("screen.json"));
+    QFile::copy(QStringLiteral(SCREEN_FILE), screen);
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + screen.toLocal8Bit());
     qputenv("FONTCONFIG_FILE", FONTS_FILE);
     qputenv("XDG_CONFIG_HOME", settings.path().toLocal8Bit());
     qputenv("LC_ALL", "C.UTF-8");

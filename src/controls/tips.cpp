@@ -20,7 +20,7 @@ void setTip(QWidget* control, const QString& tip, const QString& ownName, int c)
 
 // Without what the mouse does, and without the scheme of a value that is told anyway.
 QString spokenName(int text) {
-    const QString tip = Text(StringTexts(text));
+    QString tip = Text(StringTexts(text));
     switch (text) {
     case MonthText:
         return tip.section(QStringLiteral(". "), -1);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QAccessibleWidget>
+#include <QModelIndexList>
 #include <map>
 
 class MSFlexGrid;
