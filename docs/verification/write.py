@@ -126,13 +126,12 @@ def failed_in(run):
 def take_run():
     """Keeps the results of the last ./test; a page tells of nothing that failed."""
     path = ROOT / "build/results.json"
-    if path.exists():
-        shutil.copyfile(path, HERE / "run.json")
-    run = read("run.json")
-    if run is None:
+    if not path.exists():
         raise SystemExit("No results of ./test: run it first.")
-    if failed_in(run):
-        raise SystemExit(f"The last ./test failed in: {', '.join(failed_in(run))}. No page is made of it.")
+    failed = failed_in(json.loads(path.read_text()))
+    if failed:
+        raise SystemExit(f"The last ./test failed in: {', '.join(failed)}. No page is made of it.")
+    shutil.copyfile(path, HERE / "run.json")
 
 
 def run_of_everything():
