@@ -32,10 +32,8 @@ class Endurance : public WidgetTest {
 protected:
     Endurance() : m_expected(today), m_hand(m_seed, m_expected, m_controls, m_messages) {
         SetClock([] { return SystemDate{20, 11, 2026}; });
-        for (const char* language : {"German.lng", "Hebrew.lng", "Russian.lng"}) {
-            const QString file = QLatin1String(language);
-            EXPECT_TRUE(QFile::copy(QStringLiteral(LANGUAGES_DIR "/") + file, programPath(file)));
-        }
+        for (const char* language : {"German", "Hebrew", "Russian"})
+            copyLanguage(language);
         QImage moon(16, 16, QImage::Format_RGB32);
         moon.fill(Qt::yellow);
         EXPECT_TRUE(moon.save(programPath(QStringLiteral("Moon.bmp")), "BMP"));

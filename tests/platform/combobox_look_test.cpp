@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/combobox_test.h"
+#include "support/ink.h"
 
 #include <QAbstractItemView>
 #include <QScrollBar>
@@ -44,12 +45,7 @@ QRect inkOf(ComboBox& list) {
     list.SetOnlyItem({});
     const QImage empty = list.grab().toImage();
     list.SetOnlyItem(text);
-    QRect ink;
-    for (int y = 0; y < full.height(); ++y)
-        for (int x = 0; x < full.width(); ++x)
-            if (full.pixel(x, y) != empty.pixel(x, y))
-                ink |= QRect(x, y, 1, 1);
-    return ink;
+    return DifferingPixels(full, empty);
 }
 
 // Some styles shade from the top to the bottom; an arrow differs from what is beside it.

@@ -37,10 +37,8 @@ protected:
     ~Screen() override { ChangeCals::EndRun(); }
 
     void placeFiles() const {
-        for (const char* language : {"German.lng", "Hebrew.lng", "Russian.lng"}) {
-            const QString file = QLatin1String(language);
-            EXPECT_TRUE(QFile::copy(QStringLiteral(LANGUAGES_DIR "/") + file, programPath(file)));
-        }
+        for (const char* language : {"German", "Hebrew", "Russian"})
+            copyLanguage(language);
         QImage picture(200, 200, QImage::Format_RGB32);
         picture.fill(Qt::yellow);
         EXPECT_TRUE(picture.save(programPath(QStringLiteral("Moon.bmp")), "BMP"));

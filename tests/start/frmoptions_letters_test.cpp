@@ -3,6 +3,7 @@
 #include "shared/texts.h"
 #include "start/frmoptions_test.h"
 #include "start/language.h"
+#include "support/ink.h"
 
 #include <QLabel>
 #include <QStyle>
@@ -34,7 +35,7 @@ protected:
     }
 
     /// The label that shows a text, wherever its lines are broken between words.
-    QLabel* labelOf(QString text) {
+    QLabel* labelOf(const QString& text) {
         for (QLabel* label : dialog->findChildren<QLabel*>()) {
             if (label->text().replace(u'\n', u' ') == text)
                 return label;
@@ -48,17 +49,8 @@ private:
     QString m_formerStyle;
 };
 
-/// What is drawn on a label, from edge to edge.
 QRect inkOf(QLabel& label) {
-    const QImage image = label.grab().toImage();
-    QRect ink;
-    for (int x = 0; x < image.width(); ++x) {
-        for (int y = 0; y < image.height(); ++y) {
-            if (image.pixel(x, y) != image.pixel(0, 0))
-                ink |= QRect(x, y, 1, 1);
-        }
-    }
-    return ink;
+    return InkOf(label.grab().toImage());
 }
 
 int baseLineOf(QLabel& label) {

@@ -77,11 +77,6 @@ protected:
         EXPECT_EQ(LanguageName, language);
     }
 
-    void copyLanguage(const char* name) const {
-        const QString file = QLatin1String(name) + QStringLiteral(".lng");
-        EXPECT_TRUE(QFile::copy(QStringLiteral(LANGUAGES_DIR "/") + file, programPath(file)));
-    }
-
     std::vector<Record*> records() {
         return {&years(1)->record, &years(2)->record, &years(3)->record,
                 &years(4)->record, &monthly->record,  &moon->record};

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "support/screenjudge.h"
 
+#include "support/ink.h"
 #include "support/platform_test.h"
 
 #include <QScreen>
@@ -34,10 +35,5 @@ QRect StalePixels(QWidget& window) {
     const QImage anew = shownOnScreen(window);
     EXPECT_FALSE(anew.isNull()) << "this screen shows nothing";
     EXPECT_EQ(shown.size(), anew.size());
-    QRect stale;
-    for (int y = 0; y < anew.height(); ++y)
-        for (int x = 0; x < anew.width(); ++x)
-            if (shown.pixel(x, y) != anew.pixel(x, y))
-                stale |= QRect(x, y, 1, 1);
-    return stale;
+    return DifferingPixels(anew, shown);
 }

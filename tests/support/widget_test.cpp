@@ -6,6 +6,8 @@
 #include "settings/storedsettings.h"
 #include "shared/english.h"
 
+#include <QFile>
+
 WidgetTest::WidgetTest() {
     ChangeCals::BeginRun({});
     EXPECT_TRUE(ReadSettings());
@@ -22,4 +24,9 @@ void WidgetTest::startToday(SystemDate today) {
     MonthNames(Jewish, 13).clear();
     setDate(Gregorian, today.day, today.month, today.year);
     ChangeCals::ChangeCal(Gregorian);
+}
+
+void WidgetTest::copyLanguage(const char* name) const {
+    const QString file = QLatin1String(name) + QStringLiteral(".lng");
+    EXPECT_TRUE(QFile::copy(QStringLiteral(LANGUAGES_DIR "/") + file, programPath(file)));
 }

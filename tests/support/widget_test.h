@@ -13,4 +13,7 @@ protected:
 
     /// Sets English texts and today's state in all calendars.
     void startToday(SystemDate today = {20, 11, 2026});
+
+    /// Puts a language of ours into the program's folder.
+    void copyLanguage(const char* name) const;
 };
