@@ -30,6 +30,8 @@ protected:
         return *child<CommandButton>(year(c), qPrintable(QStringLiteral("Command1_%1").arg(index)));
     }
 
+    static void clickCommand(int c, int index) { click(&command(c, index)); }
+
     /// Command1 by index.
     enum Button : int {
         PreviousYear = 1,
