@@ -26,8 +26,8 @@ ListEntries NumberedEntries(
 /// A drop-down list in the classic terms. Click is raised for the user's choices
 /// only, also when the same entry is chosen again. The wheel does nothing without
 /// the focus. A text too wide for the list is broken between words where the list is
-/// high enough, and else shown in a smaller font rather than cut. At most 15 entries drop down, the
-/// chosen one in their middle.
+/// high enough, and else shown in a smaller font rather than cut. At most 15 entries
+/// drop down, the chosen one in their middle.
 ///
 /// A number typed into the list chooses at each digit (ListTyping).
 class ComboBox : public QComboBox, public Speaker {

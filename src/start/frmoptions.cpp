@@ -137,6 +137,7 @@ QWidget* frmOptions::newColumns(QWidget* parent, QBoxLayout::Direction direction
 DialogFrame* frmOptions::moslemFrame(QWidget* parent) {
     auto* frame = new DialogFrame(Text(LabelTexts(MoslemCalendarLabel)), m_textWidth, parent);
     QLabel* types = NewDialogLabel(Text(LabelTexts(MoslemTypesLabel)), m_textWidth, frame);
+    types->setText(Caption(types->text().toStdString())); // a label's "&" is its buddy's key
     frame->Rows()->addWidget(types);
     const int captionWidth = m_textWidth - Metric(QStyle::PM_ExclusiveIndicatorWidth) -
                              Metric(QStyle::PM_RadioButtonLabelSpacing);
@@ -153,11 +154,8 @@ DialogFrame* frmOptions::moslemFrame(QWidget* parent) {
                 Option1_Click(type);
         });
         frame->Rows()->addWidget(option);
-        if (types->buddy() == nullptr) {
-            // Told once, with the first choice; a buddy's key would take a "&".
-            types->setText(Caption(types->text().toStdString()));
-            types->setBuddy(option);
-        }
+        if (type == 1)
+            types->setBuddy(option); // told once, with the first choice
     }
     return frame;
 }
