@@ -23,7 +23,6 @@ int backgroundOf(int c) {
 
 DayGrid::DayGrid(const QString& name, int bands, int titleRows, int columns, QWidget* parent)
     : MSFlexGrid(name, bands * (titleRows + daysInWeek), columns, parent), m_titleRows(titleRows) {
-    SetSelectedColor(CalendarColors(ChosenDayBackground));
     SetAccessibleText([this](int row, int column) { return spokenText({row, column}); });
 }
 
@@ -42,6 +41,7 @@ void DayGrid::SetCalendar(int c) {
     m_calendar = c;
     SetBackColor(backgroundOf(c));
     SetAllCellColors(backgroundOf(c), TextColors(OrdinaryText));
+    SetSelectedCell({-1, -1});
 }
 
 void DayGrid::FillWeekdays() {
@@ -62,20 +62,17 @@ void DayGrid::FillMonth(int month) {
     }
 }
 
-void DayGrid::MoveMark(GridPlace to) {
-    const DrawingOff drawingOff(*this);
-    setLook(m_marked, backgroundOf(m_calendar), TextColors(OrdinaryText), false);
-    setLook(to, CalendarColors(ChosenDayBackground), TextColors(ChosenDayText), true);
-    m_marked = to;
-}
-
 void DayGrid::MarkChosenDay() {
-    MoveMark(CellOf(CurDate(m_calendar, Month), CurDate(m_calendar, Day)));
+    const DrawingOff drawingOff(*this);
+    const GridPlace chosen = CellOf(CurDate(m_calendar, Month), CurDate(m_calendar, Day));
+    setLook(SelectedCell(), backgroundOf(m_calendar), TextColors(OrdinaryText), false);
+    setLook(chosen, CalendarColors(ChosenDayBackground), TextColors(ChosenDayText), true);
+    SetSelectedCell(chosen);
 }
 
 std::optional<int> DayGrid::PressedDay() const {
     const GridPlace cell{Row(), Col()};
-    if (MonthAt(cell) == 0 || CellBackColor() == CalendarColors(ChosenDayBackground))
+    if (MonthAt(cell) == 0 || cell == SelectedCell())
         return std::nullopt;
     return CLng(Val(TextMatrix(cell.row, cell.column)));
 }
@@ -148,5 +145,5 @@ QString DayGrid::spokenText(GridPlace cell) const {
         return {};
     const int weekday = Calc::WeekdayOfRow(m_calendar, weekRow(cell.row));
     const QString day = SpokenDay(m_calendar, weekday, TextMatrix(cell.row, cell.column), month);
-    return cell == m_marked ? day + QStringLiteral(", ") + Text(SelectedWord) : day;
+    return cell == SelectedCell() ? day + QStringLiteral(", ") + Text(SelectedWord) : day;
 }

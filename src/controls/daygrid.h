@@ -57,13 +57,9 @@ protected:
     /// Writes a month's days into its block and blanks the rest of the block.
     void FillMonth(int month);
 
-    /// Takes the mark from the cell that has it and gives it to another.
-    void MoveMark(GridPlace to);
-
-    /// Marks the chosen day.
+    /// Takes the mark from the cell that has it and gives it to the chosen day's, which is
+    /// then the selected one.
     void MarkChosenDay();
-
-    GridPlace MarkedCell() const { return m_marked; }
 
     /// The day in the current cell; nothing when the cell shows none or is marked.
     std::optional<int> PressedDay() const;
@@ -80,5 +76,4 @@ private:
 
     int m_titleRows;
     int m_calendar = 0;
-    GridPlace m_marked{0, 0};
 };

@@ -68,11 +68,8 @@ int MonthGrid::MonthOf(GridPlace) const {
 
 // Any mouse button, on the cell that the press has made current.
 void MonthGrid::MSFlexGrid1_MouseDown() {
-    const auto day = PressedDay();
-    if (!day)
-        return;
-    MoveMark({Row(), Col()});
-    chooseDay(*day);
+    if (const auto day = PressedDay())
+        chooseDay(*day);
 }
 
 void MonthGrid::MSFlexGrid1_DblClick() {
@@ -91,7 +88,7 @@ void MonthGrid::page(int direction, bool byYear) {
 void MonthGrid::chooseEnd(End end) {
     const int day = end == End::First ? 1 : MonthDays(Calendar(), CurDate(Calendar(), Month));
     if (day == CurDate(Calendar(), Day))
-        MoveTo(MarkedCell());
+        MoveTo(SelectedCell());
     else
         chooseDay(day);
 }

@@ -144,8 +144,10 @@ void MSFlexGrid::SetRedraw(bool on) {
         announceChanges();
 }
 
-void MSFlexGrid::SetSelectedColor(int color) {
-    m_selectedColor = color;
+void MSFlexGrid::SetSelectedCell(GridPlace cell) {
+    m_selected = cell;
+    if (m_redraw)
+        showSelected();
 }
 
 void MSFlexGrid::SetFontPixelSize(int pixels) {
@@ -285,8 +287,7 @@ void MSFlexGrid::announceChanges() {
                         [row](QPoint cell) { return cell.y() == row; }))
             MergeEqualTexts(*this, row);
     }
-    for (const QPoint cell : changed)
-        showSelected(cell.y(), cell.x());
+    showSelected();
     repaintCells(changed);
     moveCurrent(m_model->index(m_row, m_column));
     m_speaker.TellCurrent();
@@ -304,12 +305,10 @@ void MSFlexGrid::repaintCells(const std::vector<QPoint>& cells) {
     m_model->Announce(all.top(), all.left(), all.bottom(), all.right());
 }
 
-void MSFlexGrid::showSelected(int row, int column) {
-    const QModelIndex index = m_model->index(row, column);
-    const bool selected = m_model->Cell(row, column).back == m_selectedColor;
-    if (selected != selectionModel()->isSelected(index))
-        selectionModel()->select(index, selected ? QItemSelectionModel::Select
-                                                 : QItemSelectionModel::Deselect);
+void MSFlexGrid::showSelected() {
+    const QModelIndex index = m_model->index(m_selected.row, m_selected.column);
+    if (!selectionModel()->isSelected(index))
+        selectionModel()->select(index, QItemSelectionModel::ClearAndSelect);
 }
 
 void MSFlexGrid::moveCurrent(const QModelIndex& index) {

@@ -83,8 +83,9 @@ public:
     /// Makes a cell current and shows it as that.
     void MoveTo(GridPlace cell);
 
-    /// A cell with this background is told to assistive tools as selected.
-    void SetSelectedColor(int color);
+    /// The cell that is told to assistive tools as selected; a place outside the grid is none.
+    GridPlace SelectedCell() const { return m_selected; }
+    void SetSelectedCell(GridPlace cell);
 
     /// Height of the digits' font in pixels.
     void SetFontPixelSize(int pixels);
@@ -124,7 +125,7 @@ private:
     void announceChanges();
     void paintFrame();
     void repaintCells(const std::vector<QPoint>& cells);
-    void showSelected(int row, int column);
+    void showSelected();
     void moveCurrent(const QModelIndex& index);
 
     GridModel* m_model;
@@ -132,7 +133,7 @@ private:
     GridSpeaker m_speaker{*this};
     int m_row = 0;
     int m_column = 0;
-    int m_selectedColor = -1;
+    GridPlace m_selected{-1, -1};
     bool m_redraw = true;
     std::vector<QPoint> m_changedCells; // x column, y row
     std::vector<int> m_mergeRows;

@@ -58,12 +58,8 @@ void YearGrid::ForgetYear() {
 }
 
 void YearGrid::PickYearCell() {
-    const auto day = PressedDay();
-    if (!day)
-        return;
-    const GridPlace cell{Row(), Col()};
-    MoveMark(cell);
-    chooseDay(MonthOf(cell), *day);
+    if (const auto day = PressedDay())
+        chooseDay(MonthOf({Row(), Col()}), *day);
 }
 
 int YearGrid::NarrowestWidth() {
@@ -147,8 +143,8 @@ void YearGrid::blankAdarTwo() {
 void YearGrid::chooseEnd(End end) {
     const int month = end == End::First ? 1 : Calc::MonthsInYear(Calendar());
     const int day = end == End::First ? 1 : MonthDays(Calendar(), month);
-    if (month == CurDate(Calendar(), Month) && day == CurDate(Calendar(), Day))
-        MoveTo(MarkedCell());
+    if (CellOf(month, day) == SelectedCell())
+        MoveTo(SelectedCell());
     else
         chooseDay(month, day);
 }

@@ -12,24 +12,31 @@
 namespace {
 
 TEST_F(FlexGrid, TheMarkedCellIsToldAsSelected) {
-    grid->SetSelectedColor(red);
     show();
-    setBack(2, 3, red);
+    grid->SetSelectedCell({2, 3});
     EXPECT_TRUE(grid->selectionModel()->isSelected(index(2, 3)));
     grid->SetTextMatrix(2, 3, QStringLiteral("3"));
     grid->SetTextMatrix(2, 4, QStringLiteral("4"));
     EXPECT_TRUE(accessibleCell(*grid, 2, 3)->state().selected);
     EXPECT_FALSE(accessibleCell(*grid, 2, 4)->state().selected);
-    setBack(2, 4, red);
-    setBack(2, 3, blue);
+    grid->SetSelectedCell({2, 4});
     EXPECT_FALSE(accessibleCell(*grid, 2, 3)->state().selected);
     EXPECT_TRUE(accessibleCell(*grid, 2, 4)->state().selected);
     EXPECT_EQ(grid->selectionModel()->selectedIndexes().size(), 1);
+    grid->SetSelectedCell({-1, -1});
+    EXPECT_FALSE(grid->selectionModel()->hasSelection());
+}
+
+TEST_F(FlexGrid, TheMarkedCellIsSelectedWithWhatIsPaintedOfIt) {
+    grid->SetRedraw(false);
+    grid->SetSelectedCell({2, 3});
+    EXPECT_FALSE(grid->selectionModel()->hasSelection());
+    grid->SetRedraw(true);
+    EXPECT_EQ(grid->selectionModel()->selectedIndexes(), QModelIndexList{index(2, 3)});
 }
 
 TEST_F(FlexGrid, TheMarkedCellStaysSelectedWhenTheCurrentOneMoves) {
-    grid->SetSelectedColor(red);
-    setBack(2, 3, red);
+    grid->SetSelectedCell({2, 3});
     show();
     pressAt(middleOf(5, 5));
     QTest::keyClick(grid, Qt::Key_Left);

@@ -15,7 +15,6 @@ using Told = AccessibleWatch::Told;
 
 constexpr int rows = 4;
 constexpr int columns = 3;
-constexpr int red = 0x0000FF;
 
 /// A title over all columns, a blank in the middle of the second row, days
 /// elsewhere: 20, 30 and so on down the columns.
@@ -31,7 +30,6 @@ protected:
         grid->setAccessibleName(QStringLiteral("Month"));
         grid->setToolTip(QStringLiteral("Month"));
         for (MSFlexGrid* each : {grid, neighbour}) {
-            each->SetSelectedColor(red);
             each->SetSize(ToTwips(150), ToTwips(120));
             for (int row = 0; row < each->Rows(); ++row)
                 each->SetRowHeight(row, ToTwips(20));
@@ -63,10 +61,9 @@ protected:
     /// Moves the mark, as a refill does.
     void mark(MSFlexGrid& of, int row, int column) {
         of.SetRedraw(false);
-        of.SetAllCellColors(0xFFFFFF, 0);
         of.SetRow(row);
         of.SetCol(column);
-        of.SetCellBackColor(red);
+        of.SetSelectedCell({row, column});
         of.SetRedraw(true);
     }
 

@@ -28,7 +28,6 @@ protected:
         grid->SetSize(ToTwips(3 * cellSide + 2), ToTwips(3 * cellSide + 2));
         grid->SetBackColor(pale);
         grid->SetAllCellColors(pale, navy);
-        grid->SetSelectedColor(red);
         other->move(100, 0);
         window.show();
         window.activateWindow();
@@ -40,6 +39,7 @@ protected:
         grid->SetCol(column);
         grid->SetCellBackColor(red);
         grid->SetCellForeColor(white);
+        grid->SetSelectedCell({row, column});
     }
 
     QImage picture() { return grid->grab().toImage(); }
