@@ -19,15 +19,6 @@ void redrawYear(int c) {
     ChangeCals::LoadYear(c).ShowYear();
 }
 
-void redrawMonthly() {
-    MonthlyWindow& window = ChangeCals::LoadMonthly();
-    for (int pane = 1; pane <= paneCount; ++pane) {
-        window.SetCal(pane);
-        window.SetGrid(pane);
-    }
-    window.SetCommonInfo();
-}
-
 const Table<void (*)(), calendarCount> toJulianDay{Calc::JulianToJD, Calc::GregorianToJD,
                                                    Calc::JewishToJD, Calc::MoslemToJD};
 
@@ -91,7 +82,7 @@ void ChangeCals::UpdateWindows() {
     if (IsCalendar(asking))
         redrawYear(asking);
     if (IsVisible(MonthlyWindowNumber))
-        redrawMonthly();
+        LoadMonthly().Refill();
     for (int c = 1; c <= calendarCount; ++c) {
         if (c != asking && IsVisible(c))
             redrawYear(c);

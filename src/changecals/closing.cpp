@@ -7,42 +7,12 @@
 #include "platform/program.h"
 #include "platform/text.h"
 #include "settings/storedsettings.h"
-#include "shared/settings.h"
-#include "shared/texts.h"
-
-#include <array>
-
-namespace {
-
-// The order in which the calendar windows are asked and told.
-constexpr std::array calendarWindows{int{MonthlyWindowNumber}, int{Julian}, int{Gregorian},
-                                     int{Jewish}, int{Moslem}};
-
-void setCloseTips(int text) {
-    for (const int number : calendarWindows) {
-        if (CalendarWindow* window = ChangeCals::LoadedCalendarWindow(number))
-            window->SetCloseTip(text);
-    }
-}
-
-} // namespace
-
-int ChangeCals::CountOpenWindows() {
-    int open = 0;
-    for (const int number : calendarWindows) {
-        if (IsVisible(number))
-            ++open;
-    }
-    return open;
-}
 
 void ChangeCals::CloseWindow(Form& form, int arg) {
-    if (CountOpenWindows() < 2) {
+    if (CountOpenWindows() < 2)
         ExitProgram(arg);
-        return;
-    }
-    form.Hide();
-    AfterWindowClosed();
+    else
+        form.Hide();
 }
 
 void ChangeCals::ExitProgram(int) {
@@ -61,24 +31,8 @@ void ChangeCals::ExitProgram(int) {
 }
 
 void ChangeCals::AfterWindowClosed() {
-    if (IsLeaving())
-        return;
-    const int open = CountOpenWindows();
-    if (open == 0)
+    if (!IsLeaving() && CountOpenWindows() == 0)
         LeaveProgram(0);
-    else if (open < 2)
-        setCloseTips(ExitText);
-}
-
-void ChangeCals::SetCloseTipsSeveral() {
-    setCloseTips(CloseOrExitText);
-}
-
-void ChangeCals::RefreshCloseTips() {
-    if (CountOpenWindows() < 2)
-        setCloseTips(ExitText);
-    else
-        SetCloseTipsSeveral();
 }
 
 void ChangeCals::LeaveProgram(int status) {

@@ -8,10 +8,6 @@ class Form;
 /// count.
 namespace ChangeCals {
 
-/// How many of the calendar windows are visible, 0..5, minimised ones included.
-/// One that is not loaded counts as not visible.
-int CountOpenWindows();
-
 /// A close button: hides the window, or ends the program when it is the last one
 /// open. `arg` is handed to ExitProgram, which has no use for it.
 void CloseWindow(Form& form, int arg = 0);
@@ -23,15 +19,8 @@ void CloseWindow(Form& form, int arg = 0);
 void ExitProgram(int arg = 0);
 
 /// After a calendar window has gone: ends the program without saving when none
-/// is left, otherwise brings the close buttons' tool tips up to date.
+/// is left.
 void AfterWindowClosed();
-
-/// Gives every close button the tool tip of several open windows.
-void SetCloseTipsSeveral();
-
-/// Gives every close button the tool tip that the number of open windows asks
-/// for.
-void RefreshCloseTips();
 
 /// Ends the program without saving anything; `status` is its exit status.
 void LeaveProgram(int status);

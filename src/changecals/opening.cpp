@@ -2,7 +2,6 @@
 #include "changecals/opening.h"
 
 #include "changecals/changecals.h"
-#include "changecals/closing.h"
 #include "changecals/windows.h"
 #include "shared/calendars.h"
 #include "shared/settings.h"
@@ -13,7 +12,6 @@ void ChangeCals::OpenYearWindow(int c) {
     YearWindow& window = LoadYear(c);
     window.ShowYear();
     window.Show();
-    RefreshCloseTips();
 }
 
 // Only the last window asks for the keyboard: one that comes back from the
@@ -29,7 +27,6 @@ void ChangeCals::OpenYearWindowsOfPanes() {
     }
     if (last != nullptr)
         last->Show();
-    RefreshCloseTips();
 }
 
 void ChangeCals::ShowMoonWindow() {
@@ -47,7 +44,6 @@ void ChangeCals::ShowMonthlyWindow() {
         ChooseDate(Jewish, ChosenDate(Jewish), MonthlyWindowNumber);
     }
     window.Show();
-    RefreshCloseTips();
 }
 
 void ChangeCals::ShowOptions() {

@@ -3,8 +3,12 @@
 
 #include "shared/settings.h"
 #include "shared/table.h"
+#include "shared/texts.h"
 
+#include <QEvent>
 #include <QPointer>
+#include <algorithm>
+#include <array>
 
 namespace {
 
@@ -41,7 +45,37 @@ void forAllWindows(const Action& action) {
     action(about.data());
 }
 
+// The order in which the calendar windows are asked and told.
+constexpr std::array calendarWindows{int{MonthlyWindowNumber}, int{Julian}, int{Gregorian},
+                                     int{Jewish}, int{Moslem}};
+
+void setCloseTips(int text) {
+    for (const int number : calendarWindows) {
+        if (CalendarWindow* window = ChangeCals::LoadedCalendarWindow(number))
+            window->SetCloseTip(text);
+    }
+}
+
 } // namespace
+
+bool CalendarWindow::event(QEvent* event) {
+    const bool isDone = MainWindow::event(event);
+    const bool comesOrGoes = event->type() == QEvent::Show || event->type() == QEvent::Hide;
+    if (comesOrGoes && !event->spontaneous() && !leaving)
+        ChangeCals::RefreshCloseTips();
+    return isDone;
+}
+
+void MonthlyWindow::RefillPane(int pane) {
+    SetCal(pane);
+    SetGrid(pane);
+}
+
+void MonthlyWindow::Refill() {
+    for (int pane = 1; pane <= paneCount; ++pane)
+        RefillPane(pane);
+    SetCommonInfo();
+}
 
 void ChangeCals::BeginRun(WindowFactories factories) {
     make = std::move(factories);
@@ -99,6 +133,21 @@ YearWindow* ChangeCals::LoadedYear(int c) {
 bool ChangeCals::IsVisible(int number) {
     const MainWindow* window = LoadedWindow(number);
     return window != nullptr && window->Visible();
+}
+
+int ChangeCals::CountOpenWindows() {
+    return static_cast<int>(std::ranges::count_if(calendarWindows, IsVisible));
+}
+
+void ChangeCals::SetCloseTipsSeveral() {
+    setCloseTips(CloseOrExitText);
+}
+
+void ChangeCals::RefreshCloseTips() {
+    if (CountOpenWindows() < 2)
+        setCloseTips(ExitText);
+    else
+        SetCloseTipsSeveral();
 }
 
 void ChangeCals::UnloadAbout() {

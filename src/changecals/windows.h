@@ -29,6 +29,10 @@ public:
 
     /// The tip of the close button, an entry of StringTexts.
     virtual void SetCloseTip(int text) = 0;
+
+protected:
+    /// One that comes or goes brings the close tips of all up to date.
+    bool event(QEvent* event) override;
 };
 
 /// The window of the four panes 1..4.
@@ -49,6 +53,10 @@ public:
 
     /// Rebuilds all of it.
     virtual void ReSetForm() = 0;
+
+    /// Refills a pane, and all of it.
+    void RefillPane(int pane);
+    void Refill();
 };
 
 /// The year window of one calendar.
@@ -125,6 +133,17 @@ bool IsVisible(int number);
 /// nullptr while it is not loaded.
 CalendarWindow* LoadedCalendarWindow(int number);
 YearWindow* LoadedYear(int c);
+
+/// How many of the calendar windows are visible, 0..5, minimised ones included.
+/// One that is not loaded counts as not visible.
+int CountOpenWindows();
+
+/// Gives every close button the tool tip of several open windows.
+void SetCloseTipsSeveral();
+
+/// Gives every close button the tool tip that the number of open windows asks
+/// for.
+void RefreshCloseTips();
 
 /// Unloads the about box where it is loaded.
 void UnloadAbout();

@@ -107,11 +107,7 @@ void frmMonthlyCal::ReSetForm() {
         m_panes(pane)->Reset();
     placeEmblems();
     m_common->Reset();
-    for (int pane = 1; pane <= paneCount; ++pane) {
-        SetCal(pane);
-        SetGrid(pane);
-    }
-    SetCommonInfo();
+    Refill();
 }
 
 void frmMonthlyCal::Form_Unload() {
@@ -235,15 +231,12 @@ void frmMonthlyCal::exchangeCalendars(int pane, int c) {
         CalendarOrder(other) = CalendarOrder(pane);
     CalendarOrder(pane) = c;
     placeEmblems();
-    refill(pane);
-    if (other != 0)
-        refill(other);
+    for (const int changed : {pane, other}) {
+        if (changed == 0)
+            continue;
+        m_panes(changed)->SetTexts();
+        RefillPane(changed);
+    }
     SaveSettings(
         SettingGroup::PaneCalendars); // last: a message that it failed stands over a whole window
-}
-
-void frmMonthlyCal::refill(int pane) {
-    m_panes(pane)->SetTexts();
-    SetCal(pane);
-    SetGrid(pane);
 }

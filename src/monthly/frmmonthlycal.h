@@ -48,7 +48,6 @@ private:
     void addPaneKeys();
     void goToPane(int step);
     void exchangeCalendars(int pane, int c);
-    void refill(int pane);
 
     Commands m_commands;
     Table<Image*, calendarCount> m_image1; ///< emblems by calendar

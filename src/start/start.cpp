@@ -3,7 +3,6 @@
 
 #include "calc/calc.h"
 #include "changecals/changecals.h"
-#include "changecals/closing.h"
 #include "changecals/opening.h"
 #include "changecals/windows.h"
 #include "monthly/frmmonthlycal.h"
@@ -71,6 +70,5 @@ bool Start::Main() {
     splash.WaitItsTime();
     showStartupWindow();
     splash.Hide();
-    ChangeCals::RefreshCloseTips();
     return true;
 }

@@ -152,8 +152,10 @@ TEST_F(Closing, TipsFollowTheNumberOfOpenWindows) {
     EXPECT_EQ(monthlyTip(), severalTip);
     ChangeCals::CloseWindow(ChangeCals::LoadYear(Julian));
     EXPECT_EQ(monthlyTip(), exitTip);
-    ChangeCals::OpenYearWindow(Julian);
+    ChangeCals::LoadYear(Julian).ShowInFront();
     EXPECT_EQ(monthlyTip(), severalTip);
+    ChangeCals::LoadYear(Julian).Hide();
+    EXPECT_EQ(monthlyTip(), exitTip);
 }
 
 TEST_F(Closing, PositionsAreThoseOfTheFramesInTwips) {
