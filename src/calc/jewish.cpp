@@ -116,8 +116,8 @@ void setJewishLengths(int newYear, int nextNewYear) {
 void dateFromJD(int year, int newYear, int nextNewYear) {
     CurDate(Jewish, Year) = year;
     setJewishLengths(newYear, nextNewYear);
-    Calc::DateDay(Jewish, CurJD - newYear + 1);
-    Calc::SetYear(Jewish, newYear);
+    Calc::SetMonthAndDay(Jewish, CurJD - newYear + 1);
+    Calc::SetYearEnds(Jewish, newYear);
 }
 
 } // namespace

@@ -61,6 +61,6 @@ void Calc::JDToMoslem() {
 
     CurDate(Moslem, Year) = year;
     setMoslemLengths(yearOfCycle);
-    DateDay(Moslem, dayNumber);
-    SetYear(Moslem, CurJD - dayNumber + 1);
+    SetMonthAndDay(Moslem, dayNumber);
+    SetYearEnds(Moslem, CurJD - dayNumber + 1);
 }

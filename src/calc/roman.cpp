@@ -58,7 +58,8 @@ int Calc::JulianJD(int day, int month, int year) {
     // The year is counted from March, so that the leap day is its last.
     const int m = month < march ? month + 13 : month + 1;
     const int y = month < march ? year - 1 : year;
-    return m * 306 / 10 + y * 1461 / 4 + day + 1720995;
+    constexpr int dayZero = 1720995; // by this count
+    return m * 306 / 10 + y * 1461 / 4 + day + dayZero;
 }
 
 void Calc::JulianToJD() {
@@ -82,8 +83,8 @@ void Calc::JDToJulian() {
 
     CurDate(Julian, Year) = year;
     setRomanLengths(Julian, isJulianLeap(year));
-    DateDay(Julian, dayNumber);
-    SetYear(Julian, JulianJD(1, 1, year));
+    SetMonthAndDay(Julian, dayNumber);
+    SetYearEnds(Julian, JulianJD(1, 1, year));
 }
 
 void Calc::GregorianToJD() {
@@ -110,5 +111,5 @@ void Calc::JulianToGregorian() {
     CurDate(Gregorian, Day) = day;
     CurDate(Gregorian, Month) = month;
     CurDate(Gregorian, Year) = year;
-    SetYear(Gregorian, CurJD - NumberDay(Gregorian) + 1);
+    SetYearEnds(Gregorian, CurJD - SetDayNumber(Gregorian) + 1);
 }

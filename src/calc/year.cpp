@@ -6,14 +6,14 @@
 
 #include <algorithm>
 
-int Calc::NumberDay(int c) {
+int Calc::SetDayNumber(int c) {
     int& day = CurDate(c, Day);
     const int month = CurDate(c, Month);
     day = std::min(day, MonthDays(c, month));
     return CurDate(c, DayNumber) = DayOfYear(c, month, day);
 }
 
-void Calc::DateDay(int c, int dayNumber) {
+void Calc::SetMonthAndDay(int c, int dayNumber) {
     int month = 1;
     int day = dayNumber;
     DayToMonth(c, month, day);
@@ -22,13 +22,13 @@ void Calc::DateDay(int c, int dayNumber) {
     CurDate(c, Day) = day;
 }
 
-void Calc::SetYear(int c, int newYear) {
+void Calc::SetYearEnds(int c, int newYear) {
     YearJD(c, FirstDay) = newYear;
     YearJD(c, LastDay) = newYear + YearDays(c, DaysInYear) - 1;
     SetMonthStarts(c);
 }
 
 void Calc::DateToJD(int c, int newYear) {
-    CurJD = newYear + NumberDay(c) - 1;
-    SetYear(c, newYear);
+    CurJD = newYear + SetDayNumber(c) - 1;
+    SetYearEnds(c, newYear);
 }

@@ -7,14 +7,14 @@ namespace Calc {
 
 /// Makes a day beyond its month's length the month's last day, and sets and
 /// returns the day's number in the year.
-int NumberDay(int c);
+int SetDayNumber(int c);
 
 /// Sets month and day from the day's number in the year.
-void DateDay(int c, int dayNumber);
+void SetMonthAndDay(int c, int dayNumber);
 
 /// Sets the ends of the year that begins on Julian Day newYear, its weekdays and
 /// its weeks.
-void SetYear(int c, int newYear);
+void SetYearEnds(int c, int newYear);
 
 /// Sets CurJD and the year from month and day of the year that begins on Julian
 /// Day newYear.

@@ -13,7 +13,8 @@
 /// The contents of the main windows at their largest, by window number.
 using WindowSizes = Table<QSize, mainWindowCount>;
 
-/// A window anywhere in here has a position that fits in 16 bits of twips.
+/// A frame of at least 300 pixels in here has a position that fits in 16 bits of twips,
+/// 2184 pixels either way.
 inline constexpr QRect storableDesk{QPoint(-2184, -2184), QPoint(2484, 2484)};
 
 /// Of the monitors' desks, the primary one's first, the first on which the monthly

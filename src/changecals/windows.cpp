@@ -12,7 +12,7 @@
 
 namespace {
 
-ChangeCals::WindowFactories make;
+ChangeCals::WindowFactories windowFactories;
 
 QPointer<MonthlyWindow> monthly;
 Table<QPointer<YearWindow>, calendarCount> years;
@@ -78,12 +78,12 @@ void MonthlyWindow::Refill() {
 }
 
 void ChangeCals::BeginRun(WindowFactories factories) {
-    make = std::move(factories);
+    windowFactories = std::move(factories);
     leaving = false;
 }
 
 WindowSizes& ChangeCals::LargestSizes() {
-    return make.sizes;
+    return windowFactories.sizes;
 }
 
 void ChangeCals::EndRun() {
@@ -91,27 +91,27 @@ void ChangeCals::EndRun() {
 }
 
 MonthlyWindow& ChangeCals::LoadMonthly() {
-    return loaded(monthly, make.monthly);
+    return loaded(monthly, windowFactories.monthly);
 }
 
 YearWindow& ChangeCals::LoadYear(int c) {
-    return loaded(years(c), [c] { return make.year(c); });
+    return loaded(years(c), [c] { return windowFactories.year(c); });
 }
 
 MoonWindow& ChangeCals::LoadMoon() {
-    return loaded(moon, make.moon);
+    return loaded(moon, windowFactories.moon);
 }
 
 Form& ChangeCals::LoadOptions() {
-    return loaded(options, make.options);
+    return loaded(options, windowFactories.options);
 }
 
 Form& ChangeCals::LoadAbout() {
-    return loaded(about, make.about);
+    return loaded(about, windowFactories.about);
 }
 
 void ChangeCals::Print(Paper paper, int c) {
-    make.print(paper, c);
+    windowFactories.print(paper, c);
 }
 
 MainWindow* ChangeCals::LoadedWindow(int number) {

@@ -120,7 +120,8 @@ void CommonInfo::Combo7_Click() {
 }
 
 int CommonInfo::moonAgeWidth() const {
-    return m_combo7->WidthFor(QStringLiteral("28.8"));
+    const QString widestAge = QStringLiteral("28.8");
+    return m_combo7->WidthFor(widestAge);
 }
 
 // No day below the lowest can be reached; above, the way is open on purpose. In

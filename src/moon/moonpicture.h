@@ -8,8 +8,8 @@
 #include <QWidget>
 #include <optional>
 
-/// The moon's picture with its shadow (Picture1 with Shape1 and Shape2). It only
-/// paints: the full moon scaled to the control, or a plain disc where there is
+/// The moon's picture with its shadow (Picture1 with Shape1 and Shape2). It
+/// shows the full moon scaled to the control, or a plain disc where there is
 /// no picture, and the shadow over it.
 class MoonPicture : public QWidget {
     Q_OBJECT

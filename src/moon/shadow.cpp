@@ -87,7 +87,10 @@ QRectF pixelRect(const Shadow& shadow) {
 } // namespace
 
 Shadow ShadowOf(float age, double pictureWidth, double pictureHeight) {
-    const Area area{pictureWidth + 60, (pictureHeight + 60) * 1.02, pictureHeight / 60};
+    constexpr double overlap = 60;     // twips, so that no lit edge is left
+    constexpr double stretched = 1.02; // higher than wide
+    const Area area{pictureWidth + overlap, (pictureHeight + overlap) * stretched,
+                    pictureHeight / 60};
     const double half = area.width / 2;
     if (age <= nearPhase)
         return newMoon(area);

@@ -5,7 +5,7 @@
 #include <optional>
 
 // Numbers and their texts by the classic rules: every conversion of a real number
-// to a whole one rounds to the nearest, ties to even.
+// to a whole one but Fix rounds to the nearest, ties to even.
 
 /// Truncation toward zero.
 double Fix(double value);

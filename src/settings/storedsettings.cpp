@@ -12,7 +12,7 @@
 
 namespace {
 
-bool told = false;
+bool failureIsTold = false;
 
 void tellNoNumber(const Setting& row, const QString& text) {
     MsgBox(QStringLiteral("The stored setting is not a number from -32768 to 32767:") +
@@ -73,16 +73,16 @@ std::vector<Setting> rowsOf(SettingGroup group) {
 }
 
 void flushOrTell() {
-    if (FlushSettings() || told)
+    if (FlushSettings() || failureIsTold)
         return;
-    told = true;
+    failureIsTold = true;
     MsgBox(WithEmptyLine(SettingsFile(), QStringLiteral("The settings cannot be written.")));
 }
 
 } // namespace
 
 bool ReadSettings() {
-    told = false;
+    failureIsTold = false;
     if (!LoadSettings())
         MsgBox(WithEmptyLine(SettingsFile(), QStringLiteral("The settings cannot be read.")));
     for (const Setting& row : Settings()) {

@@ -23,7 +23,7 @@ namespace {
 
 // In twips.
 constexpr int controlsHeight = 780;
-constexpr int frameWidth = 30;
+constexpr int bothFrames = 30; // left and right of the grid
 
 // In pixels.
 constexpr int margin = 4;
@@ -61,7 +61,7 @@ frmYearCal::frmYearCal(int c)
 }
 
 QSize frmYearCal::LargestSize(int c) {
-    return YearGrid::LargestSize(c) + QSize(ToPixels(frameWidth), ToPixels(controlsHeight));
+    return YearGrid::LargestSize(c) + QSize(ToPixels(bothFrames), ToPixels(controlsHeight));
 }
 
 void frmYearCal::SetTexts() {
@@ -186,7 +186,7 @@ void frmYearCal::connectControls() {
 // share what room the narrowest year leaves.
 void frmYearCal::placeControls() {
     const int height = ToPixels(controlsHeight);
-    const int room = YearGrid::NarrowestWidth() + ToPixels(frameWidth) - 2 * margin -
+    const int room = YearGrid::NarrowestWidth() + ToPixels(bothFrames) - 2 * margin -
                      buttonsInRow * CommandButton::side;
     const int selectorWidth = m_combo1->FitWidth(Controls::YearEntry(MaxYear(m_calendar)),
                                                  room - (groups - 1) * leastGap);
@@ -219,7 +219,7 @@ void frmYearCal::placeControls() {
 
 void frmYearCal::fitWindow() {
     if (WindowState() == Normal)
-        SetSize(ToTwips(m_grid->width()) + frameWidth, ToTwips(m_grid->height()) + controlsHeight);
+        SetSize(ToTwips(m_grid->width()) + bothFrames, ToTwips(m_grid->height()) + controlsHeight);
 }
 
 // The commands that both kinds of calendar window have.

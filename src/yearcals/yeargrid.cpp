@@ -27,6 +27,7 @@ int columnsOf(int c) {
     return 1 + (c == Jewish ? YearLayout::leapColumns : YearLayout::commonColumns);
 }
 
+// Beyond the cells a little more room, a little less in a leap year.
 int gridWidth(int weekColumns) {
     const int slack = weekColumns == YearLayout::leapColumns ? 30 : 60;
     return weekdayColumnWidth + weekColumns * weekColumnWidth + slack;
@@ -34,7 +35,8 @@ int gridWidth(int weekColumns) {
 
 int gridHeight() {
     const int band = titleRowHeight + daysInWeek * weekdayRowHeight;
-    return YearLayout::bands * band + 90;
+    constexpr int slack = 90;
+    return YearLayout::bands * band + slack;
 }
 
 } // namespace
