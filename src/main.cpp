@@ -13,7 +13,10 @@ namespace {
 // Only X11 lets a program say and know where its windows stand, so it is taken
 // first where a desktop offers both; a choice made outside is left alone.
 void preferX11() {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM") && qEnvironmentVariableIsSet("DISPLAY"))
+    const bool isWayland =
+        qEnvironmentVariableIsSet("WAYLAND_DISPLAY") || qgetenv("XDG_SESSION_TYPE") == "wayland";
+    if (isWayland && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM") &&
+        qEnvironmentVariableIsSet("DISPLAY"))
         qputenv("QT_QPA_PLATFORM", "xcb;wayland");
 }
 

@@ -60,10 +60,3 @@ int CodePageOf(const QLocale& locale) {
 int UserCodePage() {
     return CodePageOf(QLocale());
 }
-
-QString FromCodePage(const QByteArray& bytes, int codePage) {
-    QStringDecoder decoder("windows-" + QByteArray::number(codePage));
-    if (!decoder.isValid()) // the toolkit was built without the tables: as the system has it
-        decoder = QStringDecoder(QStringDecoder::System);
-    return decoder.decode(bytes);
-}

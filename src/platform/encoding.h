@@ -3,7 +3,6 @@
 
 #include <QByteArray>
 #include <QLocale>
-#include <QString>
 
 /// Bytes that say by their mark that they are UTF-16 or UTF-32 as UTF-8; the mark of
 /// UTF-8 is taken off, other bytes stay.
@@ -16,7 +15,3 @@ bool IsUtf8(const QByteArray& bytes);
 /// Central European, 1254 Turkish and Azerbaijani, 1252 otherwise.
 int CodePageOf(const QLocale& locale);
 int UserCodePage();
-
-/// Bytes of a Windows code page as text; what has no meaning there becomes a control
-/// or the replacement character, as on Windows itself.
-QString FromCodePage(const QByteArray& bytes, int codePage);

@@ -2,6 +2,7 @@
 #include "platform/profile.h"
 
 #include "platform/encoding.h"
+#include "platform/system.h"
 
 #include <QFile>
 #include <QFileInfo>

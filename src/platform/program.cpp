@@ -1,27 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "platform/program.h"
 
+#include "platform/system.h"
+
 #include <QDir>
 #include <QGuiApplication>
-#include <fcntl.h>
-#include <filesystem>
 
 namespace {
 
 QString replacedFolder;
 std::function<void(int)> replacedEnd;
 std::function<bool()> replacedPositions;
-
-// A folder whose name is not UTF-8 has no name for the toolkit: it is kept open, and
-// reached by that.
-QString findFolder() {
-    QString named = QCoreApplication::applicationDirPath();
-    if (QFileInfo::exists(named))
-        return named;
-    std::error_code none;
-    const auto folder = std::filesystem::read_symlink("/proc/self/exe", none).parent_path();
-    return QStringLiteral("/proc/self/fd/%1").arg(open(folder.c_str(), O_PATH | O_CLOEXEC));
-}
 
 } // namespace
 
@@ -30,7 +19,7 @@ QString ProgramTitle() {
 }
 
 QString ProgramFolder() {
-    static const QString folder = findFolder();
+    static const QString folder = ExecutableFolder();
     return replacedFolder.isEmpty() ? folder : replacedFolder;
 }
 

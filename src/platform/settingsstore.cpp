@@ -4,14 +4,13 @@
 #include "platform/inifile.h"
 #include "platform/program.h"
 #include "platform/settingvalue.h"
+#include "platform/system.h"
 
 #include <QDir>
 #include <QFileInfo>
 #include <QLockFile>
 #include <QStandardPaths>
 #include <filesystem>
-#include <sys/stat.h>
-#include <unistd.h>
 #include <vector>
 
 namespace {
@@ -52,19 +51,6 @@ bool haveAPlace() {
     return QDir::isAbsolutePath(settingsPath());
 }
 
-/// While it lasts, what is made is for the user alone: the lock of a killed program
-/// could be held by whoever may read it.
-class ForTheUserAlone {
-public:
-    ForTheUserAlone() = default;
-    ~ForTheUserAlone() { umask(m_former); }
-    ForTheUserAlone(const ForTheUserAlone&) = delete;
-    ForTheUserAlone& operator=(const ForTheUserAlone&) = delete;
-
-private:
-    const mode_t m_former = umask(S_IRWXG | S_IRWXO);
-};
-
 // False also for what cannot be looked for.
 bool isAbsent(const QFileInfo& file) {
     std::error_code unknown;
@@ -87,8 +73,8 @@ std::optional<QByteArray> readFile() {
 }
 
 bool writeToDisk(QFile& file, const QByteArray& bytes) {
-    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush() &&
-           fsync(file.handle()) == 0;
+    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() &&
+           BringToDisk(file);
 }
 
 // The bytes are known to be on disk before they take the old file's place. Their
@@ -141,7 +127,7 @@ void SaveSetting(const QString& section, const QString& key, const QString& valu
 bool FlushSettings() {
     if (unsaved.empty())
         return true;
-    const ForTheUserAlone alone;
+    const ForTheUserAlone alone; // nobody else shall hold the lock of a killed program
     if (!haveAPlace() || !QDir().mkpath(settingsFolder()))
         return false;
     QLockFile lock(settingsPath() + QStringLiteral(".lock"));

@@ -5,6 +5,7 @@
 #include "platform/beep.h"
 #include "platform/message.h"
 #include "platform/program.h"
+#include "platform/system.h"
 #include "platform/text.h"
 #include "printing/pages.h"
 #include "printing/sheet.h"
@@ -18,7 +19,6 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QSaveFile>
-#include <unistd.h>
 
 namespace {
 
@@ -57,7 +57,7 @@ QString printToFile(const Printing::Page& page, const QPrinter& printer) {
     const QByteArray pdf = pdfOf(page, layout);
     QSaveFile file(printer.outputFileName());
     const bool written = file.open(QIODevice::WriteOnly) && file.write(pdf) == pdf.size() &&
-                         file.flush() && fsync(file.handle()) == 0 && file.commit();
+                         BringToDisk(file) && file.commit();
     return written ? QString() : QStringLiteral("The file cannot be written.");
 }
 

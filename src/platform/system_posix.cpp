@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#include "platform/system.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QStringDecoder>
+#include <fcntl.h>
+#include <filesystem>
+#include <sys/stat.h>
+#include <unistd.h>
+
+bool BringToDisk(QFileDevice& file) {
+    return file.flush() && fsync(file.handle()) == 0;
+}
+
+ForTheUserAlone::ForTheUserAlone() : m_former(umask(S_IRWXG | S_IRWXO)) {}
+
+ForTheUserAlone::~ForTheUserAlone() {
+    umask(m_former);
+}
+
+QString FromCodePage(const QByteArray& bytes, int codePage) {
+    QStringDecoder decoder("windows-" + QByteArray::number(codePage));
+    if (!decoder.isValid()) // the toolkit was built without the tables: as the system has it
+        decoder = QStringDecoder(QStringDecoder::System);
+    return decoder.decode(bytes);
+}
+
+// A folder whose name is not UTF-8 has no name for the toolkit: it is kept open, and
+// reached by that.
+QString ExecutableFolder() {
+    QString named = QCoreApplication::applicationDirPath();
+    if (QFileInfo::exists(named))
+        return named;
+    std::error_code none;
+    const auto folder = std::filesystem::read_symlink("/proc/self/exe", none).parent_path();
+    return QStringLiteral("/proc/self/fd/%1").arg(open(folder.c_str(), O_RDONLY | O_CLOEXEC));
+}
