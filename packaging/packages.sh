@@ -9,6 +9,7 @@ test_packages=(adwaita-qt6 fonts-noto-core libgtest-dev libbenchmark-dev libicu-
     clang-tidy clang-tools iwyu python3 python3-gi git appstream desktop-file-utils man-db lintian fakeroot
     dpkg-dev debhelper file clang autopkgtest at-spi2-core dbus-daemon gir1.2-atspi-2.0
     poppler-utils weston xwayland qt6-wayland orca python3-pyatspi)
+windows_packages=(g++-mingw-w64-x86-64-posix dpkg-dev python3 git) # for packaging/windows
 
 is_installed() {
     [ "$(dpkg-query -W -f='${db:Status-Status}' "$1" 2>/dev/null)" = installed ]

@@ -3,6 +3,11 @@
 
 #include "support/state.h"
 
+constexpr int unixEpoch = 2440588; // 1 January 1970 Gregorian
+
+class Judges : public StateTest {};
+class JewishJudges : public StateTest {};
+
 inline void goToJD(int julianDay) {
     CurJD = julianDay;
     Calc::JDToJulian();

@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "support/state.h"
+#include "calc/calc_test.h"
 
 #include <memory>
 #include <string>
 #include <unicode/gregocal.h>
-
-constexpr int unixEpoch = 2440588; // 1 January 1970 Gregorian
 
 using IcuCalendar = std::unique_ptr<icu::Calendar>;
 

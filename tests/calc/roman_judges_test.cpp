@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Dates against judges that share no code with this program.
 #include "calc/calc_test.h"
-#include "calc/icu.h"
 #include "calc/known.h"
 #include "support/judgement.h"
 
@@ -12,17 +11,6 @@ namespace {
 
 constexpr int firstDay = 1721319;
 constexpr int lastDay = 2817404;
-
-class Judges : public StateTest {};
-
-IcuCalendar icuJulianCalendar() {
-    IcuCalendar calendar = icuCalendar("en@calendar=gregorian");
-    UErrorCode status = U_ZERO_ERROR;
-    const double never = 8.64e15;
-    dynamic_cast<icu::GregorianCalendar&>(*calendar).setGregorianChange(never, status);
-    EXPECT_TRUE(U_SUCCESS(status));
-    return calendar;
-}
 
 Date chronoDate(int julianDay) {
     const std::chrono::sys_days day{std::chrono::days{julianDay - unixEpoch}};
@@ -48,46 +36,6 @@ TEST_F(Judges, ChronoAgreesOnEveryGregorianDay) {
         ASSERT_EQ(dateIn(Gregorian), chronoDate(CurJD)) << CurJD;
     }
     recordJudgement(chronoName(), "the Gregorian date of every day", answers);
-}
-
-TEST_F(Judges, IcuAgreesOnEveryJulianDay) {
-    const IcuCalendar icu = icuJulianCalendar();
-    long long answers = 0;
-    for (CurJD = 1721424; CurJD <= 2817173; ++CurJD, ++answers) {
-        Calc::JDToJulian();
-        ASSERT_EQ(dateIn(Julian), icuDate(*icu, CurJD)) << CurJD;
-    }
-    recordJudgement(icuName(), "the Julian date of every day", answers);
-}
-
-TEST_F(Judges, IcuAgreesOnEveryMoslemDayOfTheFridayEra) {
-    resetState(2);
-    const IcuCalendar icu = icuCalendar("en@calendar=islamic-civil");
-    long long answers = 0;
-    for (CurJD = 1948440; CurJD <= 2817346; ++CurJD, ++answers) {
-        Calc::JDToMoslem();
-        ASSERT_EQ(dateIn(Moslem), icuDate(*icu, CurJD)) << CurJD;
-    }
-    recordJudgement(icuName(), "the Moslem date of every day, era from Friday 16 July 622",
-                    2817346 - 1948440 + 1);
-}
-
-// ICU's cycle has its long year in place 16, ours for this era in place 15: our
-// year 16 begins a day later and ends on the same day.
-TEST_F(Judges, IcuAgreesOnEveryMoslemDayOfTheThursdayEra) {
-    const IcuCalendar icu = icuCalendar("en@calendar=islamic-tbla");
-    long long answers = 0;
-    for (CurJD = 1948439; CurJD <= 2817345; ++CurJD, ++answers) {
-        Calc::JDToMoslem();
-        const int yearOfCycle = (CurDate(Moslem, Year) - 1) % 30 + 1;
-        if (yearOfCycle == 15 && CurJD == YearJD(Moslem, LastDay))
-            ASSERT_EQ(dateIn(Moslem).day, 30) << CurJD;
-        else
-            ASSERT_EQ(dateIn(Moslem), icuDate(*icu, yearOfCycle == 16 ? CurJD - 1 : CurJD))
-                << CurJD;
-    }
-    recordJudgement(icuName(), "the Moslem date of every day, era from Thursday 15 July 622",
-                    2817345 - 1948439 + 1);
 }
 
 TEST_F(Judges, KnownDays) {
