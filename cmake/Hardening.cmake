@@ -4,6 +4,7 @@
 # not optimised or is sanitized.
 include(CheckCXXCompilerFlag)
 include(CheckCXXSourceCompiles)
+include(CheckLinkerFlag)
 
 set(CMAKE_TRY_COMPILE_CONFIGURATION ${CMAKE_BUILD_TYPE})
 unset(ORVALEN_HARDENED_BY_US CACHE) # the flags may have changed
@@ -23,4 +24,5 @@ foreach(flag IN ITEMS -fstack-clash-protection -fcf-protection) # not on every p
     check_cxx_compiler_flag(${flag} ${taken})
     target_compile_options(project_options INTERFACE $<$<BOOL:${${taken}}>:${flag}>)
 endforeach()
-target_link_options(project_options INTERFACE -Wl,-z,relro,-z,now)
+check_linker_flag(CXX -Wl,-z,relro,-z,now ORVALEN_HAS_RELRO) # not on every system
+target_link_options(project_options INTERFACE $<$<BOOL:${ORVALEN_HAS_RELRO}>:-Wl,-z,relro,-z,now>)
