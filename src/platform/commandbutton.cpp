@@ -40,7 +40,7 @@ void CommandButton::SetTabStop(bool on) {
 
 void CommandButton::initStyleOption(QStyleOptionButton* option) const {
     QPushButton::initStyleOption(option);
-    if (isEnabled() && underMouse())
+    if (underMouse())
         option->icon = m_pointedAt;
 }
 
