@@ -39,13 +39,14 @@ class Splash(EndToEndTest):
         seconds = time.monotonic() - shown_after
         self.assertGreaterEqual(seconds, SHORTEST_SPLASH)
 
-    # The beginning of the last look at which it was not there.
+    # The beginning of the last look at which it was not there: what the end of that
+    # look saw no more may have been there already.
     def _last_moment_without(self, condition):
         deadline = time.monotonic() + 10
-        last = time.monotonic()
+        last = look = time.monotonic()
         while not condition():
-            self.assertLess(last, deadline, self.program.describe_windows())
-            last = time.monotonic()
+            self.assertLess(look, deadline, self.program.describe_windows())
+            last, look = look, time.monotonic()
         return last
 
     def _has_monthly(self):
