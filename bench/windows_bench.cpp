@@ -30,7 +30,7 @@ void paint() {
 }
 
 void hideAll() {
-    for (int number = 1; number <= mainWindowCount; ++number) {
+    for (const MainWindowNumber number : mainWindows) {
         if (Form* window = ChangeCals::LoadedWindow(number))
             window->Hide();
     }

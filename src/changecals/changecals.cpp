@@ -15,6 +15,11 @@ namespace {
 constexpr int meanNewMoon = 1720993;
 constexpr int phases = 8;
 
+// As CurrentWindow numbers it.
+int asCurrent(MainWindowNumber window) {
+    return IsCalendar(window) ? window : 0;
+}
+
 void redrawYear(int c) {
     ChangeCals::LoadYear(c).ShowYear();
 }
@@ -58,14 +63,14 @@ void ChangeCals::ChooseDate(int c, const Date& date, MainWindowNumber window) {
     CurDate(c, Day) = date.day;
     CurDate(c, Month) = date.month;
     CurDate(c, Year) = date.year;
-    CurrentWindow = IsCalendar(window) ? window : 0;
+    CurrentWindow = asCurrent(window);
     ChangeCal(c);
 }
 
 void ChangeCals::ChooseJulianDay(int day, MainWindowNumber window) {
     const UpdatingGuard updating;
     CurJD = day;
-    CurrentWindow = IsCalendar(window) ? window : 0;
+    CurrentWindow = asCurrent(window);
     ChangeJD();
 }
 
@@ -84,7 +89,7 @@ void ChangeCals::UpdateWindows() {
     if (IsVisible(MonthlyWindowNumber))
         LoadMonthly().Refill();
     for (int c = 1; c <= calendarCount; ++c) {
-        if (c != asking && IsVisible(c))
+        if (c != asking && IsVisible(YearWindowNumber(c)))
             redrawYear(c);
     }
     CurrentWindow = 0;
@@ -118,7 +123,7 @@ void ChangeCals::RebuildWindows(const Table<bool, calendarCount>& calendars) {
     if (any && IsVisible(MonthlyWindowNumber))
         LoadMonthly().ReSetForm();
     for (int c = 1; c <= calendarCount; ++c) {
-        if (calendars(c) && IsVisible(c))
+        if (calendars(c) && IsVisible(YearWindowNumber(c)))
             redrawYear(c);
     }
     if (all && IsVisible(MoonWindowNumber))

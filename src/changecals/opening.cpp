@@ -55,7 +55,7 @@ void ChangeCals::ShowAbout() {
 }
 
 void ChangeCals::SetAllTexts() {
-    for (int number = 1; number <= mainWindowCount; ++number) {
+    for (const MainWindowNumber number : mainWindows) {
         if (MainWindow* window = LoadedWindow(number))
             window->SetTexts();
     }

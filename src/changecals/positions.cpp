@@ -5,8 +5,6 @@
 #include "changecals/windows.h"
 #include "platform/numbers.h"
 #include "platform/program.h"
-#include "platform/twips.h"
-#include "shared/settings.h"
 
 #include <QGuiApplication>
 #include <QScreen>
@@ -19,10 +17,10 @@ struct Positions {
     Table<int, mainWindowCount> left = FormLeft;
 };
 
-bool isOnDesktop(int left, int top) {
+bool isOnDesktop(const ChangeCals::Position& place) {
     const QRect desktop = QGuiApplication::primaryScreen()->virtualGeometry();
-    return left < ToTwips(desktop.x() + desktop.width()) &&
-           top < ToTwips(desktop.y() + desktop.height());
+    return place.left.count < ToTwips(desktop.x() + desktop.width()).count &&
+           place.top.count < ToTwips(desktop.y() + desktop.height()).count;
 }
 
 // The primary one first, as the toolkit has them.
@@ -33,24 +31,24 @@ std::vector<QRect> desksOfMonitors() {
     return desks;
 }
 
-ChangeCals::Position firstPlace(int number) {
+ChangeCals::Position firstPlace(MainWindowNumber window) {
     const WindowSizes& sizes = ChangeCals::LargestSizes();
-    const QPoint place = FirstPlaces(DeskOfFirstPlaces(desksOfMonitors(), sizes), sizes)(number);
+    const QPoint place = FirstPlaces(DeskOfFirstPlaces(desksOfMonitors(), sizes), sizes)(window);
     return {ToTwips(place.x()), ToTwips(place.y())};
 }
 
-ChangeCals::Position placeNow(int number, const MainWindow* window) {
+ChangeCals::Position placeNow(MainWindowNumber number, const MainWindow* window) {
     return window != nullptr ? ChangeCals::Position{window->Left(), window->Top()}
                              : ChangeCals::PlaceOf(number);
 }
 
 // False when the position does not fit in 16 bits.
-bool readPosition(int number, const MainWindow* window, Positions& positions) {
+bool readPosition(MainWindowNumber number, const MainWindow* window, Positions& positions) {
     if (window != nullptr && window->WindowState() == Form::Minimised)
         return true;
     const ChangeCals::Position place = placeNow(number, window);
-    const std::optional<int> left = CInt(place.left);
-    const std::optional<int> top = CInt(place.top);
+    const std::optional<int> left = CInt(place.left.count);
+    const std::optional<int> top = CInt(place.top.count);
     if (!left || !top)
         return false;
     positions.left(number) = *left;
@@ -60,33 +58,33 @@ bool readPosition(int number, const MainWindow* window, Positions& positions) {
 
 } // namespace
 
-ChangeCals::Position ChangeCals::PlaceOf(int number) {
-    const int top = FormTop(number);
-    const int left = FormLeft(number);
-    const bool stored = top != noPosition && left != noPosition;
-    return stored && isOnDesktop(left, top) ? Position{left, top} : firstPlace(number);
+ChangeCals::Position ChangeCals::PlaceOf(MainWindowNumber window) {
+    const Position place{{FormLeft(window)}, {FormTop(window)}};
+    const bool stored = place.left.count != noPosition && place.top.count != noPosition;
+    return stored && isOnDesktop(place) ? place : firstPlace(window);
 }
 
-void ChangeCals::PlaceForm(Form& form, int number) {
-    QSize& size = LargestSizes()(number);
+void ChangeCals::PlaceForm(Form& form, MainWindowNumber window) {
+    QSize& size = LargestSizes()(window);
     size = size.expandedTo(form.size());
-    const Position place = PlaceOf(number);
+    const Position place = PlaceOf(window);
     form.Move(place.left, place.top);
 }
 
 void ChangeCals::PlaceDialog(Form& dialog) {
     const QRect screen = QGuiApplication::primaryScreen()->geometry();
-    const int freeWidth = ToTwips(screen.width()) - ToTwips(dialog.width());
-    const int freeHeight = ToTwips(screen.height()) - ToTwips(dialog.height());
-    dialog.Move(CLng(ToTwips(screen.x()) + freeWidth / 2.0).value_or(0),
-                CLng(ToTwips(screen.y()) + freeHeight / 3.0).value_or(0));
+    const auto between = [](int start, int room, double parts) {
+        return Twips{CLng(ToTwips(start).count + ToTwips(room).count / parts).value_or(0)};
+    };
+    dialog.Move(between(screen.x(), screen.width() - dialog.width(), 2),
+                between(screen.y(), screen.height() - dialog.height(), 3));
 }
 
 const MainWindow* ChangeCals::ReadPositions() {
     if (!HasWindowPositions())
         return nullptr;
     Positions positions;
-    for (int number = 1; number <= mainWindowCount; ++number) {
+    for (const MainWindowNumber number : mainWindows) {
         const MainWindow* window = LoadedWindow(number);
         if (!readPosition(number, window, positions))
             return window;

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/twips.h"
+#include "shared/settings.h"
+
 class Form;
 class MainWindow;
 
@@ -8,19 +11,19 @@ class MainWindow;
 /// back to be stored at the end, the dialogs have a fixed place.
 namespace ChangeCals {
 
-/// Of a window's frame on the desktop, in twips.
+/// Of a window's frame on the desktop.
 struct Position {
-    int left;
-    int top;
+    Twips left;
+    Twips top;
 };
 
 /// Where a main window stands when it is loaded: at its stored position, or at
 /// its first place when none is stored or when it lies beyond the right or lower
 /// edge of the desktop, which all monitors make up together.
-Position PlaceOf(int number);
+Position PlaceOf(MainWindowNumber window);
 
 /// Puts a window that is being loaded there.
-void PlaceForm(Form& form, int number);
+void PlaceForm(Form& form, MainWindowNumber window);
 
 /// Puts a dialog, or the splash, in the middle of the primary monitor's width and
 /// at a third of the height that it leaves free.

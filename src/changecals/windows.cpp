@@ -46,12 +46,19 @@ void forAllWindows(const Action& action) {
 }
 
 // The order in which the calendar windows are asked and told.
-constexpr std::array calendarWindows{int{MonthlyWindowNumber}, int{Julian}, int{Gregorian},
-                                     int{Jewish}, int{Moslem}};
+constexpr std::array calendarWindows{MonthlyWindowNumber, YearWindowNumber(Julian),
+                                     YearWindowNumber(Gregorian), YearWindowNumber(Jewish),
+                                     YearWindowNumber(Moslem)};
+
+CalendarWindow* loadedCalendarWindow(MainWindowNumber window) {
+    if (window == MonthlyWindowNumber)
+        return isLoaded(monthly) ? monthly.data() : nullptr;
+    return ChangeCals::LoadedYear(window);
+}
 
 void setCloseTips(int text) {
-    for (const int number : calendarWindows) {
-        if (CalendarWindow* window = ChangeCals::LoadedCalendarWindow(number))
+    for (const MainWindowNumber number : calendarWindows) {
+        if (CalendarWindow* window = loadedCalendarWindow(number))
             window->SetCloseTip(text);
     }
 }
@@ -114,25 +121,19 @@ void ChangeCals::Print(Paper paper, int c) {
     windowFactories.print(paper, c);
 }
 
-MainWindow* ChangeCals::LoadedWindow(int number) {
-    if (number == MoonWindowNumber)
+MainWindow* ChangeCals::LoadedWindow(MainWindowNumber window) {
+    if (window == MoonWindowNumber)
         return isLoaded(moon) ? moon.data() : nullptr;
-    return LoadedCalendarWindow(number);
-}
-
-CalendarWindow* ChangeCals::LoadedCalendarWindow(int number) {
-    if (number == MonthlyWindowNumber)
-        return isLoaded(monthly) ? monthly.data() : nullptr;
-    return LoadedYear(number);
+    return loadedCalendarWindow(window);
 }
 
 YearWindow* ChangeCals::LoadedYear(int c) {
     return isLoaded(years(c)) ? years(c).data() : nullptr;
 }
 
-bool ChangeCals::IsVisible(int number) {
-    const MainWindow* window = LoadedWindow(number);
-    return window != nullptr && window->Visible();
+bool ChangeCals::IsVisible(MainWindowNumber window) {
+    const MainWindow* form = LoadedWindow(window);
+    return form != nullptr && form->Visible();
 }
 
 int ChangeCals::CountOpenWindows() {

@@ -123,16 +123,12 @@ void Print(Paper paper, int c);
 /// Of the contents at their largest; a window that is placed tells its own.
 WindowSizes& LargestSizes();
 
-/// A main window by its number (1..6), nullptr while it is not loaded.
-MainWindow* LoadedWindow(int number);
-
-/// Whether a main window (1..6) is loaded and visible.
-bool IsVisible(int number);
-
-/// A calendar window by its number (1..5), a year window by its calendar;
-/// nullptr while it is not loaded.
-CalendarWindow* LoadedCalendarWindow(int number);
+/// A main window, nullptr while it is not loaded.
+MainWindow* LoadedWindow(MainWindowNumber window);
 YearWindow* LoadedYear(int c);
+
+/// Whether a main window is loaded and visible.
+bool IsVisible(MainWindowNumber window);
 
 /// How many of the calendar windows are visible, 0..5, minimised ones included.
 /// One that is not loaded counts as not visible.

@@ -14,7 +14,6 @@
 #include "platform/image.h"
 #include "platform/line.h"
 #include "platform/text.h"
-#include "platform/twips.h"
 #include "settings/storedsettings.h"
 #include "shared/flags.h"
 #include "shared/settings.h"
@@ -160,7 +159,7 @@ void frmMonthlyCal::place() {
     const int right = ToPixels(PaneLeft(paneCount)) + Pane::width;
     m_line1->setGeometry(margin, bottom + gap, right - margin, 2 * gap);
     bottom = placeCommon(bottom + 3 * gap, right - margin);
-    SetSize(ToTwips(right + margin), ToTwips(bottom));
+    SetSize({right + margin, bottom});
 }
 
 // The commands stand beside what the calendars have in common where `width` has

@@ -11,9 +11,9 @@
 namespace {
 
 constexpr int columns = 1 + DayGrid::monthColumns;
-constexpr int weekWidth = 255;      // twips
-constexpr int firstRowHeight = 345; // twips
-constexpr int otherRowHeight = 300; // twips
+constexpr Twips weekWidth{255};
+constexpr Twips firstRowHeight{345};
+constexpr Twips otherRowHeight{300};
 constexpr int digitPixels = 11;
 
 // The tables do not hold the year before. Of a Jewish one 13 is asked for: where it has
@@ -38,7 +38,8 @@ MonthGrid::MonthGrid(int pane, QWidget* parent)
     SetRowHeight(0, firstRowHeight);
     for (int row = 1; row < daysInWeek; ++row)
         SetRowHeight(row, otherRowHeight);
-    SetSize(ColWidth(0) * columns + 30, RowHeight(0) + 6 * (RowHeight(1) + 5));
+    const Twips outline{30}; // on both sides
+    SetSize(columns * ColWidth(0) + outline, RowHeight(0) + 6 * RowHeight(1) + outline);
     SetCalendar(CalendarOrder(pane));
     connect(this, &MSFlexGrid::MouseDown, this, &MonthGrid::MSFlexGrid1_MouseDown);
     connect(this, &MSFlexGrid::DblClick, this, &MonthGrid::MSFlexGrid1_DblClick);

@@ -12,7 +12,6 @@
 #include "platform/combobox.h"
 #include "platform/numbers.h"
 #include "platform/text.h"
-#include "platform/twips.h"
 #include "shared/flags.h"
 #include "shared/settings.h"
 #include "shared/texts.h"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/twips.h"
 #include "shared/settings.h"
 #include "shared/table.h"
 
@@ -9,8 +10,8 @@
 class ComboBox;
 class MonthGrid;
 
-/// Left edges of the panes, in twips.
-inline const Table<int, paneCount> PaneLeft{300, 2640, 4980, 7320};
+/// Left edges of the panes.
+inline const Table<Twips, paneCount> PaneLeft{{300}, {2640}, {4980}, {7320}};
 
 /// One of the four panes: the selectors of one calendar and its month grid. A
 /// list holds only the entry of the chosen day until it is used. What a choice

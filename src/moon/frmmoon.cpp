@@ -10,7 +10,6 @@
 #include "platform/message.h"
 #include "platform/numbers.h"
 #include "platform/text.h"
-#include "platform/twips.h"
 #include "shared/settings.h"
 #include "shared/texts.h"
 
@@ -19,12 +18,11 @@
 
 namespace {
 
-// In twips.
-constexpr int pictureSide = 4200;
-constexpr int windowWidth = pictureSide + 150;
-constexpr int windowHeight = pictureSide + 440;
-constexpr int backdropMargin = 30;
-constexpr int labelMargin = 60;
+constexpr Twips pictureSide{4200};
+constexpr Twips windowWidth = pictureSide + Twips{150};
+constexpr Twips windowHeight = pictureSide + Twips{440};
+constexpr Twips backdropMargin{30};
+constexpr Twips labelMargin{60};
 
 void setColor(QWidget* widget, QPalette::ColorRole role, const QColor& color) {
     QPalette colors = widget->palette();
@@ -106,7 +104,7 @@ void frmMoon::loadPicture() {
 }
 
 void frmMoon::placeControls() {
-    SetSize(windowWidth, windowHeight);
+    SetSize(LargestSize());
     const int side = ToPixels(pictureSide);
     m_picture1->setGeometry((width() - side) / 2, (height() - side) / 2, side, side);
     const int margin = ToPixels(backdropMargin);

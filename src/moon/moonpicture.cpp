@@ -2,7 +2,6 @@
 #include "moon/moonpicture.h"
 
 #include "platform/color.h"
-#include "platform/twips.h"
 #include "shared/calendars.h"
 #include "shared/look.h"
 
@@ -38,14 +37,6 @@ void MoonPicture::SetPicture(const QImage& picture) {
 void MoonPicture::SetShadow(const Shadow& shadow) {
     m_shadow = shadow;
     update();
-}
-
-int MoonPicture::Width() const {
-    return ToTwips(width());
-}
-
-int MoonPicture::Height() const {
-    return ToTwips(height());
 }
 
 void MoonPicture::paintEvent(QPaintEvent*) {

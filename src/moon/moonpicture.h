@@ -2,6 +2,7 @@
 #pragma once
 
 #include "moon/shadow.h"
+#include "platform/twips.h"
 
 #include <QImage>
 #include <QPixmap>
@@ -22,9 +23,8 @@ public:
 
     void SetShadow(const Shadow& shadow);
 
-    /// In twips.
-    int Width() const;
-    int Height() const;
+    Twips Width() const { return ToTwips(width()); }
+    Twips Height() const { return ToTwips(height()); }
 
 Q_SIGNALS:
     void DblClick();

@@ -4,7 +4,6 @@
 #include "changecals/changecals.h"
 #include "platform/color.h"
 #include "platform/numbers.h"
-#include "platform/twips.h"
 
 #include <QPainter>
 
@@ -86,10 +85,11 @@ QRectF pixelRect(const Shadow& shadow) {
 
 } // namespace
 
-Shadow ShadowOf(float age, double pictureWidth, double pictureHeight) {
+Shadow ShadowOf(float age, Twips width, Twips height) {
     constexpr double overlap = 60;     // twips, so that no lit edge is left
     constexpr double stretched = 1.02; // higher than wide
-    const Area area{pictureWidth + overlap, (pictureHeight + overlap) * stretched,
+    const double pictureHeight = height.count;
+    const Area area{width.count + overlap, (pictureHeight + overlap) * stretched,
                     pictureHeight / 60};
     const double half = area.width / 2;
     if (age <= nearPhase)

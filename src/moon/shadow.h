@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/twips.h"
+
 class QPainter;
 
 /// What is not lit: the sky, and the moon's shadow that cannot be told from it.
@@ -22,9 +24,9 @@ struct Shadow {
     double height;
 };
 
-/// The shadow at a moon age in days over a picture of the given size in twips.
+/// The shadow at a moon age in days over a picture of the given size.
 /// An age that no lunation has (negative, or near its end) is new moon.
-Shadow ShadowOf(float age, double pictureWidth, double pictureHeight);
+Shadow ShadowOf(float age, Twips width, Twips height);
 
 /// Paints it where the picture's upper left corner is the painter's origin. A
 /// shadow of less than a pixel covers nothing.

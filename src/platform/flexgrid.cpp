@@ -4,7 +4,6 @@
 #include "platform/color.h"
 #include "platform/gridmerging.h"
 #include "platform/gridpainter.h"
-#include "platform/twips.h"
 
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -112,26 +111,6 @@ void MSFlexGrid::MoveTo(GridPlace cell) {
     SetRow(cell.row);
     SetCol(cell.column);
     moveCurrent(m_model->index(cell.row, cell.column));
-}
-
-int MSFlexGrid::ColWidth(int column) const {
-    return ToTwips(horizontalHeader()->sectionSize(column));
-}
-
-int MSFlexGrid::RowHeight(int row) const {
-    return ToTwips(verticalHeader()->sectionSize(row));
-}
-
-void MSFlexGrid::SetColWidth(int column, int twips) {
-    horizontalHeader()->resizeSection(column, ToPixels(twips));
-}
-
-void MSFlexGrid::SetRowHeight(int row, int twips) {
-    verticalHeader()->resizeSection(row, ToPixels(twips));
-}
-
-void MSFlexGrid::SetSize(int width, int height) {
-    setFixedSize(ToPixels(width), ToPixels(height));
 }
 
 void MSFlexGrid::SetMergeRow(int row) {

@@ -4,15 +4,15 @@
 #include "platform/answer.h"
 #include "platform/gridmodel.h"
 #include "platform/gridspeaker.h"
+#include "platform/twips.h"
 
 #include <QTableView>
 
 class GridPainter;
 
 /// A grid of cells with their own text, colours and weight, in the classic
-/// terms. Rows and columns are counted from 0, sizes are in twips, colours are
-/// 0x00BBGGRR numbers. Row and Col name the current cell, on which the Cell...
-/// properties act; outside the grid they do nothing.
+/// terms. Rows and columns are counted from 0, colours are 0x00BBGGRR numbers. Row and Col name the
+/// current cell, on which the Cell... properties act; outside the grid they do nothing.
 ///
 /// A cell that is set to what it already holds raises no repaint. While Redraw
 /// is off nothing is painted; turning it on paints what has changed, once.
@@ -51,11 +51,11 @@ public:
     /// Gives every cell this background and text colour, not bold.
     void SetAllCellColors(int back, int fore);
 
-    int ColWidth(int column) const;
-    int RowHeight(int row) const;
-    void SetColWidth(int column, int twips);
-    void SetRowHeight(int row, int twips);
-    void SetSize(int width, int height);
+    Twips ColWidth(int column) const { return ToTwips(columnWidth(column)); }
+    Twips RowHeight(int row) const { return ToTwips(rowHeight(row)); }
+    void SetColWidth(int column, Twips width) { setColumnWidth(column, ToPixels(width)); }
+    void SetRowHeight(int row, Twips height) { setRowHeight(row, ToPixels(height)); }
+    void SetSize(Twips width, Twips height) { setFixedSize(ToPixels(width), ToPixels(height)); }
     void SetColHidden(int column, bool hidden) { setColumnHidden(column, hidden); }
 
     /// Equal texts that stand side by side in this row are shown as one cell.

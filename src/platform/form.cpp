@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/form.h"
 
-#include "platform/twips.h"
-
 #include <QCloseEvent>
 #include <cmath>
 #include <cstdlib>
@@ -15,23 +13,22 @@ Form::Form(const QString& name) {
     setWindowFlag(Qt::WindowMaximizeButtonHint, false);
 }
 
-int Form::Top() const {
+Twips Form::Top() const {
     return ToTwips(settled(pos().y(), m_put.y()));
 }
 
-int Form::Left() const {
+Twips Form::Left() const {
     return ToTwips(settled(pos().x(), m_put.x()));
 }
 
-void Form::Move(int left, int top) {
+void Form::Move(Twips left, Twips top) {
     m_put = {ToPixels(left), ToPixels(top)};
     move(m_put);
 }
 
 // At a fractional scale the desktop is told to resize in steps, by which it would
 // round the size down if they were not counted from the size itself.
-void Form::SetSize(int width, int height) {
-    const QSize size(ToPixels(width), ToPixels(height));
+void Form::SetSize(const QSize& size) {
     setBaseSize(size);
     setFixedSize(size);
 }

@@ -2,14 +2,15 @@
 #pragma once
 
 #include "platform/answer.h"
+#include "platform/twips.h"
 
 #include <QWidget>
 
 /// A window in the classic terms: loaded (constructed), shown, hidden, unloaded.
 /// Closing it through its frame unloads it: it is hidden at once, told by
 /// Form_Unload and destroyed when its events are done. Positions are those of
-/// the frame, sizes those of the contents, both in twips. Nobody resizes it but
-/// the program.
+/// the frame, sizes those of the contents, in pixels. Nobody resizes it but the
+/// program.
 class Form : public QWidget, public Speaker {
     Q_OBJECT
 
@@ -18,12 +19,12 @@ public:
 
     explicit Form(const QString& name);
 
-    int Top() const;
-    int Left() const;
+    Twips Top() const;
+    Twips Left() const;
 
     /// The frame is where it was put until somebody moves it.
-    void Move(int left, int top);
-    void SetSize(int width, int height);
+    void Move(Twips left, Twips top);
+    void SetSize(const QSize& size);
 
     /// Minimised windows are visible.
     bool Visible() const { return isVisible(); }

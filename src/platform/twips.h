@@ -1,16 +1,28 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <cmath>
+/// A length as positions and sizes are written down, fifteen to a device-independent
+/// pixel. It becomes pixels only here.
+struct Twips {
+    int count;
+    bool operator==(const Twips& other) const = default;
+};
 
-/// Twips in one device-independent pixel. Positions and sizes are kept in twips
-/// and become pixels only here.
 inline constexpr int twipsPerPixel = 15;
 
-inline int ToPixels(double twips) {
-    return static_cast<int>(std::lround(twips / twipsPerPixel));
+constexpr Twips operator+(Twips one, Twips other) {
+    return {one.count + other.count};
 }
 
-constexpr int ToTwips(int pixels) {
-    return pixels * twipsPerPixel;
+constexpr Twips operator*(int times, Twips length) {
+    return {times * length.count};
+}
+
+constexpr int ToPixels(Twips length) {
+    constexpr int half = twipsPerPixel / 2;
+    return (length.count + (length.count < 0 ? -half : half)) / twipsPerPixel;
+}
+
+constexpr Twips ToTwips(int pixels) {
+    return {pixels * twipsPerPixel};
 }

@@ -14,7 +14,7 @@ const Table<QString, mainWindowCount> windowSections{
     QStringLiteral("Julian"), QStringLiteral("Gregorian"), QStringLiteral("Jewish"),
     QStringLiteral("Moslem"), QStringLiteral("Monthly"),   QStringLiteral("Moon")};
 
-void addPosition(std::vector<Setting>& rows, int window) {
+void addPosition(std::vector<Setting>& rows, MainWindowNumber window) {
     const QString& section = windowSections(window);
     const QString none = QString::number(noPosition);
     rows.push_back({section, QStringLiteral("Top"), none, &FormTop(window), Positions});
@@ -31,7 +31,7 @@ std::vector<Setting> settings() {
     for (int c = 1; c <= calendarCount; ++c) {
         add({windowSections(c), QStringLiteral("FirstWeekDay"), text(Sunday), &FirstWeekDay(c),
              Options, 2});
-        addPosition(rows, c);
+        addPosition(rows, YearWindowNumber(c));
     }
     addPosition(rows, MonthlyWindowNumber);
     addPosition(rows, MoonWindowNumber);

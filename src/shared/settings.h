@@ -4,6 +4,7 @@
 #include "shared/calendars.h"
 #include "shared/table.h"
 
+#include <array>
 #include <string>
 
 // The user's stored choices as the running program holds them. Numbers fit in
@@ -22,14 +23,19 @@ inline Table<int, paneCount> CalendarOrder;
 /// it through Calc::WeekStart, which makes a weekday of any stored number.
 inline Table<int, calendarCount> FirstWeekDay;
 
-/// The six main windows in the order of their stored positions; 1..4 are the
-/// year windows by calendar number.
+/// The six main windows; 1..4 are the year windows by calendar number. Only
+/// StartupWindow and CurrentWindow number windows otherwise.
 enum MainWindowNumber : int { MonthlyWindowNumber = 5, MoonWindowNumber = 6 };
 inline constexpr int mainWindowCount = 6;
 
 constexpr MainWindowNumber YearWindowNumber(int c) {
     return static_cast<MainWindowNumber>(c);
 }
+
+/// All of them in the order of their stored positions.
+inline constexpr std::array<MainWindowNumber, mainWindowCount> mainWindows{
+    YearWindowNumber(Julian), YearWindowNumber(Gregorian), YearWindowNumber(Jewish),
+    YearWindowNumber(Moslem), MonthlyWindowNumber,         MoonWindowNumber};
 
 /// A position that means "none stored".
 inline constexpr int noPosition = 32737;

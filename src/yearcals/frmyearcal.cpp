@@ -21,17 +21,18 @@
 
 namespace {
 
-// In twips.
-constexpr int controlsHeight = 780;
-constexpr int bothFrames = 30; // left and right of the grid
-
 // In pixels.
+constexpr int controlsHeight = ToPixels({780});
 constexpr int margin = 4;
-constexpr int frame = 1;
+constexpr int frame = 1;    // beside the grid
 constexpr int leastGap = 2; // between groups
 
 constexpr int buttonsInRow = 10; // Command1 and the moon
 constexpr int groups = 4;
+
+QSize around(const QSize& grid) {
+    return grid + QSize(2 * frame, controlsHeight);
+}
 
 QString nameOf(int c) {
     static const Table<QString, calendarCount> names{
@@ -54,14 +55,14 @@ frmYearCal::frmYearCal(int c)
     createControls();
     placeControls();
     connectControls();
-    fitWindow();
+    Form_Resize();
     m_grid->setFocus(); // the days, not a list that would be filled at once
     SetTexts();
-    ChangeCals::PlaceForm(*this, c);
+    ChangeCals::PlaceForm(*this, YearWindowNumber(c));
 }
 
 QSize frmYearCal::LargestSize(int c) {
-    return YearGrid::LargestSize(c) + QSize(ToPixels(bothFrames), ToPixels(controlsHeight));
+    return around(YearGrid::LargestSize(c));
 }
 
 void frmYearCal::SetTexts() {
@@ -138,10 +139,10 @@ void frmYearCal::Command1_MouseDown(int index, Qt::MouseButton button) {
         m_commands.MouseDown(Command::Close, button);
 }
 
-// Only the Jewish year changes its width.
+// What a Jewish year asked for while the window was minimised it gets afterwards.
 void frmYearCal::Form_Resize() {
-    if (m_calendar == Jewish)
-        m_grid->FitYear();
+    if (WindowState() == Normal)
+        SetSize(around(m_grid->size()));
 }
 
 // Each way has its own end, so that a year beyond the last one has a way back.
@@ -172,7 +173,7 @@ void frmYearCal::connectControls() {
     connect(m_grid, &MSFlexGrid::MouseDown, this, &frmYearCal::MSFlexGrid1_MouseDown);
     connect(m_grid, &MSFlexGrid::DblClick, this, &ChangeCals::ShowMonthlyWindow);
     connect(m_grid, &DayGrid::Paged, this, &frmYearCal::StepYear);
-    connect(m_grid, &YearGrid::Fitted, this, &frmYearCal::fitWindow);
+    connect(m_grid, &YearGrid::Fitted, this, &frmYearCal::Form_Resize);
     for (int index = 1; index <= buttonCount; ++index) {
         CommandButton* button = m_command1(index);
         connect(button, &CommandButton::clicked, this, [this, index] { Command1_Click(index); });
@@ -185,18 +186,18 @@ void frmYearCal::connectControls() {
 // the year, its steps, the moon and the other calendars, the program. The groups
 // share what room the narrowest year leaves.
 void frmYearCal::placeControls() {
-    const int height = ToPixels(controlsHeight);
-    const int room = YearGrid::NarrowestWidth() + ToPixels(bothFrames) - 2 * margin -
-                     buttonsInRow * CommandButton::side;
+    const int room =
+        YearGrid::NarrowestWidth() + 2 * frame - 2 * margin - buttonsInRow * CommandButton::side;
     const int selectorWidth = m_combo1->FitWidth(Controls::YearEntry(MaxYear(m_calendar)),
                                                  room - (groups - 1) * leastGap);
     const int comboHeight = m_combo1->sizeHint().height();
-    m_combo1->setGeometry(margin, (height - comboHeight) / 2, selectorWidth, comboHeight);
+    m_combo1->setGeometry(margin, (controlsHeight - comboHeight) / 2, selectorWidth, comboHeight);
     const int gap = (room - selectorWidth) / (groups - 1);
     int left = margin + selectorWidth;
     QWidget* before = m_combo1;
+    const int top = (controlsHeight - CommandButton::side) / 2;
     const auto placeNext = [&](QWidget* control) {
-        control->move(left, (height - CommandButton::side) / 2);
+        control->move(left, top);
         setTabOrder(before, control);
         before = control;
         left += CommandButton::side;
@@ -208,18 +209,13 @@ void frmYearCal::placeControls() {
     left += gap;
     placeGroup(PreviousYear, TodayButton);
     left += gap;
-    m_command2.Place(left, (height - CommandButton::side) / 2, CommandButton::side);
+    m_command2.Place(left, top, CommandButton::side);
     placeNext(m_command2.Front());
     placeGroup(FirstOtherCalendar, buttonCount);
     left += gap;
     placeGroup(OptionsButton, CloseButton);
     setTabOrder(before, m_grid);
-    m_grid->move(frame, height - frame);
-}
-
-void frmYearCal::fitWindow() {
-    if (WindowState() == Normal)
-        SetSize(ToTwips(m_grid->width()) + bothFrames, ToTwips(m_grid->height()) + controlsHeight);
+    m_grid->move(frame, controlsHeight - frame);
 }
 
 // The commands that both kinds of calendar window have.

@@ -59,7 +59,6 @@ private:
     void createControls();
     void connectControls();
     void placeControls();
-    void fitWindow();
     static Command commandOf(int index);
     int otherCalendar(int index) const;
     YearCals::YearControls arranged();

@@ -6,7 +6,6 @@
 #include "changecals/changecals.h"
 #include "platform/pointer.h"
 #include "platform/text.h"
-#include "platform/twips.h"
 #include "shared/look.h"
 #include "shared/texts.h"
 #include "yearcals/yearlayout.h"
@@ -15,11 +14,10 @@ namespace {
 
 using YearLayout::bandRows;
 
-// In twips.
-constexpr int weekdayColumnWidth = 345;
-constexpr int weekColumnWidth = 300;
-constexpr int weekdayRowHeight = 195;
-constexpr int titleRowHeight = 360;
+constexpr Twips weekdayColumnWidth{345};
+constexpr Twips weekColumnWidth{300};
+constexpr Twips weekdayRowHeight{195};
+constexpr Twips titleRowHeight{360};
 
 constexpr int digitPixels = 10;
 
@@ -28,14 +26,14 @@ int columnsOf(int c) {
 }
 
 // Beyond the cells a little more room, a little less in a leap year.
-int gridWidth(int weekColumns) {
-    const int slack = weekColumns == YearLayout::leapColumns ? 30 : 60;
+Twips gridWidth(int weekColumns) {
+    const Twips slack{weekColumns == YearLayout::leapColumns ? 30 : 60};
     return weekdayColumnWidth + weekColumns * weekColumnWidth + slack;
 }
 
-int gridHeight() {
-    const int band = titleRowHeight + daysInWeek * weekdayRowHeight;
-    constexpr int slack = 90;
+Twips gridHeight() {
+    const Twips band = titleRowHeight + daysInWeek * weekdayRowHeight;
+    constexpr Twips slack{90};
     return YearLayout::bands * band + slack;
 }
 
@@ -72,12 +70,14 @@ QSize YearGrid::LargestSize(int c) {
     return {ToPixels(gridWidth(columnsOf(c) - 1)), ToPixels(gridHeight())};
 }
 
-void YearGrid::FitYear() {
+void YearGrid::fitYear() {
     const bool wide = Calendar() == Jewish && JewishLeap;
     for (int column = YearLayout::adarTwoColumn; column < Cols(); ++column)
         SetColHidden(column, !wide);
+    const QSize former = size();
     SetSize(gridWidth(wide ? YearLayout::leapColumns : YearLayout::commonColumns), gridHeight());
-    Q_EMIT Fitted();
+    if (size() != former)
+        Q_EMIT Fitted();
 }
 
 GridPlace YearGrid::CornerOf(int month) const {
@@ -117,7 +117,7 @@ void YearGrid::BuildYearGrid() {
         blankAdarTwo();
     MarkChosenDay();
     if (Calendar() == Jewish)
-        FitYear();
+        fitYear();
 }
 
 void YearGrid::setTitle(int month) {

@@ -28,11 +28,8 @@ public:
     /// Of calendar c's longest year, in pixels.
     static QSize LargestSize(int c);
 
-    /// As wide as its year asks for: the Jewish one has more columns in a leap year.
-    void FitYear();
-
 Q_SIGNALS:
-    /// The grid has another size.
+    /// The grid has another size: a Jewish leap year is wider.
     void Fitted();
 
 protected:
@@ -42,6 +39,7 @@ protected:
 private:
     void InitYearGrid(int c);
     void BuildYearGrid();
+    void fitYear();
     void setTitle(int month);
     void blankAdarTwo();
     void chooseEnd(End end);

@@ -111,7 +111,7 @@ TEST_F(Closing, FrameCloseUnloadsAndTheNextUseLoadsAfresh) {
     ChangeCals::OpenYearWindow(Moslem);
     QPointer<YearWindow> window = &ChangeCals::LoadYear(Moslem);
     window->close();
-    EXPECT_EQ(ChangeCals::LoadedWindow(Moslem), nullptr);
+    EXPECT_EQ(ChangeCals::LoadedYear(Moslem), nullptr);
     EXPECT_NE(&ChangeCals::LoadYear(Moslem), window.data());
     processEvents();
     EXPECT_TRUE(window.isNull());
@@ -185,7 +185,8 @@ TEST_F(Closing, WindowsThatAreNotLoadedKeepTheirPlaceAndAreNotCreated) {
     ChangeCals::ExitProgram();
     EXPECT_EQ(saved("Jewish/Top"), QStringLiteral("300"));
     EXPECT_EQ(saved("Jewish/Left"), QStringLiteral("450"));
-    EXPECT_EQ(saved("Julian/Top"), QString::number(ChangeCals::PlaceOf(Julian).top));
+    EXPECT_EQ(saved("Julian/Top"),
+              QString::number(ChangeCals::PlaceOf(YearWindowNumber(Julian)).top.count));
     EXPECT_EQ(ChangeCals::LoadedWindow(MoonWindowNumber), nullptr);
 }
 

@@ -74,7 +74,7 @@ TEST_F(Opening, MinimisedWindowsComeBackWhenTheyAreAskedFor) {
     ChangeCals::ShowMonthlyWindow();
     ChangeCals::OpenYearWindow(Julian);
     ChangeCals::ShowMoonWindow();
-    for (const int number : {int{MonthlyWindowNumber}, int{Julian}, int{MoonWindowNumber}})
+    for (const auto number : {MonthlyWindowNumber, YearWindowNumber(Julian), MoonWindowNumber})
         EXPECT_EQ(ChangeCals::LoadedWindow(number)->WindowState(), Form::Normal) << number;
 }
 

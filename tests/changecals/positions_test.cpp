@@ -17,9 +17,10 @@ protected:
 
 TEST_F(PositionsOfWindows, AreTheStoredOnesWhereTheyAreOnTheDesktop) {
     const QSize screen = QGuiApplication::primaryScreen()->size();
-    const int width = ToTwips(screen.width());
-    const int height = ToTwips(screen.height());
-    const auto first = ChangeCals::PlaceOf(Julian);
+    const int width = ToTwips(screen.width()).count;
+    const int height = ToTwips(screen.height()).count;
+    const MainWindowNumber julian = YearWindowNumber(Julian);
+    const auto first = ChangeCals::PlaceOf(julian);
     const struct {
         int left, top;
         bool used;
@@ -29,21 +30,22 @@ TEST_F(PositionsOfWindows, AreTheStoredOnesWhereTheyAreOnTheDesktop) {
     for (const auto& row : rows) {
         FormLeft(Julian) = row.left;
         FormTop(Julian) = row.top;
-        const auto place = ChangeCals::PlaceOf(Julian);
-        EXPECT_EQ(place.left, row.used ? row.left : first.left) << row.left << " " << row.top;
-        EXPECT_EQ(place.top, row.used ? row.top : first.top) << row.left << " " << row.top;
+        const auto place = ChangeCals::PlaceOf(julian);
+        EXPECT_EQ(place.left, row.used ? Twips{row.left} : first.left)
+            << row.left << " " << row.top;
+        EXPECT_EQ(place.top, row.used ? Twips{row.top} : first.top) << row.left << " " << row.top;
     }
 }
 
 // Where the moon has no room below the monthly window, it stands above.
 TEST_F(PositionsOfWindows, ReckonWithTheSizeOfAWindowThatIsPlaced) {
     ASSERT_EQ(QGuiApplication::primaryScreen()->geometry(), QRect(0, 0, 800, 800));
-    EXPECT_EQ(ChangeCals::PlaceOf(MoonWindowNumber).top, 6675);
+    EXPECT_EQ(ChangeCals::PlaceOf(MoonWindowNumber).top, Twips{6675});
     Form monthly(QStringLiteral("frmMonthlyCal"));
     monthly.resize(656, 450);
     ChangeCals::PlaceForm(monthly, MonthlyWindowNumber);
     EXPECT_EQ(monthly.pos(), QPoint(0, 314));
-    EXPECT_EQ(ChangeCals::PlaceOf(MoonWindowNumber).top, 0);
+    EXPECT_EQ(ChangeCals::PlaceOf(MoonWindowNumber).top, Twips{0});
 }
 
 TEST_F(PositionsOfWindows, AreReadBackFromTheWindows) {
@@ -59,7 +61,7 @@ TEST_F(PositionsOfWindows, ADialogIsInTheMiddleAndAThirdDown) {
     dialog.resize(301, 200);
     ChangeCals::PlaceDialog(dialog);
     EXPECT_EQ(dialog.pos(), QPoint(249, 200));
-    EXPECT_EQ(dialog.Top(), 3000);
+    EXPECT_EQ(dialog.Top(), Twips{3000});
 }
 
 TEST_F(PositionsOfWindows, AreLeftAsTheyWereStoredWhereTheDesktopDoesNotTellThem) {

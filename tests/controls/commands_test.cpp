@@ -50,7 +50,7 @@ TEST_F(CommandKeys, CtrlMBringsTheMonthlyWindow) {
 TEST_F(CommandKeys, CtrlYOpensTheYearWindowsOfThePanes) {
     press(Qt::Key_Y);
     for (const int c : {Julian, Gregorian, Jewish, Moslem})
-        EXPECT_TRUE(ChangeCals::IsVisible(c));
+        EXPECT_TRUE(ChangeCals::IsVisible(YearWindowNumber(c)));
 }
 
 TEST_F(CommandKeys, CtrlCommaOpensTheOptionsAndF1TheAboutBox) {

@@ -25,7 +25,7 @@ public:
     /// Of a main window by its number; it is to be loaded.
     template <typename Widget>
     Widget& Of(int number, const QString& name) {
-        return In<Widget>(*ChangeCals::LoadedWindow(number), name);
+        return In<Widget>(*ChangeCals::LoadedWindow(static_cast<MainWindowNumber>(number)), name);
     }
 
 private:

@@ -88,7 +88,7 @@ void Judge::lookAtDate(int c) const {
 
 void Judge::lookAtWindows() const {
     QStringList names;
-    for (int number = 1; number <= mainWindowCount; ++number) {
+    for (const MainWindowNumber number : mainWindows) {
         if (!m_expected.open(number))
             continue;
         names.append(nameOf(number));

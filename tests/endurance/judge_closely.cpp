@@ -60,7 +60,7 @@ void Judge::LookClosely() {
 
 void Judge::lookAtCaptions() const {
     const Captions& captions = captionsIn(m_expected.language);
-    for (int number = 1; number <= mainWindowCount; ++number) {
+    for (const MainWindowNumber number : mainWindows) {
         if (m_expected.open(number)) {
             EXPECT_EQ(ChangeCals::LoadedWindow(number)->windowTitle(), captions(number));
         }

@@ -57,7 +57,7 @@ std::size_t BytesAtRest() {
     ChangeCals::ShowMonthlyWindow();
     ChangeCals::ShowMoonWindow();
     goTo(2451545);
-    for (int number = 1; number <= mainWindowCount; ++number) {
+    for (const MainWindowNumber number : mainWindows) {
         const MainWindow& window = *ChangeCals::LoadedWindow(number);
         for (auto* list : window.findChildren<ComboBox*>())
             unfold(*list);

@@ -46,7 +46,7 @@ Form& Walker::form(int place) {
         return ChangeCals::LoadOptions();
     if (place == AboutBox)
         return ChangeCals::LoadAbout();
-    return *ChangeCals::LoadedWindow(place);
+    return *ChangeCals::LoadedWindow(static_cast<MainWindowNumber>(place));
 }
 
 void Walker::playThere() {

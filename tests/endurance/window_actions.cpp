@@ -13,7 +13,7 @@
 namespace {
 
 MainWindow& windowOf(int number) {
-    return *ChangeCals::LoadedWindow(number);
+    return *ChangeCals::LoadedWindow(static_cast<MainWindowNumber>(number));
 }
 
 QString command(int index) {

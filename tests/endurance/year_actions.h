@@ -12,7 +12,7 @@ public:
     void Play(int c);
 
 private:
-    Form& window(int c) { return *ChangeCals::LoadedWindow(c); }
+    Form& window(int c) { return *ChangeCals::LoadedYear(c); }
     MSFlexGrid& grid(int c);
 
     void pressCell(int c);

@@ -28,7 +28,7 @@ protected:
         FormLeft(Jewish) = place.x() * 15;
         FormTop(Jewish) = place.y() * 15;
         Form form(QStringLiteral("frmJewish"));
-        ChangeCals::PlaceForm(form, Jewish);
+        ChangeCals::PlaceForm(form, YearWindowNumber(Jewish));
         return form.pos();
     }
 
@@ -58,9 +58,10 @@ TEST_F(Monitors, AFrameIsWhereItWasPutUntilItIsMovedByMoreThanTheScaleRounds) {
         for (QScreen* screen : QGuiApplication::screens())
             if (screen->name() == QLatin1String(row.monitor))
                 form.setScreen(screen);
-        form.Move(600, 300);
+        form.Move({600}, {300});
         form.move(form.pos() + row.by);
-        EXPECT_EQ(QPoint(form.Left(), form.Top()), row.told) << row.monitor << row.by.x();
+        EXPECT_EQ(QPoint(form.Left().count, form.Top().count), row.told)
+            << row.monitor << row.by.x();
     }
 }
 
@@ -74,15 +75,16 @@ TEST_F(Monitors, APlaceBeyondTheWholeDesktopIsNone) {
 TEST_F(Monitors, TheNumberThatStandsForNoPlaceIsNoneAlsoWhereTheDesktopHasIt) {
     FormLeft(Jewish) = 32737;
     FormTop(Jewish) = 300;
-    EXPECT_NE(ChangeCals::PlaceOf(Jewish).left, 32737);
-    EXPECT_NE(ChangeCals::PlaceOf(Jewish).top, 300);
+    const auto place = ChangeCals::PlaceOf(YearWindowNumber(Jewish));
+    EXPECT_NE(place.left, Twips{32737});
+    EXPECT_NE(place.top, Twips{300});
 }
 
 TEST_F(Monitors, WindowsBeginOnThePrimary) {
-    for (int number = 1; number <= mainWindowCount; ++number) {
+    for (const MainWindowNumber number : mainWindows) {
         const auto place = ChangeCals::PlaceOf(number);
-        EXPECT_TRUE(primary.contains(place.left / 15, place.top / 15)) << number;
-        EXPECT_LE(place.left, 32767) << number;
+        EXPECT_TRUE(primary.contains(ToPixels(place.left), ToPixels(place.top))) << number;
+        EXPECT_LE(place.left.count, 32767) << number;
     }
 }
 

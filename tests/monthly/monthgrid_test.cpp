@@ -35,10 +35,10 @@ TEST_F(MonthGrids, SizesAreTheDesignedOnes) {
     for (int pane = 1; pane <= paneCount; ++pane) {
         EXPECT_EQ(grid(pane).size(), QSize(121, 145));
         for (int column = 0; column < 7; ++column)
-            EXPECT_EQ(grid(pane).ColWidth(column), 255);
-        EXPECT_EQ(grid(pane).RowHeight(0), 345);
+            EXPECT_EQ(grid(pane).ColWidth(column), Twips{255});
+        EXPECT_EQ(grid(pane).RowHeight(0), Twips{345});
         for (int row = 1; row < 7; ++row)
-            EXPECT_EQ(grid(pane).RowHeight(row), 300);
+            EXPECT_EQ(grid(pane).RowHeight(row), Twips{300});
     }
 }
 

@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr double side = 3000; // twips
+constexpr Twips side{3000};
 constexpr double width = 3060;
 constexpr double height = 3121.2;
 constexpr float quarter = 29.530588F / 4;

@@ -57,7 +57,7 @@ TEST_F(FlexGrid, NothingButCellsIsSeen) {
     show();
     EXPECT_FALSE(grid->horizontalHeader()->isVisible());
     EXPECT_FALSE(grid->verticalHeader()->isVisible());
-    grid->SetSize(600, 600); // smaller than its cells
+    grid->SetSize({600}, {600}); // smaller than its cells
     settle();
     EXPECT_FALSE(grid->horizontalScrollBar()->isVisible());
     EXPECT_FALSE(grid->verticalScrollBar()->isVisible());

@@ -12,9 +12,9 @@ TEST_F(FlexGrid, HasTheNumberOfCellsAskedFor) {
 
 TEST_F(FlexGrid, SizesAreExactInTwips) {
     const struct {
-        int twips;
+        Twips twips;
         int pixels;
-    } sizes[] = {{255, 17}, {195, 13}, {300, 20}, {15, 1}, {1500, 100}};
+    } sizes[] = {{{255}, 17}, {{195}, 13}, {{300}, 20}, {{15}, 1}, {{1500}, 100}};
     for (const auto& size : sizes) {
         grid->SetColWidth(2, size.twips);
         grid->SetRowHeight(3, size.twips);
@@ -23,7 +23,7 @@ TEST_F(FlexGrid, SizesAreExactInTwips) {
         EXPECT_EQ(grid->ColWidth(2), size.twips);
         EXPECT_EQ(grid->RowHeight(3), size.twips);
     }
-    grid->SetSize(3000, 1500);
+    grid->SetSize({3000}, {1500});
     EXPECT_EQ(grid->size(), QSize(200, 100));
 }
 

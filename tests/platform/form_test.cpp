@@ -29,7 +29,7 @@ protected:
 
 class Forms : public PlatformTest {
 protected:
-    Forms() : form(new RecordingForm(QStringLiteral("frmTest"))) { form->SetSize(3000, 1500); }
+    Forms() : form(new RecordingForm(QStringLiteral("frmTest"))) { form->SetSize({200, 100}); }
     ~Forms() override { delete form; }
 
     void show() {
@@ -44,34 +44,34 @@ TEST_F(Forms, SizesAreThoseOfTheContentsInTwips) {
     EXPECT_EQ(form->size(), QSize(200, 100));
     show();
     EXPECT_EQ(form->size(), QSize(200, 100));
-    form->SetSize(1515, 1500);
+    form->SetSize({101, 100});
     EXPECT_EQ(form->size(), QSize(101, 100));
 }
 
 TEST_F(Forms, PlacesAreThoseOfTheFrameInTwips) {
-    form->Move(300, 450);
+    form->Move({300}, {450});
     EXPECT_EQ(form->pos(), QPoint(20, 30));
     show();
-    EXPECT_EQ(form->Left(), 300);
-    EXPECT_EQ(form->Top(), 450);
-    form->Move(1507, 1508);
-    EXPECT_EQ(form->Left(), 1500);
-    EXPECT_EQ(form->Top(), 1515);
-    form->Move(-150, -300);
+    EXPECT_EQ(form->Left(), Twips{300});
+    EXPECT_EQ(form->Top(), Twips{450});
+    form->Move({1507}, {1508});
+    EXPECT_EQ(form->Left(), Twips{1500});
+    EXPECT_EQ(form->Top(), Twips{1515});
+    form->Move({-150}, {-300});
     EXPECT_EQ(form->pos(), QPoint(-10, -20));
-    EXPECT_EQ(form->Left(), -150);
-    EXPECT_EQ(form->Top(), -300);
+    EXPECT_EQ(form->Left(), Twips{-150});
+    EXPECT_EQ(form->Top(), Twips{-300});
 }
 
 TEST_F(Forms, KeepTheirPlaceWhileHidden) {
-    form->Move(600, 450);
+    form->Move({600}, {450});
     show();
     form->Hide();
     EXPECT_FALSE(form->Visible());
-    EXPECT_EQ(form->Left(), 600);
+    EXPECT_EQ(form->Left(), Twips{600});
     show();
-    EXPECT_EQ(form->Left(), 600);
-    EXPECT_EQ(form->Top(), 450);
+    EXPECT_EQ(form->Left(), Twips{600});
+    EXPECT_EQ(form->Top(), Twips{450});
 }
 
 TEST_F(Forms, OfferNoMaximising) {
@@ -82,7 +82,7 @@ TEST_F(Forms, OfferNoMaximising) {
 
 TEST_F(Forms, CountStepsOfSizeFromTheirSize) {
     show();
-    form->SetSize(1515, 1500);
+    form->SetSize({101, 100});
     EXPECT_EQ(form->windowHandle()->baseSize(), QSize(101, 100));
 }
 

@@ -53,13 +53,15 @@ protected:
         for (int number = 0; number < mainWindowCount; ++number)
             settings += QStringLiteral("[%1]\nLeft=%2\nTop=%3\n")
                             .arg(QLatin1String(sections[number]))
-                            .arg(ToTwips(places[number].x()))
-                            .arg(ToTwips(places[number].y()))
+                            .arg(ToTwips(places[number].x()).count)
+                            .arg(ToTwips(places[number].y()).count)
                             .toUtf8();
         writeFile(settingsPath(), settings);
     }
 
-    static MainWindow& window(int number) { return *ChangeCals::LoadedWindow(number); }
+    static MainWindow& window(int number) {
+        return *ChangeCals::LoadedWindow(static_cast<MainWindowNumber>(number));
+    }
 
     static MSFlexGrid& grid(int number, const char* name = "MSFlexGrid1") {
         return *child<MSFlexGrid>(window(number), name);

@@ -143,12 +143,12 @@ TEST_F(About, TheTipIsShownWithTipsOnly) {
 TEST_F(About, StandsAtAThirdOfTheFreeHeightAndHalfTheFreeWidth) {
     load();
     const QSize free = QGuiApplication::primaryScreen()->size() - box->size();
-    const int left = CLng(ToTwips(free.width()) / 2.0).value_or(0);
-    const int top = CLng(ToTwips(free.height()) / 3.0).value_or(0);
-    EXPECT_EQ(box->pos(), QPoint(ToPixels(left), ToPixels(top)));
+    const int left = CLng(ToTwips(free.width()).count / 2.0).value_or(0);
+    const int top = CLng(ToTwips(free.height()).count / 3.0).value_or(0);
+    EXPECT_EQ(box->pos(), QPoint(ToPixels({left}), ToPixels({top})));
     show();
-    EXPECT_NEAR(box->Left(), left, twipsPerPixel);
-    EXPECT_NEAR(box->Top(), top, twipsPerPixel);
+    EXPECT_NEAR(box->Left().count, left, twipsPerPixel);
+    EXPECT_NEAR(box->Top().count, top, twipsPerPixel);
 }
 
 TEST_F(About, EscClosesIt) {

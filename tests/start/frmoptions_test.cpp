@@ -46,8 +46,10 @@ TEST_F(Options, ListsTheCalendarsInTheOrderOfThePanes) {
 TEST_F(Options, StandsAtAThirdOfTheFreeHeight) {
     open();
     const QSize free = QGuiApplication::primaryScreen()->size() - dialog->size();
-    EXPECT_NEAR(dialog->Left(), CLng(ToTwips(free.width()) / 2.0).value_or(0), twipsPerPixel);
-    EXPECT_NEAR(dialog->Top(), CLng(ToTwips(free.height()) / 3.0).value_or(0), twipsPerPixel);
+    EXPECT_NEAR(dialog->Left().count, CLng(ToTwips(free.width()).count / 2.0).value_or(0),
+                twipsPerPixel);
+    EXPECT_NEAR(dialog->Top().count, CLng(ToTwips(free.height()).count / 3.0).value_or(0),
+                twipsPerPixel);
     close();
 }
 

@@ -32,11 +32,11 @@ protected:
     void store(const QByteArray& lines) const { writeFile(settingsPath(), lines); }
 
     template <typename Widget>
-    Widget* inWindow(int number, const char* name) {
+    Widget* inWindow(MainWindowNumber number, const char* name) {
         return child<Widget>(*ChangeCals::LoadedWindow(number), name);
     }
 
-    QString closeTip(int number) {
+    QString closeTip(MainWindowNumber number) {
         const char* name = number == MonthlyWindowNumber ? "Command1_5" : "Command1_6";
         return inWindow<CommandButton>(number, name)->toolTip();
     }
@@ -70,13 +70,16 @@ TEST_P(StartupWindows, OnlyTheOneStoredIsShown) {
     store("[Startup]\nWindow=" + QByteArray::number(GetParam()) + "\n");
     ASSERT_TRUE(Start::Main());
     processEvents();
-    for (int number = 1; number <= mainWindowCount; ++number)
+    for (const MainWindowNumber number : mainWindows)
         EXPECT_NE(ChangeCals::LoadedWindow(number), nullptr) << number;
     EXPECT_EQ(visibleWindows(), expectedWindows());
     EXPECT_EQ(CurrentWindow, GetParam());
     EXPECT_EQ(StartupWindow, GetParam());
-    for (int number = 1; number <= MonthlyWindowNumber; ++number)
-        EXPECT_EQ(closeTip(number), QStringLiteral("Exit")) << number;
+    for (const MainWindowNumber number : mainWindows) {
+        if (number != MoonWindowNumber) {
+            EXPECT_EQ(closeTip(number), QStringLiteral("Exit")) << number;
+        }
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Stored, StartupWindows, testing::Values(0, 1, 2, 3, 4, 9, -1),
@@ -123,7 +126,7 @@ TEST_F(Starting, ABadSettingEndsItBeforeAnyWindow) {
     store("[Startup]\nWindow=abc\n");
     EXPECT_FALSE(Start::Main());
     EXPECT_EQ(m_messages.take().size(), 1);
-    for (int number = 1; number <= mainWindowCount; ++number)
+    for (const MainWindowNumber number : mainWindows)
         EXPECT_EQ(ChangeCals::LoadedWindow(number), nullptr) << number;
     EXPECT_EQ(visibleWindows(), QStringList());
     EXPECT_EQ(splash.seconds, 0);
@@ -132,7 +135,7 @@ TEST_F(Starting, ABadSettingEndsItBeforeAnyWindow) {
 TEST_F(Starting, WithoutTipsThereAreNone) {
     store("[Startup]\nShowTips=0\n");
     ASSERT_TRUE(Start::Main());
-    for (int number = 1; number <= mainWindowCount; ++number) {
+    for (const MainWindowNumber number : mainWindows) {
         for (const QWidget* control : ChangeCals::LoadedWindow(number)->findChildren<QWidget*>())
             EXPECT_EQ(control->toolTip(), QString())
                 << number << ' ' << control->objectName().toStdString();
@@ -172,9 +175,10 @@ TEST_F(Starting, WindowsStandWhereTheSettingsPutThem) {
     store("[Monthly]\nTop=600\nLeft=750\n[Moon]\nTop=32737\nLeft=300\n");
     ASSERT_TRUE(Start::Main());
     MainWindow* monthly = ChangeCals::LoadedWindow(MonthlyWindowNumber);
-    EXPECT_EQ(monthly->Top(), 600);
-    EXPECT_EQ(monthly->Left(), 750);
-    EXPECT_NE(ChangeCals::LoadedWindow(MoonWindowNumber)->Left(), 300) << "half a place is none";
+    EXPECT_EQ(monthly->Top(), Twips{600});
+    EXPECT_EQ(monthly->Left(), Twips{750});
+    EXPECT_NE(ChangeCals::LoadedWindow(MoonWindowNumber)->Left(), Twips{300})
+        << "half a place is none";
 }
 
 // A session that ends asks the toolkit, which asks each window.
@@ -233,7 +237,7 @@ TEST_F(Starting, GridsShowAllTheirCells) {
     ASSERT_TRUE(Start::Main());
     ChangeCals::OpenYearWindowsOfPanes();
     processEvents();
-    for (int number = 1; number <= MonthlyWindowNumber; ++number) {
+    for (const MainWindowNumber number : mainWindows) {
         for (const MSFlexGrid* grid :
              ChangeCals::LoadedWindow(number)->findChildren<MSFlexGrid*>()) {
             EXPECT_EQ(grid->horizontalScrollBar()->maximum(), 0) << number;

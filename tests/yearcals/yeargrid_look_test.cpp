@@ -2,10 +2,12 @@
 // How a year grid looks: the mark that moves, the pointer while a year is filled
 // in, and what the other windows are told of who changed the day.
 #include "yearcals/year_test.h"
+#include "yearcals/yeargrid.h"
 
 #include <QAbstractItemModel>
 #include <QCursor>
 #include <QGuiApplication>
+#include <QSignalSpy>
 #include <utility>
 
 namespace {
@@ -219,6 +221,22 @@ TEST_F(YearGridLook, TheJewishWindowIsLeftAloneWhileItIsMinimisedOrMaximised) {
         ChangeCals::ChangeCal(Jewish);
         window.setWindowState(Qt::WindowNoState);
         EXPECT_TRUE(waitUntil([&window] { return window.width() == 507; }));
+    }
+}
+
+TEST_F(YearGridLook, TheJewishGridTellsOfItsSizeWhenItChanges) {
+    setDate(Jewish, 1, 1, 5784);
+    ChangeCals::ChangeCal(Jewish);
+    open(Jewish);
+    QSignalSpy fitted(child<YearGrid>(year(Jewish), "MSFlexGrid1"), &YearGrid::Fitted);
+    const struct {
+        int year;
+        int told;
+    } rows[] = {{5785, 1}, {5786, 1}, {5787, 2}, {5786, 3}};
+    for (const auto& row : rows) {
+        setDate(Jewish, 1, 1, row.year);
+        ChangeCals::ChangeCal(Jewish);
+        EXPECT_EQ(fitted.count(), row.told) << row.year;
     }
 }
 

@@ -152,10 +152,10 @@ TEST_F(YearGrids, SizesAreTheDesignedOnes) {
     const MSFlexGrid& days = grid(Moslem);
     EXPECT_EQ(days.size(), QSize(387, 466));
     EXPECT_EQ(year(Moslem).size(), QSize(389, 518));
-    EXPECT_EQ(days.ColWidth(0), 345);
-    EXPECT_EQ(days.ColWidth(18), 300);
+    EXPECT_EQ(days.ColWidth(0), Twips{345});
+    EXPECT_EQ(days.ColWidth(18), Twips{300});
     for (int row = 0; row < 32; ++row)
-        EXPECT_EQ(days.RowHeight(row), row % 8 == 0 ? 360 : 195);
+        EXPECT_EQ(days.RowHeight(row), Twips{row % 8 == 0 ? 360 : 195});
     EXPECT_EQ(days.Rows(), 32);
     EXPECT_EQ(days.Cols(), 19);
     EXPECT_EQ(grid(Jewish).Cols(), 25);
