@@ -82,8 +82,4 @@ int LeadingBlanks(int c, int month);
 /// Months of the current year of calendar c.
 int MonthsInYear(int c);
 
-/// Where the chosen day lies to what calendar c can show.
-bool IsBeforeRange(int c);
-bool IsAfterRange(int c);
-
 } // namespace Calc

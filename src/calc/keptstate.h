@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "calc/range.h"
 #include "calc/state.h"
 #include "shared/texts.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "controls/clipboardtext.h"
 
-#include "calc/calc.h"
+#include "calc/range.h"
 #include "calc/state.h"
 #include "platform/numbers.h"
 #include "platform/text.h"
@@ -17,7 +17,7 @@ QString line(const std::string& name, const QString& value) {
 
 QString dateIn(int c) {
     return QStringLiteral("%1 %2 %3")
-        .arg(QString::number(CurDate(c, Day)), Isolated(Text(MonthNames(c, CurDate(c, Month)))),
+        .arg(QString::number(CurDate(c, Day)), AmidNumbers(Text(MonthNames(c, CurDate(c, Month)))),
              QString::number(CurDate(c, Year)));
 }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "controls/spokenday.h"
 
-#include "calc/calc.h"
+#include "calc/range.h"
 #include "calc/state.h"
 #include "platform/text.h"
 #include "shared/texts.h"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "controls/yearlist.h"
 
+#include "calc/range.h"
 #include "calc/state.h"
 #include "changecals/changecals.h"
 #include "shared/flags.h"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "monthly/commoninfo.h"
 
+#include "calc/range.h"
 #include "calc/state.h"
 #include "changecals/changecals.h"
 #include "controls/tips.h"
@@ -128,7 +129,7 @@ int CommonInfo::moonAgeWidth() const {
 // either case the refill puts the lists right.
 void CommonInfo::moveBy(double days) {
     const int moved = CLng(days + CurJD).value_or(CurJD);
-    const bool isTooLow = moved < MinJD(Jewish);
+    const bool isTooLow = moved < Calc::LowestDay();
     if (isTooLow)
         Beep();
     ChangeCals::ChooseJulianDay(isTooLow ? CurJD : moved, MonthlyWindowNumber);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "monthly/juliandayfield.h"
 
+#include "calc/range.h"
 #include "calc/state.h"
 #include "changecals/changecals.h"
 #include "changecals/windows.h"
@@ -20,18 +21,9 @@
 
 namespace {
 
-// The Jewish range is the widest; this is the field's in every pane.
-int lowestDay() {
-    return MinJD(Jewish);
-}
-
-int highestDay() {
-    return MaxJD(Jewish);
-}
-
 QString rangeText() {
     return Text(StringTexts(JulianDayRangeText)) + LineBreak() +
-           QStringLiteral("%1 \u2014 %2").arg(lowestDay()).arg(highestDay());
+           QStringLiteral("%1 \u2014 %2").arg(Calc::LowestDay()).arg(Calc::HighestDay());
 }
 
 // A popup is not leaving the field; of another window its activation tells.
@@ -56,7 +48,7 @@ JulianDayField::JulianDayField(const QString& name, QWidget* parent) : ComboBox(
 }
 
 int JulianDayField::OwnWidth() const {
-    return WidthFor(QString::number(MaxJD(Jewish)));
+    return WidthFor(QString::number(Calc::HighestDay()));
 }
 
 QString JulianDayField::Answer() const {
@@ -169,7 +161,7 @@ void JulianDayField::accept() {
 // Nothing when the number is none that the program can show.
 std::optional<int> JulianDayField::typedDay() const {
     const double number = Val(Text());
-    if (number < lowestDay() || number > highestDay())
+    if (number < Calc::LowestDay() || number > Calc::HighestDay())
         return std::nullopt;
     return CLng(number);
 }

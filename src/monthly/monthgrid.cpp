@@ -2,6 +2,7 @@
 #include "monthly/monthgrid.h"
 
 #include "calc/calc.h"
+#include "calc/range.h"
 #include "calc/state.h"
 #include "changecals/changecals.h"
 #include "changecals/opening.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "monthly/pane.h"
 
-#include "calc/calc.h"
+#include "calc/range.h"
 #include "calc/state.h"
 #include "changecals/changecals.h"
 #include "controls/tips.h"
@@ -98,8 +98,8 @@ bool Pane::HasFocus() const {
 }
 
 void Pane::TakeFocus() {
-    QWidget* heir = ShowsDay() ? static_cast<QWidget*>(m_grid) : m_combo1;
-    heir->setFocus(Qt::ShortcutFocusReason);
+    QWidget* focusNext = ShowsDay() ? static_cast<QWidget*>(m_grid) : m_combo1;
+    focusNext->setFocus(Qt::ShortcutFocusReason);
 }
 
 void Pane::SetTexts() {
@@ -186,7 +186,7 @@ void Pane::setAvailable() {
     const bool visible = IsCalendar(c) && !Calc::IsBeforeRange(c);
     const bool enabled = ShowsDay();
     SetAvailable(*m_grid, visible, enabled, *m_combo1);
-    QWidget& heir = enabled ? static_cast<QWidget&>(*m_grid) : *m_combo1;
+    QWidget& focusNext = enabled ? static_cast<QWidget&>(*m_grid) : *m_combo1;
     for (ComboBox* list : {m_combo2, m_combo3, m_combo4, m_combo5})
-        SetAvailable(*list, visible, enabled, heir);
+        SetAvailable(*list, visible, enabled, focusNext);
 }

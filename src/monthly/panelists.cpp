@@ -16,7 +16,7 @@ QString fraction(int number, int of) {
 
 QString MonthEntry(int c, int month) {
     return fraction(month, Calc::MonthsInYear(c)) + QStringLiteral("  ") +
-           Isolated(Text(MonthNames(c, month)));
+           AmidNumbers(Text(MonthNames(c, month)));
 }
 
 QString DayEntry(int c, int day) {
@@ -41,7 +41,7 @@ QStringList EntriesOfAllMonths() {
                        return MonthEntry(c, month);
                    }).texts;
     return entries << fraction(7, 13) + QStringLiteral("  ") +
-                          Isolated(Text(AdarName + AdarSuffixes(2)));
+                          AmidNumbers(Text(AdarName + AdarSuffixes(2)));
 }
 
 ListEntries MonthEntries(int c) {

@@ -3,10 +3,10 @@
 
 #include <QWidget>
 
-void SetAvailable(QWidget& control, bool visible, bool enabled, QWidget& heir) {
+void SetAvailable(QWidget& control, bool visible, bool enabled, QWidget& focusNext) {
     const bool hasFocus = control.window()->focusWidget() == &control;
     if (hasFocus && !(visible && enabled))
-        heir.setFocus();
+        focusNext.setFocus();
     control.setVisible(visible);
     control.setEnabled(enabled);
 }

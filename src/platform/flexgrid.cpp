@@ -259,7 +259,7 @@ void MSFlexGrid::announceChanges() {
     std::vector<QPoint> changed = std::exchange(m_changedCells, {});
     changed.erase(
         std::remove_if(changed.begin(), changed.end(),
-                       [this](QPoint cell) { return !m_model->Publish(cell.y(), cell.x()); }),
+                       [this](QPoint cell) { return !m_model->TakeChange(cell.y(), cell.x()); }),
         changed.end());
     for (const int row : m_mergeRows) {
         if (std::any_of(changed.begin(), changed.end(),
@@ -275,13 +275,13 @@ void MSFlexGrid::announceChanges() {
 void MSFlexGrid::repaintCells(const std::vector<QPoint>& cells) {
     if (cells.size() <= fewCells) {
         for (const QPoint cell : cells)
-            m_model->Announce(cell.y(), cell.x(), cell.y(), cell.x());
+            m_model->TellViews(cell.y(), cell.x(), cell.y(), cell.x());
         return;
     }
     QRect all;
     for (const QPoint cell : cells)
         all |= QRect(cell, cell);
-    m_model->Announce(all.top(), all.left(), all.bottom(), all.right());
+    m_model->TellViews(all.top(), all.left(), all.bottom(), all.right());
 }
 
 void MSFlexGrid::showSelected() {

@@ -6,7 +6,7 @@ GridModel::GridModel(int rows, int columns, QObject* parent)
       m_rows(rows),
       m_columns(columns),
       m_cells(static_cast<std::size_t>(rows * columns)),
-      m_published(m_cells) {}
+      m_taken(m_cells) {}
 
 int GridModel::rowCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : m_rows;
@@ -43,15 +43,15 @@ void GridModel::SetCell(int row, int column, const GridCell& cell) {
         m_cells[offset(row, column)] = cell;
 }
 
-bool GridModel::Publish(int row, int column) {
+bool GridModel::TakeChange(int row, int column) {
     const std::size_t at = offset(row, column);
-    if (m_published[at] == m_cells[at])
+    if (m_taken[at] == m_cells[at])
         return false;
-    m_published[at] = m_cells[at];
+    m_taken[at] = m_cells[at];
     return true;
 }
 
-void GridModel::Announce(int top, int left, int bottom, int right) {
+void GridModel::TellViews(int top, int left, int bottom, int right) {
     Q_EMIT dataChanged(index(top, left), index(bottom, right));
 }
 

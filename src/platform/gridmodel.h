@@ -23,7 +23,7 @@ struct GridCell {
 };
 
 /// The cells of a grid. They are changed through SetCell, which tells nobody;
-/// Publish finds out what is new, and Announce tells the views.
+/// TakeChange finds out what is new, and TellViews lets it be shown.
 class GridModel : public QAbstractTableModel {
     Q_OBJECT
 
@@ -41,11 +41,11 @@ public:
     const GridCell& Cell(int row, int column) const;
     void SetCell(int row, int column, const GridCell& cell);
 
-    /// Whether a cell is other than when it was last published.
-    bool Publish(int row, int column);
+    /// Whether a cell is other than when this was last asked of it.
+    bool TakeChange(int row, int column);
 
     /// Cells of this rectangle have changed.
-    void Announce(int top, int left, int bottom, int right);
+    void TellViews(int top, int left, int bottom, int right);
 
     /// What an assistive tool says of a cell; its text where there is none.
     std::function<QString(int row, int column)> accessibleText;
@@ -56,5 +56,5 @@ private:
     int m_rows;
     int m_columns;
     std::vector<GridCell> m_cells;
-    std::vector<GridCell> m_published;
+    std::vector<GridCell> m_taken;
 };

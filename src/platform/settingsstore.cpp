@@ -113,9 +113,9 @@ bool LoadSettings() {
     return bytes.has_value();
 }
 
-QString GetSetting(const QString& section, const QString& key, const QString& standard) {
+QString GetSetting(const QString& section, const QString& key, const QString& whenAbsent) {
     const auto value = settings.Value(section.toUtf8(), key.toUtf8(), IniFile::Which::Last);
-    return value ? ReadSettingValue(*value) : standard;
+    return value ? ReadSettingValue(*value) : whenAbsent;
 }
 
 void SaveSetting(const QString& section, const QString& key, const QString& value) {

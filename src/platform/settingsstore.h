@@ -11,8 +11,8 @@
 /// every key is absent, and nothing is written over it.
 bool LoadSettings();
 
-/// The text that was loaded or saved since, or `standard` when the key is absent.
-QString GetSetting(const QString& section, const QString& key, const QString& standard);
+/// The text that was loaded or saved since, or `whenAbsent` when the key is absent.
+QString GetSetting(const QString& section, const QString& key, const QString& whenAbsent);
 
 /// Creates or overwrites a key; it is on disk after the next FlushSettings.
 void SaveSetting(const QString& section, const QString& key, const QString& value);

@@ -27,7 +27,7 @@ QString PlainTip(const QString& text) {
     return Qt::mightBeRichText(text) ? text.toHtmlEscaped() : text;
 }
 
-QString Isolated(const QString& name) {
+QString AmidNumbers(const QString& name) {
     constexpr QChar firstStrongIsolate(0x2068);
     constexpr QChar popIsolate(0x2069);
     return name.isRightToLeft() ? firstStrongIsolate + name + popIsolate : name;

@@ -22,7 +22,7 @@ QString PlainTip(const QString& text);
 
 /// A name for a line with numbers: isolated where it runs right to left, so that
 /// the numbers beside it neither join nor split it.
-QString Isolated(const QString& name);
+QString AmidNumbers(const QString& name);
 
 /// A text as it is spoken: without marks of direction, and without a letter of
 /// another script amid Latin ones.

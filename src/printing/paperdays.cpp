@@ -3,6 +3,7 @@
 
 #include "calc/calc.h"
 #include "calc/keptstate.h"
+#include "calc/range.h"
 #include "calc/state.h"
 #include "changecals/changecals.h"
 #include "platform/text.h"

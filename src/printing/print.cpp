@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "printing/print.h"
 
-#include "calc/calc.h"
+#include "calc/range.h"
 #include "platform/beep.h"
 #include "platform/message.h"
 #include "platform/program.h"

@@ -14,7 +14,7 @@ enum class SettingGroup { PaneCalendars, Options, Positions };
 struct Setting {
     QString section;
     QString key;
-    QString standard;
+    QString whenAbsent;
     std::variant<int*, std::string*> value; ///< numbers have 16 bits
     SettingGroup group;
     int turn = 0; ///< among those of its group; the lowest is saved first

@@ -32,7 +32,7 @@ bool take(const QString& text, int* value) {
 }
 
 bool read(const Setting& row) {
-    const QString text = GetSetting(row.section, row.key, row.standard);
+    const QString text = GetSetting(row.section, row.key, row.whenAbsent);
     const bool taken = std::visit([&text](auto* value) { return take(text, value); }, row.value);
     if (!taken)
         tellNoNumber(row, text);

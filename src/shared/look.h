@@ -5,13 +5,11 @@
 
 // What the windows share of their look. Colours are 0x00BBGGRR numbers.
 
-/// Entries of CalendarColors and TextColors beyond the calendars' own.
-enum ColorEntry : int {
-    ChosenDayBackground = 5, ///< of CalendarColors
-    OrdinaryText = 1,        ///< of TextColors
-    TitleText = 2,           ///< of TextColors
-    ChosenDayText = 3,       ///< of TextColors
-};
+/// The entry of CalendarColors behind the calendars' own.
+inline constexpr int ChosenDayBackground = 5;
+
+/// Entries of TextColors.
+enum TextColor : int { OrdinaryText = 1, TitleText, ChosenDayText };
 
 /// Cell backgrounds: Julian white, Gregorian light cyan, Jewish light yellow,
 /// Moslem light green, and red for the chosen day.

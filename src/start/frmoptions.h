@@ -34,7 +34,7 @@ private:
     };
 
     /// Command1 by index.
-    enum Command : int { Apply = 1, Close = 2 };
+    enum Button : int { Apply = 1, Close = 2 };
 
     void Form_Load();
     void Command1_Click(int index);

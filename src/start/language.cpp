@@ -117,10 +117,10 @@ void LoadLanguage(std::string& name) {
 }
 
 std::string ReadLngString(const ProfileFile& file, const char* section, int key,
-                          const std::string& standard) {
+                          const std::string& whenAbsent) {
     const QByteArray bytes = file.GetPrivateProfileString(section, Str(key).toUtf8(), bufferSize);
     if (bytes.isEmpty())
-        return standard;
+        return whenAbsent;
     QString text = file.Decode(bytes);
     while (text.endsWith(u' '))
         text.chop(1);

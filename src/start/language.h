@@ -12,9 +12,9 @@ class ProfileFile;
 /// and `name` becomes englishLanguage.
 void LoadLanguage(std::string& name);
 
-/// The entry of a language file, or `standard` where the file has none.
+/// The entry of a language file, or `whenAbsent` where the file has none.
 std::string ReadLngString(const ProfileFile& file, const char* section, int key,
-                          const std::string& standard);
+                          const std::string& whenAbsent);
 
 /// The name under which a language's file is listed: the first letter large, the
 /// others small.

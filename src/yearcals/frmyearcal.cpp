@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "yearcals/frmyearcal.h"
 
+#include "calc/range.h"
 #include "calc/state.h"
 #include "changecals/changecals.h"
 #include "changecals/closing.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "yearcals/yearcals.h"
 
-#include "calc/calc.h"
+#include "calc/range.h"
 #include "calc/state.h"
 #include "controls/yearlist.h"
 #include "platform/availability.h"
@@ -14,21 +14,21 @@
 namespace {
 
 void hideYear(const YearCals::YearControls& controls) {
-    SetAvailable(controls.grid, false, true, controls.heir);
+    SetAvailable(controls.grid, false, true, controls.focusNext);
     controls.selector.Clear();
-    SetAvailable(controls.selector, true, false, controls.heir);
-    SetAvailable(controls.previousYear, true, false, controls.heir);
-    SetAvailable(controls.nextYear, true, false, controls.heir);
+    SetAvailable(controls.selector, true, false, controls.focusNext);
+    SetAvailable(controls.previousYear, true, false, controls.focusNext);
+    SetAvailable(controls.nextYear, true, false, controls.focusNext);
 }
 
 // The way back from beyond the range stays open.
 void setAvailable(const YearCals::YearControls& controls, int c) {
     const bool inRange = !Calc::IsAfterRange(c);
-    SetAvailable(controls.grid, true, inRange, controls.heir);
-    QWidget& heir = inRange ? static_cast<QWidget&>(controls.grid) : controls.heir;
-    SetAvailable(controls.selector, true, inRange, heir);
-    SetAvailable(controls.previousYear, true, CurDate(c, Year) != MinYear(c), heir);
-    SetAvailable(controls.nextYear, true, inRange && CurDate(c, Year) != MaxYear(c), heir);
+    SetAvailable(controls.grid, true, inRange, controls.focusNext);
+    QWidget& focusNext = inRange ? static_cast<QWidget&>(controls.grid) : controls.focusNext;
+    SetAvailable(controls.selector, true, inRange, focusNext);
+    SetAvailable(controls.previousYear, true, CurDate(c, Year) != MinYear(c), focusNext);
+    SetAvailable(controls.nextYear, true, inRange && CurDate(c, Year) != MaxYear(c), focusNext);
 }
 
 } // namespace

@@ -18,7 +18,7 @@ struct YearControls {
     CommandButton& previousYear;
     CommandButton& nextYear;
     ButtonStack& moon;
-    QWidget& heir;
+    QWidget& focusNext;
 };
 
 /// Shows the year and the moon's phase of the chosen day in calendar c. A day

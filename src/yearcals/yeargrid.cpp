@@ -123,7 +123,7 @@ void YearGrid::BuildYearGrid() {
 void YearGrid::setTitle(int month) {
     const GridPlace corner = CornerOf(month);
     const QString title =
-        QStringLiteral("(%1)  ").arg(month) + Isolated(Text(MonthNames(Calendar(), month)));
+        QStringLiteral("(%1)  ").arg(month) + AmidNumbers(Text(MonthNames(Calendar(), month)));
     for (int column = corner.column; column < corner.column + monthColumns; ++column) {
         SetTextMatrix(corner.row - 1, column, title);
         SetRow(corner.row - 1);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "calc/range.h"
 #include "support/state.h"
 
 constexpr int unixEpoch = 2440588; // 1 January 1970 Gregorian

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "calc/keptstate.h"
+#include "calc/range.h"
 
 #include "calc/calc_test.h"
 #include "support/texttables.h"

@@ -19,15 +19,15 @@ protected:
     QWidget m_window;
     QLineEdit m_control{&m_window};
     QLineEdit m_next{&m_window};
-    QLineEdit m_heir{&m_window};
+    QLineEdit m_focusNext{&m_window};
 };
 
 TEST_F(Availability, AControlThatGoesHandsItsFocusToItsHeir) {
     for (const bool visible : {true, false}) {
-        SetAvailable(m_control, true, true, m_heir);
+        SetAvailable(m_control, true, true, m_focusNext);
         m_control.setFocus();
-        SetAvailable(m_control, visible, false, m_heir);
-        EXPECT_EQ(m_window.focusWidget(), &m_heir);
+        SetAvailable(m_control, visible, false, m_focusNext);
+        EXPECT_EQ(m_window.focusWidget(), &m_focusNext);
         EXPECT_EQ(m_control.isVisible(), visible);
         EXPECT_FALSE(m_control.isEnabled());
     }
@@ -35,9 +35,9 @@ TEST_F(Availability, AControlThatGoesHandsItsFocusToItsHeir) {
 
 TEST_F(Availability, TheFocusOfOthersStays) {
     m_next.setFocus();
-    SetAvailable(m_control, false, false, m_heir);
+    SetAvailable(m_control, false, false, m_focusNext);
     EXPECT_EQ(m_window.focusWidget(), &m_next);
-    SetAvailable(m_next, true, true, m_heir);
+    SetAvailable(m_next, true, true, m_focusNext);
     EXPECT_EQ(m_window.focusWidget(), &m_next);
 }
 
@@ -46,8 +46,8 @@ TEST_F(Availability, TheFocusIsHandedOnInAWindowThatIsNotActiveToo) {
     other.show();
     other.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
-    SetAvailable(m_control, true, false, m_heir);
-    EXPECT_EQ(m_window.focusWidget(), &m_heir);
+    SetAvailable(m_control, true, false, m_focusNext);
+    EXPECT_EQ(m_window.focusWidget(), &m_focusNext);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "printing/print.h"
 
+#include "calc/range.h"
 #include "printing/printing_test.h"
 #include "support/fulldisk.h"
 #include "support/usualrights.h"
