@@ -13,13 +13,13 @@ import tempfile
 import time
 
 from checks import compile_database
+from checks import floors as floor_plan
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 ASAN = ROOT / "build" / "asan"
 QUICK = ROOT / "build" / "quick"
 PROGRAM = QUICK / "bin"
-ROOMS = ["monthly", "controls", "changecals", "yearcals", "start", "platform", "settings",
-         "calc", "moon", "shared", "printing"]
+ROOMS = [room for rooms in reversed(floor_plan.FLOORS) for room in sorted(rooms)]
 TESTED = ["endurance", *ROOMS, "monitors", "screen"]
 DRAWN = ["monthly", "yearcals", "platform"]
 LINTED = ["src/platform", "src", *[f"src/{room}" for room in sorted(ROOMS) if room != "platform"],

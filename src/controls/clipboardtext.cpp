@@ -3,6 +3,7 @@
 
 #include "calc/range.h"
 #include "calc/state.h"
+#include "controls/spokenday.h"
 #include "platform/numbers.h"
 #include "platform/text.h"
 #include "shared/texts.h"
@@ -16,9 +17,7 @@ QString line(const std::string& name, const QString& value) {
 }
 
 QString dateIn(int c) {
-    return QStringLiteral("%1 %2 %3")
-        .arg(QString::number(CurDate(c, Day)), AmidNumbers(Text(MonthNames(c, CurDate(c, Month)))),
-             QString::number(CurDate(c, Year)));
+    return DateInWords(c, QString::number(CurDate(c, Day)), CurDate(c, Month));
 }
 
 } // namespace

@@ -6,10 +6,15 @@
 #include "platform/text.h"
 #include "shared/texts.h"
 
+QString DateInWords(int c, const QString& day, int month) {
+    return QStringLiteral("%1 %2 %3")
+        .arg(day, AmidNumbers(Text(MonthNames(c, month))), QString::number(CurDate(c, Year)));
+}
+
 QString SpokenDay(int c, int weekday, const QString& day, int month) {
-    return Spoken(QStringLiteral("%1, %2 %3 %4, %5")
-                      .arg(Text(WeekDayNames(weekday)), day, Text(MonthNames(c, month)),
-                           QString::number(CurDate(c, Year)), Text(CalendarNames(c))));
+    return Spoken(
+        QStringLiteral("%1, %2, %3")
+            .arg(Text(WeekDayNames(weekday)), DateInWords(c, day, month), Text(CalendarNames(c))));
 }
 
 QString SpokenChosenDay(int c) {

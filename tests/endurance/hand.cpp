@@ -11,7 +11,6 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QPushButton>
-#include <QWheelEvent>
 #include <algorithm>
 
 std::string Hand::Said() const {
@@ -79,8 +78,17 @@ void Hand::PressByKey(MSFlexGrid& grid) {
     Key(grid, AnyOf(presses));
 }
 
+void Hand::GoOn(Form& window) {
+    const bool back = OneIn(2);
+    Say(back ? "back to another control" : "on to another control");
+    if (QWidget* focus = window.focusWidget())
+        Key(*focus, back ? Qt::Key_Backtab : Qt::Key_Tab);
+}
+
 void Hand::Use(const ListInUse& list) {
     Say(qPrintable(list.box.objectName()), " in ", qPrintable(list.box.window()->objectName()));
+    if (!list.box.hasFocus() && OneIn(4))
+        turnWheel(list.box, OneIn(2));
     list.box.setFocus();
     Key(list.box, Qt::Key_F12); // a list is filled before any key
     EXPECT_EQ(list.box.ListCount(), list.entries);
@@ -89,7 +97,9 @@ void Hand::Use(const ListInUse& list) {
     if (way == 0 && OneIn(4)) // dear
         chooseInPopup(list);
     else if (way < 5)
-        turnWheel(list);
+        turnWheelOn(list);
+    else if (way == 5)
+        typeLetter(list);
     else if (way < 13 && list.firstNumber >= 0)
         typeNumber(list);
     else
@@ -124,13 +134,23 @@ void Hand::typeNumber(const ListInUse& list) {
     list.choose(position);
 }
 
-void Hand::turnWheel(const ListInUse& list) {
+// The next entry that begins with it is chosen.
+void Hand::typeLetter(const ListInUse& list) {
+    int position = list.chosen;
+    for (int step = list.entries - 1; step > 0; --step) {
+        const int other = (list.chosen + step) % list.entries;
+        if (list.box.itemText(other).startsWith(u'm', Qt::CaseInsensitive))
+            position = other;
+    }
+    Say("  typed m");
+    Key(list.box, Qt::Key_M);
+    list.choose(position);
+}
+
+void Hand::turnWheelOn(const ListInUse& list) {
     const bool up = OneIn(2);
     Say("  wheel ", up ? "up" : "down");
-    const QPointF at = list.box.rect().center();
-    QWheelEvent event(at, list.box.mapToGlobal(at), {}, {0, up ? 120 : -120}, Qt::NoButton, {},
-                      Qt::NoScrollPhase, false);
-    QApplication::sendEvent(&list.box, &event);
+    turnWheel(list.box, up);
     list.choose(std::clamp(list.chosen + (up ? -1 : 1), 0, list.entries - 1));
 }
 

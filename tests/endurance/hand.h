@@ -92,13 +92,18 @@ public:
     /// Presses the current cell of a grid by a key.
     void PressByKey(MSFlexGrid& grid);
 
-    /// Uses a list in any way: by keys, a typed number, the wheel or its popup.
+    /// Goes on to the next control or back to the one before.
+    void GoOn(Form& window);
+
+    /// Uses a list in any way: by keys, a typed number or letter, the wheel or its popup.
+    /// A wheel that is turned before the list has the focus does nothing.
     void Use(const ListInUse& list);
 
 private:
     void moveInList(const ListInUse& list);
     void typeNumber(const ListInUse& list);
-    void turnWheel(const ListInUse& list);
+    void typeLetter(const ListInUse& list);
+    void turnWheelOn(const ListInUse& list);
     void chooseInPopup(const ListInUse& list);
 
     static constexpr std::size_t remembered = 12;

@@ -95,7 +95,7 @@ void Judge::lookAtYearCells(int c) {
     auto& grid = m_controls.Of<MSFlexGrid>(c, QStringLiteral("MSFlexGrid1"));
     const YearAndDay in = m_expected.In(c);
     for (int month = 1; month <= in.months; ++month) {
-        const GridPlace corner = Layout::CornerInYear(c, in.months, month);
+        const GridPlace corner = cornerOnSheet(c, in.months, month);
         lookAtBlock(grid, c, {1, month, in.date.year}, corner);
         const QString title = grid.TextMatrix(corner.row - 1, corner.column);
         EXPECT_TRUE(title.startsWith(QStringLiteral("(%1)  ").arg(month))) << qPrintable(title);

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "endurance/expected.h"
-#include "platform/gridmodel.h"
+#include "support/yearsheet.h"
 
 #include <optional>
 
@@ -14,16 +14,6 @@ namespace Layout {
 inline GridPlace InMonth(const Expected& expected, int c, const Reckoning::Date& date) {
     const int place = expected.LeadingBlanks(c, date.year, date.month) + date.day - 1;
     return {place % daysInWeek, 1 + place / daysInWeek};
-}
-
-/// The upper left cell of a month's days in a year's grid: three months beside one
-/// another, in a Jewish leap year a fourth in the second band.
-inline GridPlace CornerInYear(int c, int months, int month) {
-    const bool leap = c == Jewish && months == 13;
-    if (leap && month == 7)
-        return {9, 19};
-    const int place = leap && month > 7 ? month - 2 : month - 1;
-    return {place / 3 * 8 + 1, place % 3 * 6 + 1};
 }
 
 /// The Julian Day in a cell, of those of a month whose days begin at a corner.
@@ -48,7 +38,7 @@ inline std::optional<int> DayInMonth(const Expected& expected, int c, GridPlace 
 inline std::optional<int> DayInYear(const Expected& expected, int c, GridPlace cell) {
     const YearAndDay in = expected.In(c);
     for (int month = 1; month <= in.months; ++month) {
-        const GridPlace corner = CornerInYear(c, in.months, month);
+        const GridPlace corner = cornerOnSheet(c, in.months, month);
         const auto day = DayAt(expected, c, {1, month, in.date.year}, corner, cell);
         if (day)
             return day;
@@ -58,7 +48,7 @@ inline std::optional<int> DayInYear(const Expected& expected, int c, GridPlace c
 
 inline GridPlace InYear(const Expected& expected, int c, const Reckoning::Date& date) {
     const int months = expected.Rules().MonthsIn(c, date.year);
-    const GridPlace corner = CornerInYear(c, months, date.month);
+    const GridPlace corner = cornerOnSheet(c, months, date.month);
     const GridPlace cell = InMonth(expected, c, date);
     return {corner.row + cell.row, corner.column + cell.column - 1};
 }

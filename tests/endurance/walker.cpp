@@ -54,6 +54,8 @@ void Walker::playThere() {
         m_windows.PressCommandKey(form(m_place));
     else if (m_place <= MonthlyWindowNumber && m_hand.OneIn(60))
         m_windows.PressCommand(m_place);
+    else if (m_hand.OneIn(60))
+        m_hand.GoOn(form(m_place));
     else if (m_place == MonthlyWindowNumber)
         m_monthly.Play();
     else if (m_place == MoonWindowNumber)

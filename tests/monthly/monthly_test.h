@@ -150,7 +150,7 @@ private:
         return child<Widget>(window(), qPrintable(name.arg(index)));
     }
 
-    // Once: the long walk looks at every control after every action.
+    // Once, as tests look at every control after every action.
     static void findControls() {
         for (int pane = 1; pane <= paneCount; ++pane) {
             m_grids(pane) = control<MSFlexGrid>(QStringLiteral("MSFlexGrid1_%1"), pane);

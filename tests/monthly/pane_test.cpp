@@ -4,19 +4,10 @@
 #include "monthly/monthly_test.h"
 #include "platform/settingsstore.h"
 
-#include <QWheelEvent>
-
 namespace {
 
 class Selectors : public MonthlyTest {
 protected:
-    static void turnWheel(QWidget& widget) {
-        const QPointF at = widget.rect().center();
-        QWheelEvent event(at, widget.mapToGlobal(at), {}, {0, -120}, Qt::NoButton, {},
-                          Qt::NoScrollPhase, false);
-        QApplication::sendEvent(&widget, &event);
-    }
-
     static QString storedCalendars() {
         QStringList stored;
         for (int pane = 1; pane <= paneCount; ++pane)

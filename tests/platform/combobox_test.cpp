@@ -107,7 +107,7 @@ TEST_F(Combo, ClosingTheListWithoutAChoiceIsNoClick) {
 
 TEST_F(Combo, TheWheelWithoutTheFocusChangesNothing) {
     show();
-    turnWheel();
+    turnWheel(*list);
     EXPECT_EQ(list->ListIndex(), 0);
     EXPECT_EQ(clicks, 0);
     EXPECT_FALSE(list->hasFocus());
@@ -141,7 +141,8 @@ TEST_F(Combo, AShortListIsFilledBeforeEveryUse) {
     show();
     focusList();
     const std::vector<std::function<void()>> uses{[this] { QTest::keyClick(list, Qt::Key_Down); },
-                                                  [this] { turnWheel(); }, [this] { type("2027"); },
+                                                  [this] { turnWheel(*list); },
+                                                  [this] { type("2027"); },
                                                   [this] {
                                                       list->showPopup();
                                                       list->hidePopup();

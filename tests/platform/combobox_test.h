@@ -6,7 +6,6 @@
 
 #include <QAbstractItemView>
 #include <QLineEdit>
-#include <QWheelEvent>
 
 class Combo : public PlatformTest {
 protected:
@@ -38,13 +37,6 @@ protected:
         const QRect entry = view->visualRect(view->model()->index(position, 0));
         QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, entry.center());
         ASSERT_TRUE(waitUntil([this] { return !isOpen(); }));
-    }
-
-    void turnWheel() {
-        const QPointF middle = list->rect().center();
-        QWheelEvent event(middle, list->mapToGlobal(middle), {}, {0, -120}, Qt::NoButton, {},
-                          Qt::NoScrollPhase, false);
-        QCoreApplication::sendEvent(list, &event);
     }
 
     /// The years 1..3000, filled in on use, with `chosen` shown.

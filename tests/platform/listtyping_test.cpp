@@ -189,7 +189,7 @@ TEST_F(TypedNumber, EverythingElseBeginsAnew) {
         {"a letter", [this] { QTest::keyClick(list, Qt::Key_M); }},
         {"a command", [this] { QTest::keyClick(list, Qt::Key_T, Qt::ControlModifier); }},
         {"a command without Ctrl", [this] { QTest::keyClick(list, Qt::Key_F1); }},
-        {"the wheel", [this] { turnWheel(); }},
+        {"the wheel", [this] { turnWheel(*list); }},
         {"a press", [this] { QTest::mousePress(list, Qt::RightButton); }},
         {"the focus",
          [this] {

@@ -9,6 +9,7 @@
 #include <QDir>
 #include <QFile>
 #include <QMessageBox>
+#include <QWheelEvent>
 #include <utility>
 
 bool waitUntil(const std::function<bool()>& condition) {
@@ -60,6 +61,13 @@ void MessageWatch::answer() {
 
 void click(QWidget* widget, Qt::MouseButton button) {
     QTest::mouseClick(widget, button);
+}
+
+void turnWheel(QWidget& widget, bool up) {
+    const QPointF at = widget.rect().center();
+    QWheelEvent event(at, widget.mapToGlobal(at), {}, {0, up ? 120 : -120}, Qt::NoButton, {},
+                      Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&widget, &event);
 }
 
 Desk::Desk() {

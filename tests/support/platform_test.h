@@ -57,6 +57,9 @@ private:
 /// Clicks in the middle of a widget.
 void click(QWidget* widget, Qt::MouseButton button = Qt::LeftButton);
 
+/// Turns the wheel by one step over the middle of a widget.
+void turnWheel(QWidget& widget, bool up = false);
+
 /// What a test has in the desktop's place while it lives: a settings folder and a
 /// program folder of its own, no end of the process, no beep, no message that the
 /// test does not ask for.

@@ -10,6 +10,7 @@
 #include "shared/look.h"
 #include "support/recording_windows.h"
 #include "support/widget_test.h"
+#include "support/yearsheet.h"
 #include "yearcals/frmyearcal.h"
 
 /// The four year windows, the others recording; 20 November 2026 is chosen.
@@ -43,14 +44,11 @@ protected:
         FirstOtherCalendar
     };
 
-    /// Where a day of a month stands, worked out from the month's place in the
-    /// sheet and not by the layout's own rules.
+    /// Where a day of a month stands.
     static GridPlace cellOf(int c, int month, int day) {
-        const bool leap = c == Jewish && JewishLeap;
-        const int place = month - 1 - (leap && month >= 7 ? 1 : 0);
-        const int left = leap && month == 7 ? 19 : place % 3 * 6 + 1;
+        const GridPlace corner = cornerOnSheet(c, c == Jewish && JewishLeap ? 13 : 12, month);
         const int lead = (MonthDays(c, 13 + month) - Calc::WeekStart(c) + 7) % 7;
-        return {place / 3 * 8 + 1 + (lead + day - 1) % 7, left + (lead + day - 1) / 7};
+        return {corner.row + (lead + day - 1) % 7, corner.column + (lead + day - 1) / 7};
     }
 
     static void open(int c) {
