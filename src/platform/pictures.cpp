@@ -43,7 +43,8 @@ QPixmap inStyle(QIcon::Mode mode, const QPixmap& pixmap) {
     return QApplication::style()->generatedIconPixmap(mode, pixmap, &option);
 }
 
-// Sizes of pixmaps are in pixels of the device.
+// As sharp as the toolkit's own engine, which neither pales pictures nor draws them once
+// for all windows. Sizes of pixmaps are in pixels of the device.
 class PictureEngine : public QIconEngine {
 public:
     PictureEngine(QString name, Drawing drawing, bool onButton)
