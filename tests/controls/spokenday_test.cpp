@@ -20,6 +20,14 @@ TEST_F(SpokenDays, AreWholeDatesInTheirCalendar) {
               QStringLiteral("Monday, 7 Ramadan 1448, Moslem calendar"));
 }
 
+TEST_F(SpokenDays, KeepNamesFromTheRightApartFromNumbersWhereTheyAreSeen) {
+    MonthNames(Gregorian, 11) = "\u05D0\u05D1";
+    EXPECT_EQ(DateInWords(Gregorian, QStringLiteral("20"), 11),
+              QStringLiteral("20 \u2068\u05D0\u05D1\u2069 2026"));
+    EXPECT_EQ(SpokenDay(Gregorian, 5, QStringLiteral("20"), 11),
+              QStringLiteral("Friday, 20 \u05D0\u05D1 2026, Gregorian calendar"));
+}
+
 TEST_F(SpokenDays, HaveTheMonthsNamesOfALeapYear) {
     CurDate(Jewish, Day) = 1;
     CurDate(Jewish, Month) = 7;
