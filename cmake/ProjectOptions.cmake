@@ -16,8 +16,10 @@ if(ORVALEN_SANITIZE)
     target_link_options(project_options INTERFACE -fsanitize=address,undefined)
 else()
     # Where it was built is told by no program. Debian's flags say so too, but not in
-    # a folder whose name has a blank.
-    target_compile_options(project_options INTERFACE "-ffile-prefix-map=${PROJECT_SOURCE_DIR}=.")
+    # a folder whose name has a blank. Optimising at link time, the linker compiles.
+    set(where "-ffile-prefix-map=${PROJECT_SOURCE_DIR}=.")
+    target_compile_options(project_options INTERFACE "${where}")
+    target_link_options(project_options INTERFACE "${where}")
 endif()
 
 include(cmake/Hardening.cmake)
