@@ -11,7 +11,28 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QPushButton>
+#include <QThread>
 #include <algorithm>
+
+namespace {
+
+// The toolkit adds a letter to those that it was given just before; in a walk they
+// follow each other more closely than any hand could type.
+class AfterAPause {
+public:
+    AfterAPause() {
+        QApplication::setKeyboardInputInterval(0);
+        QThread::msleep(2); // the toolkit counts milliseconds
+    }
+    ~AfterAPause() { QApplication::setKeyboardInputInterval(m_former); }
+    AfterAPause(const AfterAPause&) = delete;
+    AfterAPause& operator=(const AfterAPause&) = delete;
+
+private:
+    int m_former = QApplication::keyboardInputInterval();
+};
+
+} // namespace
 
 std::string Hand::Said() const {
     std::string text;
@@ -143,6 +164,7 @@ void Hand::typeLetter(const ListInUse& list) {
             position = other;
     }
     Say("  typed m");
+    const AfterAPause pause;
     Key(list.box, Qt::Key_M);
     list.choose(position);
 }
