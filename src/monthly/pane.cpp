@@ -7,7 +7,7 @@
 #include "controls/tips.h"
 #include "controls/yearlist.h"
 #include "monthly/monthgrid.h"
-#include "monthly/panelists.h"
+#include "monthly/paneentries.h"
 #include "platform/availability.h"
 #include "platform/combobox.h"
 #include "platform/numbers.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "monthly/panelists.h"
+#include "monthly/paneentries.h"
 
 #include "calc/calc.h"
 #include "calc/state.h"
