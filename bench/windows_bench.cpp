@@ -2,6 +2,7 @@
 // From a change to the painted pixels, beside the toolkit's own widgets.
 #include "calc/state.h"
 #include "changecals/changecals.h"
+#include "changecals/moonage.h"
 #include "changecals/opening.h"
 #include "changecals/windows.h"
 #include "platform/combobox.h"

@@ -3,6 +3,7 @@
 
 #include "calc/calc.h"
 #include "calc/state.h"
+#include "changecals/moonage.h"
 #include "changecals/windows.h"
 #include "platform/answer.h"
 #include "platform/clock.h"
@@ -11,9 +12,6 @@
 #include "shared/settings.h"
 
 namespace {
-
-constexpr int meanNewMoon = 1720993;
-constexpr int phases = 8;
 
 // As CurrentWindow numbers it.
 int asCurrent(MainWindowNumber window) {
@@ -128,16 +126,6 @@ void ChangeCals::RebuildWindows(const Table<bool, calendarCount>& calendars) {
     }
     if (all && IsVisible(MoonWindowNumber))
         LoadMoon().ReSetForm();
-}
-
-void ChangeCals::SetMoonAge() {
-    WeekDayNo = Calc::WeekdayOf(CurJD);
-    MoonAge = static_cast<float>(CurJD - meanNewMoon);
-    // In double the product is exact, so only the storing in single rounds.
-    const double days = MoonAge;
-    const double month = lunation;
-    MoonAge = static_cast<float>(days - Fix(days / month) * month);
-    MoonPhase = CInt(MoonAge / month * phases).value_or(0);
 }
 
 void ChangeCals::GoToToday(MainWindowNumber window) {

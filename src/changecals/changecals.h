@@ -45,14 +45,7 @@ void UpdateWindows();
 /// year when they are shown next.
 void RebuildWindows(const Table<bool, calendarCount>& calendars);
 
-/// Weekday, age and phase of the moon on the chosen day, by a mean lunation of
-/// 29.530588 days from a mean new moon on Julian Day 1720993.
-void SetMoonAge();
-
-/// One lunation in days, in single precision as the moon's age is counted.
-inline constexpr float lunation = 29.530588F;
-
-/// The same for today. Nothing happens when it is chosen already.
+/// Chooses today in a window. Nothing happens when it is chosen already.
 void GoToToday(MainWindowNumber window);
 
 } // namespace ChangeCals

@@ -4,6 +4,7 @@
 #include "calc/range.h"
 #include "calc/state.h"
 #include "changecals/changecals.h"
+#include "changecals/moonage.h"
 #include "controls/tips.h"
 #include "monthly/juliandayfield.h"
 #include "platform/beep.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "moon/shadow.h"
 
-#include "changecals/changecals.h"
+#include "changecals/moonage.h"
 #include "platform/color.h"
 #include "platform/numbers.h"
 

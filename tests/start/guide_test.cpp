@@ -2,6 +2,7 @@
 // What the user guide says of days, weeks and the moon, held against the program.
 #include "calc/range.h"
 #include "changecals/changecals.h"
+#include "changecals/moonage.h"
 #include "moon/moonpicture.h"
 #include "platform/numbers.h"
 #include "platform/text.h"
