@@ -1,26 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "monthly/juliandayfield_test.h"
 #include "platform/form.h"
+#include "support/messageshown.h"
 #include "support/platform_input.h"
 
-#include <QMessageBox>
-
 namespace {
-
-/// Keeps which control of its window has the focus when a message comes up.
-class MessageSeen : public QObject {
-public:
-    MessageSeen() { qApp->installEventFilter(this); }
-
-    bool eventFilter(QObject* object, QEvent* event) override {
-        const auto* box = qobject_cast<QMessageBox*>(object);
-        if (box != nullptr && event->type() == QEvent::Show)
-            focus = box->parentWidget()->focusWidget();
-        return false;
-    }
-
-    const QWidget* focus = nullptr;
-};
 
 /// The field that is left, for another control, window or program or by closing.
 class JulianDayLeft : public JulianDayEntry {
@@ -55,11 +39,13 @@ TEST_F(JulianDayLeft, LeavingForAnotherWindowTakesTheNumber) {
 }
 
 TEST_F(JulianDayLeft, LeavingForAnotherWindowIsRefusedWithOneMessageOverTheField) {
-    const MessageSeen message;
+    const QWidget* focus = nullptr;
+    const MessageShown watch(
+        [&](const QMessageBox& box) { focus = box.parentWidget()->focusWidget(); });
     type(QStringLiteral("5"));
     showOtherWindow();
     expectOneRangeMessage();
-    EXPECT_EQ(message.focus, &combo(8));
+    EXPECT_EQ(focus, &combo(8));
     EXPECT_EQ(CurJD, 2461365);
     EXPECT_EQ(edit().selectedText(), QStringLiteral("5"));
     goTo(2461365);
@@ -133,11 +119,13 @@ TEST_F(JulianDayLeft, ARefusedNumberKeepsTheFocusAndThePressThatLeftItDoesNothin
 }
 
 TEST_F(JulianDayLeft, TabFromARefusedNumberGivesOneMessageOverTheFieldThatHasTheFocusBack) {
-    const MessageSeen message;
+    const QWidget* focus = nullptr;
+    const MessageShown watch(
+        [&](const QMessageBox& box) { focus = box.parentWidget()->focusWidget(); });
     type(QStringLiteral("5"));
     QTest::keyClick(&combo(8), Qt::Key_Tab);
     expectOneRangeMessage();
-    EXPECT_EQ(message.focus, &combo(8));
+    EXPECT_EQ(focus, &combo(8));
     goTo(2461365);
 }
 

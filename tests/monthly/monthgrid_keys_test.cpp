@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 // A month grid by keyboard alone, and where the focus goes.
 #include "monthly/monthly_test.h"
-
-#include <QMessageBox>
+#include "support/messageshown.h"
 
 namespace {
 
@@ -214,36 +213,18 @@ TEST_F(MonthKeys, TheMoonButtonInFrontHasTheFocusWhileTheWindowIsNotActive) {
     EXPECT_EQ(window().focusWidget(), &moonButton(MoonPhase));
 }
 
-/// Notes what the choosers show when a message comes up.
-class MessageSight : public QObject {
-public:
-    MessageSight(std::function<QStringList()> look) : m_look(std::move(look)) {
-        qApp->installEventFilter(this);
-    }
-    bool eventFilter(QObject* receiver, QEvent* event) override {
-        if (event->type() == QEvent::Show && qobject_cast<QMessageBox*>(receiver) != nullptr)
-            seen = m_look();
-        return false;
-    }
-    QStringList seen;
-
-private:
-    std::function<QStringList()> m_look;
-};
-
 // Panes are exchanged before the user hears that this cannot be kept.
 TEST_F(MonthKeys, AMessageThatNothingCanBeKeptStandsOverAWholeWindow) {
     QDir().mkpath(settingsPath()); // a folder in the file's place
-    const MessageSight sight([] {
-        QStringList choosers;
+    QStringList choosers;
+    const MessageShown watch([&](const QMessageBox&) {
         for (int pane = 1; pane <= paneCount; ++pane)
             choosers.append(combo(1, pane).Text());
-        return choosers;
     });
     combo(1, 1).setFocus();
     QTest::keyClick(&combo(1, 1), Qt::Key_Down);
     EXPECT_EQ(m_messages.take().size(), 1);
-    EXPECT_EQ(sight.seen.join(u' ').toStdString(),
+    EXPECT_EQ(choosers.join(u' ').toStdString(),
               "Gregorian calendar Julian calendar Jewish calendar Moslem calendar");
 }
 

@@ -3,35 +3,29 @@
 
 #include "platform/form.h"
 #include "platform/pictures.h"
+#include "support/messageshown.h"
 #include "support/platform_test.h"
 
 #include <QAccessible>
-#include <QMessageBox>
+#include <vector>
 
 namespace {
 
 /// Keeps what the message boxes look like as they are shown.
-class BoxWatch : public QObject {
-public:
-    BoxWatch() { qApp->installEventFilter(this); }
-
-    bool eventFilter(QObject* object, QEvent* event) override {
-        auto* box = qobject_cast<QMessageBox*>(object);
-        if (box != nullptr && event->type() == QEvent::Show) {
-            titles.append(box->windowTitle());
-            buttons = box->standardButtons();
-            role = QAccessible::queryAccessibleInterface(box)->role();
-            icon = box->windowIcon().pixmap(32).toImage();
-            width = box->width();
-        }
-        return false;
-    }
-
+struct BoxWatch {
     QStringList titles;
     QMessageBox::StandardButtons buttons;
     QAccessible::Role role = QAccessible::NoRole;
     QImage icon;
     int width = 0;
+
+    MessageShown watch{[this](QMessageBox& box) {
+        titles.append(box.windowTitle());
+        buttons = box.standardButtons();
+        role = QAccessible::queryAccessibleInterface(&box)->role();
+        icon = box.windowIcon().pixmap(32).toImage();
+        width = box.width();
+    }};
 };
 
 class Messages : public PlatformTest {};
@@ -103,41 +97,28 @@ TEST_F(Messages, ForeignTextsAreToldOnOneLineWithAllThatTheyHold) {
         EXPECT_EQ(Told(QString::fromStdU16String(row.text)).toStdU16String(), row.told);
 }
 
-/// Keeps the window that a message belongs to.
-class OwnerWatch : public QObject {
-public:
-    OwnerWatch() { qApp->installEventFilter(this); }
-
-    bool eventFilter(QObject* object, QEvent* event) override {
-        const auto* box = qobject_cast<QMessageBox*>(object);
-        if (box != nullptr && event->type() == QEvent::Show)
-            owner = box->parentWidget();
-        return false;
-    }
-
-    const QWidget* owner = nullptr;
-};
-
 class MessageOwners : public PlatformTest {};
 
 TEST_F(MessageOwners, AMessageBelongsToTheWindowInFront) {
     Form first(QStringLiteral("frmFirst"));
     Form second(QStringLiteral("frmSecond"));
-    OwnerWatch watch;
+    const QWidget* owner = nullptr;
+    const MessageShown watch([&](const QMessageBox& box) { owner = box.parentWidget(); });
     for (Form* front : {&first, &second, &first}) {
         front->Show();
         front->activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(front));
         MsgBox(QStringLiteral("text"));
-        EXPECT_EQ(watch.owner, front);
+        EXPECT_EQ(owner, front);
         EXPECT_EQ(m_messages.take(), QStringList{QStringLiteral("text")});
     }
 }
 
 TEST_F(MessageOwners, WithNoWindowInFrontItBelongsToNone) {
-    OwnerWatch watch;
+    std::vector<const QWidget*> owners;
+    const MessageShown watch([&](const QMessageBox& box) { owners.push_back(box.parentWidget()); });
     MsgBox(QStringLiteral("text"));
-    EXPECT_EQ(watch.owner, nullptr);
+    EXPECT_EQ(owners, std::vector<const QWidget*>{nullptr});
     EXPECT_EQ(m_messages.take().size(), 1);
 }
 
