@@ -5,9 +5,9 @@
 #include "calc/state.h"
 #include "changecals/moonage.h"
 #include "changecals/windows.h"
-#include "platform/answer.h"
 #include "platform/clock.h"
 #include "platform/numbers.h"
+#include "platform/spokenanswer.h"
 #include "shared/flags.h"
 #include "shared/settings.h"
 

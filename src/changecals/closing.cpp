@@ -6,7 +6,7 @@
 #include "platform/message.h"
 #include "platform/program.h"
 #include "platform/text.h"
-#include "settings/storedsettings.h"
+#include "settings/usersettings.h"
 
 void ChangeCals::CloseWindow(Form& form, int arg) {
     if (CountOpenWindows() < 2)

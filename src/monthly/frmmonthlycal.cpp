@@ -14,7 +14,7 @@
 #include "platform/image.h"
 #include "platform/line.h"
 #include "platform/text.h"
-#include "settings/storedsettings.h"
+#include "settings/usersettings.h"
 #include "shared/flags.h"
 #include "shared/settings.h"
 #include "shared/texts.h"

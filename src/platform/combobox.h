@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/answer.h"
 #include "platform/listtyping.h"
+#include "platform/spokenanswer.h"
 
 #include <QComboBox>
 #include <functional>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/answer.h"
 #include "platform/gridmodel.h"
 #include "platform/gridspeaker.h"
+#include "platform/spokenanswer.h"
 #include "platform/twips.h"
 
 #include <QTableView>

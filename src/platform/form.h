@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/answer.h"
+#include "platform/spokenanswer.h"
 #include "platform/twips.h"
 
 #include <QWidget>

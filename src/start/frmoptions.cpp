@@ -12,7 +12,7 @@
 #include "platform/message.h"
 #include "platform/pointer.h"
 #include "platform/text.h"
-#include "settings/storedsettings.h"
+#include "settings/usersettings.h"
 #include "shared/settings.h"
 #include "shared/texts.h"
 #include "start/dialogframe.h"

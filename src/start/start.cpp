@@ -8,7 +8,7 @@
 #include "monthly/frmmonthlycal.h"
 #include "moon/frmmoon.h"
 #include "printing/print.h"
-#include "settings/storedsettings.h"
+#include "settings/usersettings.h"
 #include "shared/flags.h"
 #include "shared/settings.h"
 #include "start/frmabout.h"

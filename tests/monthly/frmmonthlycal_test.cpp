@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "monthly/monthly_test.h"
-#include "platform/settingsstore.h"
+#include "platform/settingsfile.h"
 
 #include <QFile>
 #include <QSettings>

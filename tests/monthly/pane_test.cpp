@@ -2,7 +2,7 @@
 #include "monthly/pane.h"
 
 #include "monthly/monthly_test.h"
-#include "platform/settingsstore.h"
+#include "platform/settingsfile.h"
 
 namespace {
 

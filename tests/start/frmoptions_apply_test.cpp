@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "start/frmoptions_test.h"
 
-#include "platform/settingsstore.h"
+#include "platform/settingsfile.h"
 
 #include <QAccessible>
 #include <QCheckBox>

@@ -4,7 +4,7 @@
 #include "platform/beep.h"
 #include "platform/clock.h"
 #include "platform/program.h"
-#include "platform/settingsstore.h"
+#include "platform/settingsfile.h"
 
 #include <QDir>
 #include <QFile>

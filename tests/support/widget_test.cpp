@@ -3,7 +3,7 @@
 
 #include "changecals/changecals.h"
 #include "changecals/windows.h"
-#include "settings/storedsettings.h"
+#include "settings/usersettings.h"
 #include "shared/english.h"
 
 #include <QFile>

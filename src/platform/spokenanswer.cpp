@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/answer.h"
+#include "platform/spokenanswer.h"
 
 #include <QAccessible>
 #include <QApplication>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "settings/storedsettings.h"
+#include "settings/usersettings.h"
 
-#include "platform/settingsstore.h"
+#include "platform/settingsfile.h"
 #include "support/judgement.h"
 #include "support/platform_test.h"
 #include "support/tables.h"
@@ -13,9 +13,9 @@
 
 namespace {
 
-class StoredSettings : public PlatformTest, protected BoundsWatch {
+class UserSettings : public PlatformTest, protected BoundsWatch {
 protected:
-    StoredSettings() { resetSettings(); }
+    UserSettings() { resetSettings(); }
 
     /// Each in a folder of its own, as the store keeps what it has read.
     void store(const QByteArray& lines) {
@@ -63,7 +63,7 @@ std::vector<Setting> numberSettings() {
     return rows;
 }
 
-TEST_F(StoredSettings, AbsentOnesHaveTheirStandardValues) {
+TEST_F(UserSettings, AbsentOnesHaveTheirStandardValues) {
     fillWithOtherValues();
     EXPECT_TRUE(ReadSettings());
     EXPECT_EQ(CalendarOrder, (Table<int, 4>{Julian, Gregorian, Jewish, Moslem}));
@@ -79,7 +79,7 @@ TEST_F(StoredSettings, AbsentOnesHaveTheirStandardValues) {
     EXPECT_FALSE(QFileInfo::exists(settingsPath()));
 }
 
-TEST_F(StoredSettings, EveryKeyIsReadIntoItsTable) {
+TEST_F(UserSettings, EveryKeyIsReadIntoItsTable) {
     store(
         "[Startup]\nCalendar1=4\nCalendar2=3\nCalendar3=2\nCalendar4=1\nLanguage=German\n"
         "Window=3\nShowTips=0\n"
@@ -98,7 +98,7 @@ TEST_F(StoredSettings, EveryKeyIsReadIntoItsTable) {
     EXPECT_EQ(LanguageName, "German");
 }
 
-TEST_F(StoredSettings, NumbersAreTakenAsTheyAre) {
+TEST_F(UserSettings, NumbersAreTakenAsTheyAre) {
     store("[Startup]\nWindow=-1\nShowTips=5\n[Moslem]\nType=7\nFirstWeekDay=0\n"
           "[Moon]\nTop=-32768\nLeft=32767\n");
     EXPECT_TRUE(ReadSettings());
@@ -110,7 +110,7 @@ TEST_F(StoredSettings, NumbersAreTakenAsTheyAre) {
     EXPECT_EQ(FormLeft(MoonWindowNumber), 32767);
 }
 
-TEST_F(StoredSettings, CalendarOrdersThatRepeatAreReset) {
+TEST_F(UserSettings, CalendarOrdersThatRepeatAreReset) {
     const Table<int, 4> reset{1, 2, 3, 4};
     for (const auto& stored : {std::array{1, 1, 3, 4},
                                {1, 2, 3, 5},
@@ -123,19 +123,19 @@ TEST_F(StoredSettings, CalendarOrdersThatRepeatAreReset) {
         EXPECT_EQ(orderOf(stored), reset) << stored[0] << stored[1] << stored[2] << stored[3];
 }
 
-TEST_F(StoredSettings, TheFirstPanesCalendarIsNotChecked) {
+TEST_F(UserSettings, TheFirstPanesCalendarIsNotChecked) {
     const std::array<int, 4> orders[] = {{9, 2, 3, 4}, {0, 2, 3, 4}, {-1, 1, 2, 3}};
     for (const auto& stored : orders)
         EXPECT_EQ(orderOf(stored)(1), stored[0]);
     EXPECT_EQ(CalendarOrder, (Table<int, 4>{-1, 1, 2, 3}));
 }
 
-TEST_F(StoredSettings, OtherCalendarOrdersAreKept) {
+TEST_F(UserSettings, OtherCalendarOrdersAreKept) {
     EXPECT_EQ(orderOf({2, 1, 4, 3}), (Table<int, 4>{2, 1, 4, 3}));
     EXPECT_EQ(orderOf({4, 3, 2, 1}), (Table<int, 4>{4, 3, 2, 1}));
 }
 
-TEST_F(StoredSettings, WhatIsNoNumberIsToldAndEndsTheReading) {
+TEST_F(UserSettings, WhatIsNoNumberIsToldAndEndsTheReading) {
     for (const char* text : {"abc", "", "40000", "1,5", "-32769", "0x1", "1 2"}) {
         store(QByteArray("[Startup]\nWindow=") + text + "\n");
         EXPECT_FALSE(ReadSettings()) << text;
@@ -144,13 +144,13 @@ TEST_F(StoredSettings, WhatIsNoNumberIsToldAndEndsTheReading) {
     }
 }
 
-TEST_F(StoredSettings, OnlyTheFirstBadNumberIsTold) {
+TEST_F(UserSettings, OnlyTheFirstBadNumberIsTold) {
     store("[Startup]\nCalendar2=x\nWindow=y\n[Jewish]\nFirstWeekDay=z\n");
     EXPECT_FALSE(ReadSettings());
     EXPECT_EQ(m_messages.take(), toldOf("[Startup] Calendar2=x"));
 }
 
-TEST_F(StoredSettings, FractionsRound) {
+TEST_F(UserSettings, FractionsRound) {
     store("[Startup]\nWindow=2.5\nShowTips=0.4\n[Moslem]\nType=\" 1.5 \"\n[Moon]\nTop=1e3\n");
     EXPECT_TRUE(ReadSettings());
     EXPECT_EQ(StartupWindow, 2);
@@ -159,13 +159,13 @@ TEST_F(StoredSettings, FractionsRound) {
     EXPECT_EQ(FormTop(MoonWindowNumber), 1000);
 }
 
-TEST_F(StoredSettings, LanguageNamesAreAnyText) {
+TEST_F(UserSettings, LanguageNamesAreAnyText) {
     store("[Startup]\nLanguage=\"Русский, новый\"\n");
     EXPECT_TRUE(ReadSettings());
     EXPECT_EQ(LanguageName, "Русский, новый");
 }
 
-TEST_F(StoredSettings, ALongTextIsToldShortened) {
+TEST_F(UserSettings, ALongTextIsToldShortened) {
     store("[Startup]\nWindow=" + QByteArray(4000, '9') + "\n");
     EXPECT_FALSE(ReadSettings());
     const QByteArray entry = "[Startup] Window=" + QByteArray(60, '9');
@@ -174,7 +174,7 @@ TEST_F(StoredSettings, ALongTextIsToldShortened) {
     EXPECT_EQ(m_messages.take(), expected);
 }
 
-TEST_F(StoredSettings, WhatIsToldStandsOnOneLineAndIsWhole) {
+TEST_F(UserSettings, WhatIsToldStandsOnOneLineAndIsWhole) {
     store("[Startup]\nWindow=a" + QByteArray("\\n").repeated(59) + "\n");
     EXPECT_FALSE(ReadSettings());
     const QByteArray lines = "[Startup] Window=a" + QByteArray("\u240A").repeated(59);
@@ -188,14 +188,14 @@ TEST_F(StoredSettings, WhatIsToldStandsOnOneLineAndIsWhole) {
                                         "\u2400z"));
 }
 
-TEST_F(StoredSettings, AnUnclosedQuoteEndsWithItsLine) {
+TEST_F(UserSettings, AnUnclosedQuoteEndsWithItsLine) {
     store("[Startup]\nWindow=\"2\nShowTips=0\n");
     EXPECT_TRUE(ReadSettings());
     EXPECT_EQ(StartupWindow, 2);
     EXPECT_EQ(ShowTips, 0);
 }
 
-TEST_F(StoredSettings, AFolderInTheFilesPlaceIsToldAndTheStandardValuesHold) {
+TEST_F(UserSettings, AFolderInTheFilesPlaceIsToldAndTheStandardValuesHold) {
     fillWithOtherValues();
     ASSERT_TRUE(QDir().mkpath(settingsPath()));
     EXPECT_TRUE(ReadSettings());
@@ -206,7 +206,7 @@ TEST_F(StoredSettings, AFolderInTheFilesPlaceIsToldAndTheStandardValuesHold) {
     EXPECT_EQ(LanguageName, "English (Default)");
 }
 
-TEST_F(StoredSettings, EachGroupIsSavedInItsOrder) {
+TEST_F(UserSettings, EachGroupIsSavedInItsOrder) {
     fillWithOtherValues();
     store("");
     EXPECT_TRUE(LoadSettings());
@@ -227,7 +227,7 @@ TEST_F(StoredSettings, EachGroupIsSavedInItsOrder) {
 }
 
 // The number that each is read as; nothing where it is refused.
-TEST_F(StoredSettings, EveryNumberWithstandsHostileTexts) {
+TEST_F(UserSettings, EveryNumberWithstandsHostileTexts) {
     const std::pair<QByteArray, std::optional<int>> texts[] = {
         {"", {}},         {"abc", {}},        {"32768", {}},  {"-32769", {}},
         {"1e9", {}},      {"nan", {}},        {"inf", {}},    {"0x10", {}},
@@ -250,7 +250,7 @@ TEST_F(StoredSettings, EveryNumberWithstandsHostileTexts) {
                     std::ssize(numberSettings()) * std::ssize(texts));
 }
 
-TEST_F(StoredSettings, AFileCutAnywhereIsReadOrToldAndCanBeSaved) {
+TEST_F(UserSettings, AFileCutAnywhereIsReadOrToldAndCanBeSaved) {
     const QByteArray lines("[Startup]\nCalendar1=2\nCalendar2=1\nWindow=3\nLanguage=\"a, b\"\n"
                            "ShowTips=0\n\n[Moslem]\nType=2\nTop=-150\nLeft=300\n");
     for (qsizetype size = 0; size <= lines.size(); ++size) {
@@ -263,7 +263,7 @@ TEST_F(StoredSettings, AFileCutAnywhereIsReadOrToldAndCanBeSaved) {
     recordWithstood("a settings file cut at each of its bytes", lines.size() + 1);
 }
 
-TEST_F(StoredSettings, AnUnwritableFileIsToldOnceARun) {
+TEST_F(UserSettings, AnUnwritableFileIsToldOnceARun) {
     writeFile(m_folder.filePath(QStringLiteral("config")), "in the way");
     SaveSettings(SettingGroup::PaneCalendars);
     SaveSettings(SettingGroup::Positions);

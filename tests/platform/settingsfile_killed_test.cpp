@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The program killed at each of its calls of the system while it writes settings.
-#include "platform/settingsstore.h"
+#include "platform/settingsfile.h"
 #include "support/judgement.h"
 #include "support/platform_test.h"
 

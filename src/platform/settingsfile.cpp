@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/settingsstore.h"
+#include "platform/settingsfile.h"
 
 #include "platform/inifile.h"
 #include "platform/program.h"

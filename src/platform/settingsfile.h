@@ -3,7 +3,7 @@
 
 #include <QString>
 
-// The per-user settings store: one text file in the user's configuration
+// The settings file: one text file in the user's configuration
 // directory, sections of keys, every value a text.
 
 /// Reads the settings file; what was read or saved before is forgotten. False

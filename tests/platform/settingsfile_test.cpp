@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/settingsstore.h"
+#include "platform/settingsfile.h"
 
 #include "support/fulldisk.h"
 #include "support/platform_test.h"
@@ -19,7 +19,7 @@ namespace {
 
 const QString startup = QStringLiteral("Startup");
 
-class SettingsStore : public PlatformTest {
+class SettingsOnDisk : public PlatformTest {
 protected:
     QString get(const char* key, const char* standard = "none") const {
         return GetSetting(startup, QLatin1String(key), QLatin1String(standard));
@@ -53,17 +53,17 @@ protected:
     }
 };
 
-TEST_F(SettingsStore, LiesInTheUsersConfigurationFolder) {
+TEST_F(SettingsOnDisk, LiesInTheUsersConfigurationFolder) {
     EXPECT_EQ(SettingsFile(), QDir::toNativeSeparators(settingsPath()));
 }
 
-TEST_F(SettingsStore, ReadingWritesNothing) {
+TEST_F(SettingsOnDisk, ReadingWritesNothing) {
     EXPECT_EQ(get("Window", "0"), QStringLiteral("0"));
     EXPECT_TRUE(FlushSettings());
     EXPECT_FALSE(QFileInfo::exists(configFolder()));
 }
 
-TEST_F(SettingsStore, ReadingLeavesAFileAsItIs) {
+TEST_F(SettingsOnDisk, ReadingLeavesAFileAsItIs) {
     const QByteArray bytes("; by hand\n[Startup]\nWindow = 1,5\n");
     load(bytes);
     EXPECT_EQ(get("Window"), QStringLiteral("1,5"));
@@ -71,13 +71,13 @@ TEST_F(SettingsStore, ReadingLeavesAFileAsItIs) {
     EXPECT_EQ(readFile(settingsPath()), bytes);
 }
 
-TEST_F(SettingsStore, AbsentKeysReadAsTheStandard) {
+TEST_F(SettingsOnDisk, AbsentKeysReadAsTheStandard) {
     load("[Startup]\nEmpty=\n");
     EXPECT_EQ(get("Window", "7"), QStringLiteral("7"));
     EXPECT_EQ(get("Empty", "7"), QString()) << "an empty text is not an absent one";
 }
 
-TEST_F(SettingsStore, EveryTextComesBackFromTheFile) {
+TEST_F(SettingsOnDisk, EveryTextComesBackFromTheFile) {
     const char* const texts[] = {"",
                                  "0",
                                  "a,b",
@@ -112,14 +112,14 @@ TEST_F(SettingsStore, EveryTextComesBackFromTheFile) {
             << texts[i];
 }
 
-TEST_F(SettingsStore, TextsSavedAreReadBeforeTheyAreWritten) {
+TEST_F(SettingsOnDisk, TextsSavedAreReadBeforeTheyAreWritten) {
     SaveSetting(startup, QStringLiteral("Window"), QStringLiteral("3"));
     EXPECT_EQ(get("Window"), QStringLiteral("3"));
     EXPECT_TRUE(FlushSettings());
     EXPECT_TRUE(readFile(settingsPath()).contains("Window=3"));
 }
 
-TEST_F(SettingsStore, OtherKeysSurviveASave) {
+TEST_F(SettingsOnDisk, OtherKeysSurviveASave) {
     load("[Startup]\nWindow=1\nUnknown=x\n[Other]\nKey=\"a, b\"\n");
     SaveSetting(startup, QStringLiteral("Window"), QStringLiteral("2"));
     ASSERT_TRUE(FlushSettings());
@@ -130,14 +130,14 @@ TEST_F(SettingsStore, OtherKeysSurviveASave) {
               QStringLiteral("a, b"));
 }
 
-TEST_F(SettingsStore, AFileThatCannotBeWrittenIsTold) {
+TEST_F(SettingsOnDisk, AFileThatCannotBeWrittenIsTold) {
     writeFile(configFolder(), "a file in the folder's place");
     SaveSetting(startup, QStringLiteral("Window"), QStringLiteral("3"));
     EXPECT_FALSE(FlushSettings());
     EXPECT_EQ(get("Window"), QStringLiteral("3")) << "kept for the rest of the run";
 }
 
-TEST_F(SettingsStore, AFileThatCanBeWrittenAgainIsWrittenAndSaidToBe) {
+TEST_F(SettingsOnDisk, AFileThatCanBeWrittenAgainIsWrittenAndSaidToBe) {
     writeFile(configFolder(), "a file in the folder's place");
     SaveSetting(startup, QStringLiteral("Window"), QStringLiteral("3"));
     EXPECT_FALSE(FlushSettings());
@@ -146,7 +146,7 @@ TEST_F(SettingsStore, AFileThatCanBeWrittenAgainIsWrittenAndSaidToBe) {
     EXPECT_TRUE(readFile(settingsPath()).contains("Window=3"));
 }
 
-TEST_F(SettingsStore, ADamagedFileCanBeWritten) {
+TEST_F(SettingsOnDisk, ADamagedFileCanBeWritten) {
     load("no section and no key\n[Startup]\nWindow=4\n]=[\n");
     EXPECT_EQ(get("Window"), QStringLiteral("4"));
     SaveSetting(startup, QStringLiteral("ShowTips"), QStringLiteral("0"));
@@ -156,7 +156,7 @@ TEST_F(SettingsStore, ADamagedFileCanBeWritten) {
     EXPECT_EQ(get("ShowTips"), QStringLiteral("0"));
 }
 
-TEST_F(SettingsStore, WhatNobodyChangesStaysAsItWritten) {
+TEST_F(SettingsOnDisk, WhatNobodyChangesStaysAsItWritten) {
     load("; by hand\n\n[Startup]\nWindow = 1 ; first\nUnknown=x\n\n[Other]\nKey=\"a, b\"\n");
     save("Window", "2");
     save("ShowTips", "0");
@@ -166,7 +166,7 @@ TEST_F(SettingsStore, WhatNobodyChangesStaysAsItWritten) {
                                         "\n[Other]\nKey=\"a, b\"\n\n[Moon]\nTop=15\n");
 }
 
-TEST_F(SettingsStore, TheToolkitReadsWhatIsWritten) {
+TEST_F(SettingsOnDisk, TheToolkitReadsWhatIsWritten) {
     for (const char* text : {"3", "English (Default)", "a, b;c", "\"q\"", "Русский", " x ", "@x",
                              "back\\slash", "two\r\nlines"}) {
         save("Language", text);
@@ -178,7 +178,7 @@ TEST_F(SettingsStore, TheToolkitReadsWhatIsWritten) {
     }
 }
 
-TEST_F(SettingsStore, WhatTheToolkitWroteIsRead) {
+TEST_F(SettingsOnDisk, WhatTheToolkitWroteIsRead) {
     for (const char* text : {"3", "English (Default)", "a, b;c", "\"q\"", "Русский", " x ", "@x",
                              "back\\slash", "two\r\nlines", "\x01 1", "tab\t", "a\x07\x0B", ""}) {
         {
@@ -190,7 +190,7 @@ TEST_F(SettingsStore, WhatTheToolkitWroteIsRead) {
     }
 }
 
-TEST_F(SettingsStore, OfSeveralPlacesOfAKeyTheLastCounts) {
+TEST_F(SettingsOnDisk, OfSeveralPlacesOfAKeyTheLastCounts) {
     load("[Startup]\nWindow=1\n[Moon]\nWindow=9\n[Startup]\nWindow=2\n");
     EXPECT_EQ(get("Window"), QStringLiteral("2"));
     save("Window", "3");
@@ -199,7 +199,7 @@ TEST_F(SettingsStore, OfSeveralPlacesOfAKeyTheLastCounts) {
     EXPECT_EQ(get("Window"), QStringLiteral("3"));
 }
 
-TEST_F(SettingsStore, NamesAreMatchedWithoutRegardToCaseAndNeverInComments) {
+TEST_F(SettingsOnDisk, NamesAreMatchedWithoutRegardToCaseAndNeverInComments) {
     load("[startup]\nWINDOW = 1\n;Window=4\n[Startup\n");
     EXPECT_EQ(get("Window"), QStringLiteral("1"));
     save("Window", "2");
@@ -207,14 +207,14 @@ TEST_F(SettingsStore, NamesAreMatchedWithoutRegardToCaseAndNeverInComments) {
     EXPECT_EQ(readFile(settingsPath()), "[startup]\nWindow=2\n;Window=4\n[Startup\n");
 }
 
-TEST_F(SettingsStore, ForeignFormsAreRead) {
+TEST_F(SettingsOnDisk, ForeignFormsAreRead) {
     load("\xEF\xBB\xBF[ Startup ]\r\nWindow = \"3\"\r\nShowTips=1;on\r\nLanguage=\"unclosed\r\n");
     EXPECT_EQ(get("Window"), QStringLiteral("3"));
     EXPECT_EQ(get("ShowTips"), QStringLiteral("1"));
     EXPECT_TRUE(get("Language").startsWith(QStringLiteral("unclosed")));
 }
 
-TEST_F(SettingsStore, WhatAnotherProgramSavedMeanwhileIsKept) {
+TEST_F(SettingsOnDisk, WhatAnotherProgramSavedMeanwhileIsKept) {
     load("[Startup]\nWindow=1\nShowTips=1\n");
     save("Window", "2");
     writeFile(settingsPath(), "[Startup]\nWindow=1\nShowTips=0\n[Moon]\nTop=15\n");
@@ -222,19 +222,19 @@ TEST_F(SettingsStore, WhatAnotherProgramSavedMeanwhileIsKept) {
     EXPECT_EQ(readFile(settingsPath()), "[Startup]\nWindow=2\nShowTips=0\n[Moon]\nTop=15\n");
 }
 
-TEST_F(SettingsStore, ARelativeConfigurationFolderIsNone) {
+TEST_F(SettingsOnDisk, ARelativeConfigurationFolderIsNone) {
     qputenv("XDG_CONFIG_HOME", "relative");
     EXPECT_EQ(SettingsFile(),
               QDir::homePath() + QStringLiteral("/.config/Orvalen Years Calendar/settings.ini"));
 }
 
-TEST_F(SettingsStore, NothingIsLeftBesideTheFile) {
+TEST_F(SettingsOnDisk, NothingIsLeftBesideTheFile) {
     save("Window", "2");
     EXPECT_TRUE(FlushSettings());
     EXPECT_EQ(filesBeside(), QStringList{QStringLiteral("settings.ini")});
 }
 
-TEST_F(SettingsStore, WhatStandsInTheFilesPlaceIsToldAndLeftAlone) {
+TEST_F(SettingsOnDisk, WhatStandsInTheFilesPlaceIsToldAndLeftAlone) {
     const QByteArray path = QFile::encodeName(settingsPath());
     ASSERT_TRUE(QDir().mkpath(QFileInfo(settingsPath()).path()));
     ASSERT_EQ(mkfifo(path.constData(), 0600), 0);
@@ -250,7 +250,7 @@ TEST_F(SettingsStore, WhatStandsInTheFilesPlaceIsToldAndLeftAlone) {
     EXPECT_TRUE(QFileInfo(settingsPath()).isDir());
 }
 
-TEST_F(SettingsStore, AFileTooLargeForSettingsIsToldAndLeftAlone) {
+TEST_F(SettingsOnDisk, AFileTooLargeForSettingsIsToldAndLeftAlone) {
     writeFile(settingsPath(), QByteArray((1 << 20) + 1, '\n'));
     EXPECT_FALSE(LoadSettings());
     save("Window", "2");
@@ -258,7 +258,7 @@ TEST_F(SettingsStore, AFileTooLargeForSettingsIsToldAndLeftAlone) {
     EXPECT_EQ(QFileInfo(settingsPath()).size(), (1 << 20) + 1);
 }
 
-TEST_F(SettingsStore, WhatIsWrittenCanBeRead) {
+TEST_F(SettingsOnDisk, WhatIsWrittenCanBeRead) {
     const QByteArray lines =
         QByteArray("[Startup]\nWindow=1\n;").leftJustified((1 << 20) - 1, 'x') + '\n';
     load(lines);
@@ -272,7 +272,7 @@ TEST_F(SettingsStore, WhatIsWrittenCanBeRead) {
     EXPECT_EQ(get("Window"), QStringLiteral("2"));
 }
 
-TEST_F(SettingsStore, FoldersThatAreMissingAreMadeForTheUserAlone) {
+TEST_F(SettingsOnDisk, FoldersThatAreMissingAreMadeForTheUserAlone) {
     qputenv("XDG_CONFIG_HOME", QFile::encodeName(configFolder() + QStringLiteral("/below")));
     ASSERT_TRUE(LoadSettings());
     save("Window", "2");
@@ -284,7 +284,7 @@ TEST_F(SettingsStore, FoldersThatAreMissingAreMadeForTheUserAlone) {
     }
 }
 
-TEST_F(SettingsStore, TheFileKeepsItsPermissionsAndItsLink) {
+TEST_F(SettingsOnDisk, TheFileKeepsItsPermissionsAndItsLink) {
     const QString linked = m_folder.filePath(QStringLiteral("elsewhere"));
     writeFile(linked, "[Startup]\nWindow=1\n");
     ASSERT_TRUE(QFile::setPermissions(linked, QFile::ReadOwner | QFile::WriteOwner));
@@ -300,7 +300,7 @@ TEST_F(SettingsStore, TheFileKeepsItsPermissionsAndItsLink) {
     EXPECT_EQ(found.st_mode & 07777U, 0600U);
 }
 
-TEST_F(SettingsStore, AFolderThatCannotBeEnteredIsTold) {
+TEST_F(SettingsOnDisk, AFolderThatCannotBeEnteredIsTold) {
     load("[Startup]\nWindow=1\n");
     const QString folder = QFileInfo(settingsPath()).path();
     ASSERT_TRUE(QFile::setPermissions(folder, {}));
@@ -316,7 +316,7 @@ TEST_F(SettingsStore, AFolderThatCannotBeEnteredIsTold) {
     EXPECT_EQ(get("Window"), QStringLiteral("1"));
 }
 
-TEST_F(SettingsStore, AFileThatMayOnlyBeReadStaysAsItIs) {
+TEST_F(SettingsOnDisk, AFileThatMayOnlyBeReadStaysAsItIs) {
     load("[Startup]\nWindow=1\n");
     save("Window", "2");
     const QFileInfo file(settingsPath());
@@ -331,7 +331,7 @@ TEST_F(SettingsStore, AFileThatMayOnlyBeReadStaysAsItIs) {
     EXPECT_EQ(readFile(settingsPath()), "[Startup]\nWindow=1\n");
 }
 
-TEST_F(SettingsStore, WithoutAHomeNothingIsReadOrWritten) {
+TEST_F(SettingsOnDisk, WithoutAHomeNothingIsReadOrWritten) {
     const QByteArray home = qgetenv("HOME");
     qunsetenv("HOME");
     qunsetenv("XDG_CONFIG_HOME");
@@ -344,7 +344,7 @@ TEST_F(SettingsStore, WithoutAHomeNothingIsReadOrWritten) {
     qputenv("HOME", home);
 }
 
-TEST_F(SettingsStore, AFullDiskLeavesTheFileWholeAndIsTold) {
+TEST_F(SettingsOnDisk, AFullDiskLeavesTheFileWholeAndIsTold) {
     const QByteArray lines("[Startup]\nWindow=1\nLanguage=German\n");
     load(lines);
     save("Window", "2");
@@ -358,7 +358,7 @@ TEST_F(SettingsStore, AFullDiskLeavesTheFileWholeAndIsTold) {
     EXPECT_EQ(readFile(settingsPath()), "[Startup]\nWindow=2\nLanguage=German\n");
 }
 
-TEST_F(SettingsStore, ALockThatIsNeverFreeHoldsForASecondAtMost) {
+TEST_F(SettingsOnDisk, ALockThatIsNeverFreeHoldsForASecondAtMost) {
     load("[Startup]\nWindow=1\n");
     save("Window", "2");
     QLockFile other(settingsPath() + QStringLiteral(".lock"));
@@ -373,7 +373,7 @@ TEST_F(SettingsStore, ALockThatIsNeverFreeHoldsForASecondAtMost) {
 }
 
 // Whoever may read a folder may lock it.
-TEST_F(SettingsStore, WhoeverReadsTheFolderCannotHoldItsLock) {
+TEST_F(SettingsOnDisk, WhoeverReadsTheFolderCannotHoldItsLock) {
     load("[Startup]\nWindow=1\n");
     save("Window", "2");
     const int folder = open(QFile::encodeName(QFileInfo(settingsPath()).path()).constData(),
@@ -383,7 +383,7 @@ TEST_F(SettingsStore, WhoeverReadsTheFolderCannotHoldItsLock) {
     close(folder);
 }
 
-TEST_F(SettingsStore, LockFilesOfKilledProgramsHoldNobody) {
+TEST_F(SettingsOnDisk, LockFilesOfKilledProgramsHoldNobody) {
     load("[Startup]\nWindow=1\n");
     writeFile(settingsPath() + QStringLiteral(".lock"), "999999999\nanother program\n\n\n\n");
     save("Window", "2");

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/answer.h"
+#include "platform/spokenanswer.h"
 
 #include "platform/combobox.h"
 #include "platform/flexgrid.h"

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "settings/storedsettings.h"
+#include "settings/usersettings.h"
 
 #include "platform/message.h"
 #include "platform/numbers.h"
-#include "platform/settingsstore.h"
+#include "platform/settingsfile.h"
 #include "platform/text.h"
 #include "shared/settings.h"
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Several programs that save at the same time, and a disk that fails.
-#include "platform/settingsstore.h"
+#include "platform/settingsfile.h"
 #include "support/platform_test.h"
 
 #include <cerrno>
