@@ -8,11 +8,24 @@
 #include "platform/text.h"
 #include "shared/look.h"
 #include "shared/texts.h"
-#include "yearcals/yearlayout.h"
 
 namespace {
 
-using YearLayout::bandRows;
+// Months stand in bands of three, each band a title row above seven weekday rows. In
+// a Jewish leap year the second band has a fourth month, Adar II, behind the third,
+// and the months after it stand one place earlier than their number says.
+constexpr int bands = 4;
+constexpr int titleRows = 1;
+constexpr int bandRows = titleRows + daysInWeek;
+constexpr int monthsInBand = 3;
+constexpr int adarTwo = 7;
+constexpr int adarTwoBand = 1; // counted from 0
+
+// Week columns without and with the fourth month of a band, which begins at
+// adarTwoColumn. Column 0 holds the weekdays' names.
+constexpr int commonColumns = monthsInBand * DayGrid::monthColumns;
+constexpr int leapColumns = commonColumns + DayGrid::monthColumns;
+constexpr int adarTwoColumn = 1 + commonColumns;
 
 constexpr Twips weekdayColumnWidth{345};
 constexpr Twips weekColumnWidth{300};
@@ -22,26 +35,29 @@ constexpr Twips titleRowHeight{360};
 constexpr int digitPixels = 10;
 
 int columnsOf(int c) {
-    return 1 + (c == Jewish ? YearLayout::leapColumns : YearLayout::commonColumns);
+    return 1 + (c == Jewish ? leapColumns : commonColumns);
+}
+
+bool hasAdarTwo(int c) {
+    return c == Jewish && JewishLeap;
 }
 
 // Beyond the cells a little more room, a little less in a leap year.
 Twips gridWidth(int weekColumns) {
-    const Twips slack{weekColumns == YearLayout::leapColumns ? 30 : 60};
+    const Twips slack{weekColumns == leapColumns ? 30 : 60};
     return weekdayColumnWidth + weekColumns * weekColumnWidth + slack;
 }
 
 Twips gridHeight() {
     const Twips band = titleRowHeight + daysInWeek * weekdayRowHeight;
     constexpr Twips slack{90};
-    return YearLayout::bands * band + slack;
+    return bands * band + slack;
 }
 
 } // namespace
 
 YearGrid::YearGrid(int c, QWidget* parent)
-    : DayGrid(QStringLiteral("MSFlexGrid1"), YearLayout::bands, YearLayout::titleRows, columnsOf(c),
-              parent) {
+    : DayGrid(QStringLiteral("MSFlexGrid1"), bands, titleRows, columnsOf(c), parent) {
     InitYearGrid(c);
     connect(this, &DayGrid::EndAsked, this, &YearGrid::chooseEnd);
 }
@@ -63,7 +79,7 @@ void YearGrid::PickYearCell() {
 }
 
 int YearGrid::NarrowestWidth() {
-    return ToPixels(gridWidth(YearLayout::commonColumns));
+    return ToPixels(gridWidth(commonColumns));
 }
 
 QSize YearGrid::LargestSize(int c) {
@@ -71,21 +87,27 @@ QSize YearGrid::LargestSize(int c) {
 }
 
 void YearGrid::fitYear() {
-    const bool wide = Calendar() == Jewish && JewishLeap;
-    for (int column = YearLayout::adarTwoColumn; column < Cols(); ++column)
+    const bool wide = hasAdarTwo(Calendar());
+    for (int column = adarTwoColumn; column < Cols(); ++column)
         SetColHidden(column, !wide);
     const QSize former = size();
-    SetSize(gridWidth(wide ? YearLayout::leapColumns : YearLayout::commonColumns), gridHeight());
+    SetSize(gridWidth(wide ? leapColumns : commonColumns), gridHeight());
     if (size() != former)
         Q_EMIT Fitted();
 }
 
 GridPlace YearGrid::CornerOf(int month) const {
-    return YearLayout::BlockOf(Calendar(), month);
+    const bool isLeap = hasAdarTwo(Calendar());
+    const int place = month - 1 - (isLeap && month >= adarTwo ? 1 : 0);
+    const int extra = isLeap && month == adarTwo ? monthColumns : 0;
+    return {place / monthsInBand * bandRows + titleRows,
+            extra + place % monthsInBand * monthColumns + 1};
 }
 
 int YearGrid::MonthOf(GridPlace cell) const {
-    return YearLayout::MonthOf(Calendar(), cell);
+    const int band = cell.row / bandRows;
+    const int month = (cell.column - 1) / monthColumns + band * monthsInBand + 1;
+    return hasAdarTwo(Calendar()) && band > adarTwoBand ? month + 1 : month;
 }
 
 // Once: sizes, merged title rows, colours.
@@ -99,7 +121,7 @@ void YearGrid::InitYearGrid(int c) {
     for (int row = 0; row < Rows(); row += bandRows)
         SetMergeRow(row);
     SetCalendar(c);
-    SetSize(gridWidth(YearLayout::commonColumns), gridHeight());
+    SetSize(gridWidth(commonColumns), gridHeight());
 }
 
 // Refills the grid for the chosen year.
@@ -135,9 +157,9 @@ void YearGrid::setTitle(int month) {
 
 // Only the Jewish grid has the columns.
 void YearGrid::blankAdarTwo() {
-    const int top = YearLayout::adarTwoBand * bandRows;
+    const int top = adarTwoBand * bandRows;
     for (int row = top; row < top + bandRows; ++row) {
-        for (int column = YearLayout::adarTwoColumn; column < Cols(); ++column)
+        for (int column = adarTwoColumn; column < Cols(); ++column)
             SetTextMatrix(row, column, QString());
     }
 }
