@@ -2,7 +2,6 @@
 #include "printing/paperdays.h"
 
 #include "calc/calc.h"
-#include "calc/keptstate.h"
 #include "calc/range.h"
 #include "calc/state.h"
 #include "changecals/changecals.h"
@@ -27,8 +26,10 @@ PaperDate chosenDateIn(int c) {
             Text(MonthNames(c, month))};
 }
 
-PaperDay chosenDay() {
-    PaperDay day{CurJD, WeekDayNo, MoonAge, {}};
+PaperDay deriveDay(int julianDay) {
+    ChangeCals::DeriveDay(julianDay);
+    ChangeCals::SetMoonAge();
+    PaperDay day{julianDay, WeekDayNo, MoonAge, {}};
     for (int c = 1; c <= calendarCount; ++c)
         day.dates(c) = chosenDateIn(c);
     return day;
@@ -60,13 +61,11 @@ QString withYear(const QString& months, int year) {
 } // namespace
 
 std::vector<PaperDay> Printing::DaysBetween(int first, int last) {
-    const auto kept = Calc::KeepState();
+    const int chosen = CurJD;
     std::vector<PaperDay> days;
-    for (int julianDay = first; julianDay <= last; ++julianDay) {
-        ChangeCals::DeriveDay(julianDay);
-        ChangeCals::SetMoonAge();
-        days.push_back(chosenDay());
-    }
+    for (int julianDay = first; julianDay <= last; ++julianDay)
+        days.push_back(deriveDay(julianDay));
+    deriveDay(chosen); // the tables follow from the day alone
     return days;
 }
 
