@@ -12,14 +12,15 @@
 #include "platform/message.h"
 #include "platform/pointer.h"
 #include "platform/text.h"
+#include "platform/wrapping.h"
 #include "settings/usersettings.h"
 #include "shared/settings.h"
 #include "shared/texts.h"
-#include "start/dialogframe.h"
 #include "start/language.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
+#include <QGroupBox>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -48,6 +49,34 @@ int widestWord(const QFontMetrics& metrics) {
             width = std::max(width, metrics.horizontalAdvance(word));
     }
     return width;
+}
+
+// Its text is shown as it stands, wrapped at `width` pixels.
+QLabel* newLabel(const QString& text, int width, QWidget* parent, const QFont& font = {}) {
+    auto* label = new QLabel(parent);
+    label->setFont(font);
+    label->setTextFormat(Qt::PlainText);
+    label->setText(Wrapped(text, label->font(), width));
+    return label;
+}
+
+// The rows of a frame. Its title stands inside, wrapped: the toolkit does not wrap it,
+// and some styles cut it.
+QVBoxLayout* newFrame(const QString& title, int width, QWidget* parent) {
+    auto* frame = new QGroupBox(parent);
+    frame->setAccessibleName(title);
+    auto* rows = new QVBoxLayout(frame);
+    const QMargins margins = rows->contentsMargins();
+    rows->setContentsMargins(margins - QMargins(0, margins.top() / 2, 0, margins.bottom() / 2));
+    QFont bold = frame->font();
+    bold.setBold(true);
+    rows->addWidget(newLabel(title, width, frame, bold));
+    return rows;
+}
+
+// The caption of a button that has `width` pixels for it.
+QString wrappedCaption(const QString& text, const QFont& font, int width) {
+    return Caption(Wrapped(text, font, width).toStdString());
 }
 
 } // namespace
@@ -134,17 +163,17 @@ QWidget* frmOptions::newColumns(QWidget* parent, QBoxLayout::Direction direction
     return widget;
 }
 
-DialogFrame* frmOptions::moslemFrame(QWidget* parent) {
-    auto* frame = new DialogFrame(Text(LabelTexts(MoslemCalendarLabel)), m_textWidth, parent);
-    QLabel* types = NewDialogLabel(Text(LabelTexts(MoslemTypesLabel)), m_textWidth, frame);
+QWidget* frmOptions::moslemFrame(QWidget* parent) {
+    QVBoxLayout* rows = newFrame(Text(LabelTexts(MoslemCalendarLabel)), m_textWidth, parent);
+    QLabel* types = newLabel(Text(LabelTexts(MoslemTypesLabel)), m_textWidth, rows->parentWidget());
     types->setText(Caption(types->text().toStdString())); // a label's "&" is its buddy's key
-    frame->Rows()->addWidget(types);
+    rows->addWidget(types);
     const int captionWidth = m_textWidth - Metric(QStyle::PM_ExclusiveIndicatorWidth) -
                              Metric(QStyle::PM_RadioButtonLabelSpacing);
     const Table<QString, 2> captions{variantCaption(MoslemEra1Label, MoslemLeapYears1Label),
                                      variantCaption(MoslemEra2Label, MoslemLeapYears2Label)};
     for (int type = 1; type <= 2; ++type) {
-        auto* option = new QRadioButton(WrappedCaption(captions(type), font(), captionWidth));
+        auto* option = new QRadioButton(wrappedCaption(captions(type), font(), captionWidth));
         option->setObjectName(QStringLiteral("Option1_%1").arg(type));
         option->setChecked((MoslemType == 1) == (type == 1));
         connect(option, &QRadioButton::clicked, this, [this, type] { Option1_Click(type); });
@@ -153,27 +182,27 @@ DialogFrame* frmOptions::moslemFrame(QWidget* parent) {
             if (chosen)
                 Option1_Click(type);
         });
-        frame->Rows()->addWidget(option);
+        rows->addWidget(option);
         if (type == 1)
             types->setBuddy(option); // told once, with the first choice
     }
-    return frame;
+    return rows->parentWidget();
 }
 
-DialogFrame* frmOptions::weekdaysFrame(QWidget* parent) {
-    auto* frame = new DialogFrame(Text(LabelTexts(FirstWeekDayLabel)), m_columnWidth, parent);
+QWidget* frmOptions::weekdaysFrame(QWidget* parent) {
+    QVBoxLayout* rows = newFrame(Text(LabelTexts(FirstWeekDayLabel)), m_columnWidth, parent);
     auto* grid = new QGridLayout;
-    frame->Rows()->addLayout(grid);
+    rows->addLayout(grid);
     for (int pane = 1; pane <= paneCount; ++pane) {
         const int c = m_paneCalendar(pane);
         const QString name = IsCalendar(c) ? Text(CalendarNames(c)) : QString();
-        m_combo1(pane) = newWeekdayList(pane, frame);
+        m_combo1(pane) = newWeekdayList(pane, rows->parentWidget());
         m_combo1(pane)->setAccessibleName(name);
-        grid->addWidget(NewDialogLabel(name, nameWidth(), frame), pane - 1, 0);
+        grid->addWidget(newLabel(name, nameWidth(), rows->parentWidget()), pane - 1, 0);
         grid->addWidget(m_combo1(pane), pane - 1, 1);
     }
     grid->setColumnStretch(0, 1);
-    return frame;
+    return rows->parentWidget();
 }
 
 ComboBox* frmOptions::newWeekdayList(int pane, QWidget* parent) {
@@ -191,30 +220,30 @@ ComboBox* frmOptions::newWeekdayList(int pane, QWidget* parent) {
     return list;
 }
 
-DialogFrame* frmOptions::languageFrame(QWidget* parent) {
-    auto* frame = new DialogFrame(Text(LabelTexts(LanguageLabel)), m_columnWidth, parent);
-    m_combo2 = newWideList(QStringLiteral("Combo2"), LanguageLabel, frame);
+QWidget* frmOptions::languageFrame(QWidget* parent) {
+    QVBoxLayout* rows = newFrame(Text(LabelTexts(LanguageLabel)), m_columnWidth, parent);
+    m_combo2 = newWideList(QStringLiteral("Combo2"), LanguageLabel, rows);
     m_combo2->SetItems(LanguageList(), -1);
     selectLanguage();
-    return frame;
+    return rows->parentWidget();
 }
 
-DialogFrame* frmOptions::startupFrame(QWidget* parent) {
-    auto* frame = new DialogFrame(Text(LabelTexts(StartupWindowLabel)), m_columnWidth, parent);
-    m_combo3 = newWideList(QStringLiteral("Combo3"), StartupWindowLabel, frame);
+QWidget* frmOptions::startupFrame(QWidget* parent) {
+    QVBoxLayout* rows = newFrame(Text(LabelTexts(StartupWindowLabel)), m_columnWidth, parent);
+    m_combo3 = newWideList(QStringLiteral("Combo3"), StartupWindowLabel, rows);
     m_combo3->AddItem(Text(CalendarNames(monthlyCalendarsName)));
     for (int c = 1; c <= calendarCount; ++c)
         m_combo3->AddItem(Text(CalendarNames(c)));
     m_combo3->SetListIndex(StartupWindow);
-    return frame;
+    return rows->parentWidget();
 }
 
-ComboBox* frmOptions::newWideList(const QString& name, int label, DialogFrame* frame) {
-    auto* list = new ComboBox(name, frame);
+ComboBox* frmOptions::newWideList(const QString& name, int label, QVBoxLayout* rows) {
+    auto* list = new ComboBox(name, rows->parentWidget());
     list->setMinimumContentsLength(18);
     list->setAccessibleName(Text(LabelTexts(label)));
-    frame->Rows()->addWidget(list);
-    frame->Rows()->addStretch(); // titles of frames side by side stand on one line
+    rows->addWidget(list);
+    rows->addStretch(); // titles of frames side by side stand on one line
     return list;
 }
 
@@ -232,7 +261,7 @@ QHBoxLayout* frmOptions::commandRow() {
     const int captionWidth = m_textWidth - Metric(QStyle::PM_IndicatorWidth) -
                              Metric(QStyle::PM_CheckBoxLabelSpacing) - 2 * buttonSide();
     m_check1 =
-        new QCheckBox(WrappedCaption(Text(LabelTexts(ShowTipsLabel)), font(), captionWidth), this);
+        new QCheckBox(wrappedCaption(Text(LabelTexts(ShowTipsLabel)), font(), captionWidth), this);
     m_check1->setObjectName(QStringLiteral("Check1"));
     m_check1->setChecked(ShowTips != 0);
     auto* commands = new QHBoxLayout;

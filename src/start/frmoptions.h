@@ -12,7 +12,6 @@
 
 class ComboBox;
 class CommandButton;
-class DialogFrame;
 class QCheckBox;
 
 /// The options dialog. What is chosen in it takes effect with Apply.
@@ -44,12 +43,12 @@ private:
     void measure();
     void placeFrames(QWidget* frames);
     QWidget* newColumns(QWidget* parent, QBoxLayout::Direction direction);
-    DialogFrame* moslemFrame(QWidget* parent);
-    DialogFrame* weekdaysFrame(QWidget* parent);
+    QWidget* moslemFrame(QWidget* parent);
+    QWidget* weekdaysFrame(QWidget* parent);
     ComboBox* newWeekdayList(int pane, QWidget* parent);
-    DialogFrame* languageFrame(QWidget* parent);
-    DialogFrame* startupFrame(QWidget* parent);
-    ComboBox* newWideList(const QString& name, int label, DialogFrame* frame);
+    QWidget* languageFrame(QWidget* parent);
+    QWidget* startupFrame(QWidget* parent);
+    ComboBox* newWideList(const QString& name, int label, QVBoxLayout* rows);
     int nameWidth() const;
     int buttonSide() const;
     QHBoxLayout* commandRow();
