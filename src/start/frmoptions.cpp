@@ -158,8 +158,14 @@ QWidget* frmOptions::newColumns(QWidget* parent, QBoxLayout::Direction direction
     columns->addWidget(weekdaysFrame(widget));
     auto* right = new QVBoxLayout;
     columns->addLayout(right, 1);
-    right->addWidget(languageFrame(widget));
-    right->addWidget(startupFrame(widget));
+    m_combo2 = newWideList(QStringLiteral("Combo2"), LanguageLabel, right);
+    m_combo2->SetItems(LanguageList(), -1);
+    selectLanguage();
+    m_combo3 = newWideList(QStringLiteral("Combo3"), StartupWindowLabel, right);
+    m_combo3->AddItem(Text(CalendarNames(monthlyCalendarsName)));
+    for (int c = 1; c <= calendarCount; ++c)
+        m_combo3->AddItem(Text(CalendarNames(c)));
+    m_combo3->SetListIndex(StartupWindow);
     return widget;
 }
 
@@ -220,25 +226,10 @@ ComboBox* frmOptions::newWeekdayList(int pane, QWidget* parent) {
     return list;
 }
 
-QWidget* frmOptions::languageFrame(QWidget* parent) {
-    QVBoxLayout* rows = newFrame(Text(LabelTexts(LanguageLabel)), m_columnWidth, parent);
-    m_combo2 = newWideList(QStringLiteral("Combo2"), LanguageLabel, rows);
-    m_combo2->SetItems(LanguageList(), -1);
-    selectLanguage();
-    return rows->parentWidget();
-}
-
-QWidget* frmOptions::startupFrame(QWidget* parent) {
-    QVBoxLayout* rows = newFrame(Text(LabelTexts(StartupWindowLabel)), m_columnWidth, parent);
-    m_combo3 = newWideList(QStringLiteral("Combo3"), StartupWindowLabel, rows);
-    m_combo3->AddItem(Text(CalendarNames(monthlyCalendarsName)));
-    for (int c = 1; c <= calendarCount; ++c)
-        m_combo3->AddItem(Text(CalendarNames(c)));
-    m_combo3->SetListIndex(StartupWindow);
-    return rows->parentWidget();
-}
-
-ComboBox* frmOptions::newWideList(const QString& name, int label, QVBoxLayout* rows) {
+// In a frame of its own at the end of a column.
+ComboBox* frmOptions::newWideList(const QString& name, int label, QVBoxLayout* column) {
+    QVBoxLayout* rows = newFrame(Text(LabelTexts(label)), m_columnWidth, column->parentWidget());
+    column->addWidget(rows->parentWidget());
     auto* list = new ComboBox(name, rows->parentWidget());
     list->setMinimumContentsLength(18);
     list->setAccessibleName(Text(LabelTexts(label)));

@@ -46,9 +46,7 @@ private:
     QWidget* moslemFrame(QWidget* parent);
     QWidget* weekdaysFrame(QWidget* parent);
     ComboBox* newWeekdayList(int pane, QWidget* parent);
-    QWidget* languageFrame(QWidget* parent);
-    QWidget* startupFrame(QWidget* parent);
-    ComboBox* newWideList(const QString& name, int label, QVBoxLayout* rows);
+    ComboBox* newWideList(const QString& name, int label, QVBoxLayout* column);
     int nameWidth() const;
     int buttonSide() const;
     QHBoxLayout* commandRow();
