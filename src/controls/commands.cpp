@@ -4,7 +4,7 @@
 #include "changecals/changecals.h"
 #include "changecals/closing.h"
 #include "changecals/opening.h"
-#include "controls/clipboardtext.h"
+#include "controls/dayinwords.h"
 #include "platform/form.h"
 #include "shared/texts.h"
 
@@ -73,7 +73,7 @@ void Commands::Run(Command command) const {
     case Command::About:
         return ChangeCals::ShowAbout();
     case Command::CopyDay:
-        return QGuiApplication::clipboard()->setText(Controls::ChosenDayInWords());
+        return QGuiApplication::clipboard()->setText(ChosenDayInWords());
     case Command::Print:
         return m_print();
     case Command::Close:

@@ -3,7 +3,7 @@
 
 #include "calc/calc.h"
 #include "calc/state.h"
-#include "controls/spokenday.h"
+#include "controls/dayinwords.h"
 #include "platform/numbers.h"
 #include "platform/text.h"
 #include "shared/look.h"

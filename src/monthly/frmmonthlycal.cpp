@@ -3,8 +3,8 @@
 
 #include "changecals/closing.h"
 #include "changecals/positions.h"
+#include "controls/dayinwords.h"
 #include "controls/emblems.h"
-#include "controls/spokenday.h"
 #include "controls/tips.h"
 #include "monthly/commoninfo.h"
 #include "monthly/juliandayfield.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "controls/spokenday.h"
+#include "controls/dayinwords.h"
 
 #include "calc/state.h"
 #include "changecals/changecals.h"
@@ -22,8 +22,8 @@ TEST_F(SpokenDays, AreWholeDatesInTheirCalendar) {
 
 TEST_F(SpokenDays, KeepNamesFromTheRightApartFromNumbersWhereTheyAreSeen) {
     MonthNames(Gregorian, 11) = "\u05D0\u05D1";
-    EXPECT_EQ(DateInWords(Gregorian, QStringLiteral("20"), 11),
-              QStringLiteral("20 \u2068\u05D0\u05D1\u2069 2026"));
+    EXPECT_EQ(ChosenDayInWords().split(u'\n').at(1),
+              QStringLiteral("Gregorian calendar: 20 \u2068\u05D0\u05D1\u2069 2026"));
     EXPECT_EQ(SpokenDay(Gregorian, 5, QStringLiteral("20"), 11),
               QStringLiteral("Friday, 20 \u05D0\u05D1 2026, Gregorian calendar"));
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "controls/clipboardtext.h"
+#include "controls/dayinwords.h"
 
 #include "changecals/changecals.h"
 #include "shared/texts.h"
@@ -7,18 +7,18 @@
 
 namespace {
 
-class ClipboardText : public WidgetTest {
+class CopiedDay : public WidgetTest {
 protected:
-    ClipboardText() { startToday(); }
+    CopiedDay() { startToday(); }
 
     static QStringList linesOn(int julianDay) {
         CurJD = julianDay;
         ChangeCals::ChangeJD();
-        return Controls::ChosenDayInWords().split(u'\n');
+        return ChosenDayInWords().split(u'\n');
     }
 };
 
-TEST_F(ClipboardText, SaysTheDayInEveryCalendarAndWhatTheyHaveInCommon) {
+TEST_F(CopiedDay, SaysTheDayInEveryCalendarAndWhatTheyHaveInCommon) {
     EXPECT_EQ(linesOn(2451545), (QStringList{QStringLiteral("Julian calendar: 19 December 1999"),
                                              QStringLiteral("Gregorian calendar: 1 January 2000"),
                                              QStringLiteral("Jewish calendar: 23 Tevet 5760"),
@@ -28,7 +28,7 @@ TEST_F(ClipboardText, SaysTheDayInEveryCalendarAndWhatTheyHaveInCommon) {
                                              QStringLiteral("Moon age (in days): 24.3")}));
 }
 
-TEST_F(ClipboardText, LeavesOutWhatACalendarCannotShow) {
+TEST_F(CopiedDay, LeavesOutWhatACalendarCannotShow) {
     EXPECT_EQ(linesOn(1721319).size(), 4); // Jewish only
     EXPECT_EQ(linesOn(1721319).front(), QStringLiteral("Jewish calendar: 1 Tishri 3761"));
     EXPECT_EQ(linesOn(1948438).size(), 6); // the day before the Moslem era
@@ -36,7 +36,7 @@ TEST_F(ClipboardText, LeavesOutWhatACalendarCannotShow) {
     EXPECT_EQ(linesOn(2817345).front(), QStringLiteral("Jewish calendar: 29 Tammuz 6761"));
 }
 
-TEST_F(ClipboardText, IsInTheLanguageNowChosen) {
+TEST_F(CopiedDay, IsInTheLanguageNowChosen) {
     CalendarNames(Gregorian) = "Gregorianischer Kalender";
     MonthNames(Gregorian, 1) = "Januar";
     EXPECT_EQ(linesOn(2451545).at(1), QStringLiteral("Gregorianischer Kalender: 1 Januar 2000"));
