@@ -11,45 +11,32 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QShortcut>
+#include <algorithm>
 #include <utility>
 
 namespace {
 
-struct Key {
-    QKeyCombination key;
+struct Row {
     Command command;
+    QKeyCombination key;
+    const char* picture = nullptr; ///< of its button, where it has one
+    int text = 0;
 };
 
-constexpr Key keys[] = {
-    {Qt::CTRL | Qt::Key_T, Command::Today},
-    {Qt::CTRL | Qt::Key_M, Command::MonthlyCalendar},
-    {Qt::CTRL | Qt::Key_Y, Command::YearCalendars},
-    {Qt::CTRL | Qt::Key_Comma, Command::Options},
-    {Qt::Key_F1, Command::About},
-    {Qt::CTRL | Qt::Key_C, Command::CopyDay},
-    {Qt::CTRL | Qt::Key_P, Command::Print},
-    {Qt::CTRL | Qt::Key_W, Command::Close},
-    {Qt::CTRL | Qt::Key_Q, Command::Exit},
+constexpr Row rows[] = {
+    {Command::Today, Qt::CTRL | Qt::Key_T, "buttons/today", TodayText},
+    {Command::MonthlyCalendar, Qt::CTRL | Qt::Key_M},
+    {Command::YearCalendars, Qt::CTRL | Qt::Key_Y, "buttons/years", YearCalendarsText},
+    {Command::Options, Qt::CTRL | Qt::Key_Comma, "buttons/options", OptionsText},
+    {Command::About, Qt::Key_F1, "buttons/about", AboutText},
+    {Command::CopyDay, Qt::CTRL | Qt::Key_C},
+    {Command::Print, Qt::CTRL | Qt::Key_P},
+    {Command::Close, Qt::CTRL | Qt::Key_W, "buttons/close", ExitText},
+    {Command::Exit, Qt::CTRL | Qt::Key_Q},
 };
 
-struct Look {
-    const char* picture;
-    int text;
-};
-
-Look lookOf(Command command) {
-    switch (command) {
-    case Command::YearCalendars:
-        return {"years", YearCalendarsText};
-    case Command::Today:
-        return {"today", TodayText};
-    case Command::Options:
-        return {"options", OptionsText};
-    case Command::About:
-        return {"about", AboutText};
-    default:
-        return {"close", ExitText};
-    }
+const Row& rowOf(Command command) {
+    return *std::ranges::find(rows, command, &Row::command);
 }
 
 } // namespace
@@ -57,7 +44,11 @@ Look lookOf(Command command) {
 Commands::Commands(Form& window, MainWindowNumber number, std::function<void()> close,
                    std::function<void()> print)
     : m_number(number), m_close(std::move(close)), m_print(std::move(print)) {
-    addKeys(window);
+    for (const Row& row : rows) {
+        auto* shortcut = new QShortcut(QKeySequence(row.key), &window);
+        QObject::connect(shortcut, &QShortcut::activated, &window,
+                         [this, command = row.command] { Run(command); });
+    }
 }
 
 void Commands::Run(Command command) const {
@@ -89,17 +80,9 @@ void Commands::MouseDown(Command command, Qt::MouseButton button) const {
 }
 
 QString Commands::PictureOf(Command command) {
-    return QStringLiteral("buttons/") + QLatin1String(lookOf(command).picture);
+    return QLatin1String(rowOf(command).picture);
 }
 
 int Commands::TextOf(Command command) {
-    return lookOf(command).text;
-}
-
-void Commands::addKeys(Form& window) {
-    for (const Key& entry : keys) {
-        auto* shortcut = new QShortcut(QKeySequence(entry.key), &window);
-        QObject::connect(shortcut, &QShortcut::activated, &window,
-                         [this, command = entry.command] { Run(command); });
-    }
+    return rowOf(command).text;
 }

@@ -45,8 +45,6 @@ public:
     static int TextOf(Command command);
 
 private:
-    void addKeys(Form& window);
-
     MainWindowNumber m_number;
     std::function<void()> m_close;
     std::function<void()> m_print;
