@@ -111,8 +111,8 @@ void showWindows() {
     ChangeCals::OpenYearWindow(Gregorian);
     ChangeCals::OpenYearWindow(Jewish);
     ChangeCals::ShowMoonWindow();
-    ChangeCals::ShowOptions();
-    ChangeCals::ShowAbout();
+    ChangeCals::LoadOptions().Show();
+    ChangeCals::LoadAbout().Show();
     QApplication::processEvents();
 }
 

@@ -46,14 +46,6 @@ void ChangeCals::ShowMonthlyWindow() {
     window.Show();
 }
 
-void ChangeCals::ShowOptions() {
-    LoadOptions().Show();
-}
-
-void ChangeCals::ShowAbout() {
-    LoadAbout().Show();
-}
-
 void ChangeCals::SetAllTexts() {
     for (const MainWindowNumber number : mainWindows) {
         if (MainWindow* window = LoadedWindow(number))

@@ -19,9 +19,6 @@ void ShowMoonWindow();
 /// it was not visible.
 void ShowMonthlyWindow();
 
-void ShowOptions();
-void ShowAbout();
-
 /// Texts and tool tips of all loaded main windows.
 void SetAllTexts();
 

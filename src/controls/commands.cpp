@@ -4,8 +4,8 @@
 #include "changecals/changecals.h"
 #include "changecals/closing.h"
 #include "changecals/opening.h"
+#include "changecals/windows.h"
 #include "controls/dayinwords.h"
-#include "platform/form.h"
 #include "shared/texts.h"
 
 #include <QClipboard>
@@ -60,9 +60,9 @@ void Commands::Run(Command command) const {
     case Command::YearCalendars:
         return ChangeCals::OpenYearWindowsOfPanes();
     case Command::Options:
-        return ChangeCals::ShowOptions();
+        return ChangeCals::LoadOptions().Show();
     case Command::About:
-        return ChangeCals::ShowAbout();
+        return ChangeCals::LoadAbout().Show();
     case Command::CopyDay:
         return QGuiApplication::clipboard()->setText(ChosenDayInWords());
     case Command::Print:

@@ -87,7 +87,7 @@ TEST_F(Options, CtrlWClosesItAndDiscards) {
 }
 
 TEST_F(Options, ApplyUnloadsTheAboutBox) {
-    ChangeCals::ShowAbout();
+    ChangeCals::LoadAbout().Show();
     const QPointer<Form> about(&ChangeCals::LoadAbout());
     open();
     apply();
@@ -154,7 +154,7 @@ TEST_F(Options, AStartupWindowThatIsNoneStaysUntilOneIsChosen) {
 TEST_F(Options, ItCanBeOpenedAgain) {
     open();
     Form* first = dialog;
-    ChangeCals::ShowOptions();
+    ChangeCals::LoadOptions().Show();
     EXPECT_EQ(&ChangeCals::LoadOptions(), first) << "there is one of it";
     apply();
     open();

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "changecals/opening.h"
+#include "changecals/windows.h"
 #include "platform/combobox.h"
 #include "platform/commandbutton.h"
 #include "start/frmoptions.h"
@@ -29,7 +29,7 @@ protected:
     }
 
     void open() {
-        ChangeCals::ShowOptions();
+        ChangeCals::LoadOptions().Show();
         dialog = &ChangeCals::LoadOptions();
         ASSERT_TRUE(QTest::qWaitForWindowActive(dialog));
         for (Record* record : records())

@@ -2,6 +2,7 @@
 // The texts of every shipped language in year grids and the options, at the sizes
 // that desktops use.
 #include "changecals/opening.h"
+#include "changecals/windows.h"
 #include "monthly/frmmonthlycal.h"
 #include "moon/frmmoon.h"
 #include "platform/flexgrid.h"
@@ -114,7 +115,7 @@ TEST_P(TextsFit, InEveryControlOfEveryWindow) {
             expectYearGridFits(c, language);
         ChangeCals::LoadMonthly().ReSetForm();
         expectFrameStandsFree(language);
-        ChangeCals::ShowOptions();
+        ChangeCals::LoadOptions().Show();
         expectOptionsFit(language);
     }
     std::string english = englishLanguage;

@@ -199,8 +199,8 @@ TEST_F(Starting, TheSessionsEndClosesEveryWindowAndSavesNothing) {
     ASSERT_TRUE(Start::Main());
     ChangeCals::OpenYearWindowsOfPanes();
     ChangeCals::ShowMoonWindow();
-    ChangeCals::ShowOptions();
-    ChangeCals::ShowAbout();
+    ChangeCals::LoadOptions().Show();
+    ChangeCals::LoadAbout().Show();
     QEvent end(QEvent::Quit);
     QCoreApplication::sendEvent(qApp, &end);
     EXPECT_EQ(m_exitStatus, 0);
