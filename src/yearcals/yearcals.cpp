@@ -13,22 +13,17 @@
 
 namespace {
 
-void hideYear(const YearCals::YearControls& controls) {
-    SetAvailable(controls.grid, false, true, controls.focusNext);
-    controls.selector.Clear();
-    SetAvailable(controls.selector, true, false, controls.focusNext);
-    SetAvailable(controls.previousYear, true, false, controls.focusNext);
-    SetAvailable(controls.nextYear, true, false, controls.focusNext);
-}
-
 // The way back from beyond the range stays open.
 void setAvailable(const YearCals::YearControls& controls, int c) {
-    const bool inRange = !Calc::IsAfterRange(c);
-    SetAvailable(controls.grid, true, inRange, controls.focusNext);
-    QWidget& focusNext = inRange ? static_cast<QWidget&>(controls.grid) : controls.focusNext;
-    SetAvailable(controls.selector, true, inRange, focusNext);
-    SetAvailable(controls.previousYear, true, CurDate(c, Year) != MinYear(c), focusNext);
-    SetAvailable(controls.nextYear, true, inRange && CurDate(c, Year) != MaxYear(c), focusNext);
+    const bool isBefore = Calc::IsBeforeRange(c);
+    const bool isAfter = Calc::IsAfterRange(c);
+    const bool isWithin = !isBefore && !isAfter;
+    const int year = CurDate(c, Year);
+    SetAvailable(controls.grid, !isBefore, !isAfter, controls.focusNext);
+    QWidget& focusNext = isWithin ? static_cast<QWidget&>(controls.grid) : controls.focusNext;
+    SetAvailable(controls.selector, true, isWithin, focusNext);
+    SetAvailable(controls.previousYear, true, !isBefore && year != MinYear(c), focusNext);
+    SetAvailable(controls.nextYear, true, isWithin && year != MaxYear(c), focusNext);
 }
 
 } // namespace
@@ -36,11 +31,11 @@ void setAvailable(const YearCals::YearControls& controls, int c) {
 void YearCals::ShowYear(const YearControls& controls, int c) {
     const UpdatingGuard updating;
     controls.moon.BringToFront(MoonPhase);
+    setAvailable(controls, c);
     if (Calc::IsBeforeRange(c)) {
-        hideYear(controls);
+        controls.selector.Clear();
         return;
     }
-    setAvailable(controls, c);
     Controls::ShowYearInList(controls.selector, c);
     controls.grid.ShowYear();
 }
