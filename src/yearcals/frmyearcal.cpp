@@ -55,7 +55,6 @@ frmYearCal::frmYearCal(int c)
       m_grid(new YearGrid(c, this)) {
     createControls();
     placeControls();
-    connectControls();
     Form_Resize();
     m_grid->setFocus(); // the days, not a list that would be filled at once
     SetTexts();
@@ -155,19 +154,6 @@ void frmYearCal::StepYear(int by) {
 }
 
 void frmYearCal::createControls() {
-    const auto create = [this](int index, const QString& picture) {
-        m_command1(index) =
-            new CommandButton(QStringLiteral("Command1_%1").arg(index), picture, this);
-    };
-    create(PreviousYear, QStringLiteral("buttons/previous"));
-    create(NextYear, QStringLiteral("buttons/next"));
-    for (int index = TodayButton; index <= CloseButton; ++index)
-        create(index, Commands::PictureOf(commandOf(index)));
-    for (int index = FirstOtherCalendar; index <= buttonCount; ++index)
-        create(index, Controls::EmblemOf(otherCalendar(index)));
-}
-
-void frmYearCal::connectControls() {
     m_combo1->SetFiller([c = m_calendar] { return Controls::YearEntries(c); });
     m_combo1->SetOrigin([] { return CurJD; });
     connect(m_combo1, &ComboBox::Click, this, &frmYearCal::Combo1_Click);
@@ -176,7 +162,9 @@ void frmYearCal::connectControls() {
     connect(m_grid, &DayGrid::Paged, this, &frmYearCal::StepYear);
     connect(m_grid, &YearGrid::Fitted, this, &frmYearCal::Form_Resize);
     for (int index = 1; index <= buttonCount; ++index) {
-        CommandButton* button = m_command1(index);
+        auto* button =
+            new CommandButton(QStringLiteral("Command1_%1").arg(index), pictureOf(index), this);
+        m_command1(index) = button;
         connect(button, &CommandButton::clicked, this, [this, index] { Command1_Click(index); });
         connect(button, &CommandButton::MouseDown, this,
                 [this, index](Qt::MouseButton pressed) { Command1_MouseDown(index, pressed); });
@@ -221,16 +209,17 @@ void frmYearCal::placeControls() {
 
 // The commands that both kinds of calendar window have.
 Command frmYearCal::commandOf(int index) {
-    switch (index) {
-    case TodayButton:
-        return Command::Today;
-    case OptionsButton:
-        return Command::Options;
-    case AboutButton:
-        return Command::About;
-    default:
-        return Command::Close;
-    }
+    constexpr Command commands[] = {Command::Today, Command::Options, Command::About,
+                                    Command::Close};
+    return commands[index - TodayButton];
+}
+
+QString frmYearCal::pictureOf(int index) const {
+    if (index < TodayButton)
+        return index == PreviousYear ? QStringLiteral("buttons/previous")
+                                     : QStringLiteral("buttons/next");
+    return index < FirstOtherCalendar ? Commands::PictureOf(commandOf(index))
+                                      : Controls::EmblemOf(otherCalendar(index));
 }
 
 // The calendars but this window's, in their order.

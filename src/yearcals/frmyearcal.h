@@ -57,9 +57,9 @@ private:
 
     void StepYear(int by);
     void createControls();
-    void connectControls();
     void placeControls();
     static Command commandOf(int index);
+    QString pictureOf(int index) const;
     int otherCalendar(int index) const;
     YearCals::YearControls arranged();
 
