@@ -6,19 +6,15 @@
 #include "changecals/changecals.h"
 #include "shared/flags.h"
 
-QString Controls::YearEntry(int year) {
-    return QString::number(year);
-}
-
 ListEntries Controls::YearEntries(int c) {
-    return NumberedEntries(MinYear(c), MaxYear(c), CurDate(c, Year), YearEntry);
+    return NumberedEntries(MinYear(c), MaxYear(c), CurDate(c, Year));
 }
 
 void Controls::ShowYearInList(ComboBox& list, int c) {
     const int year = CurDate(c, Year);
     const bool isInList = year >= MinYear(c) && year <= MaxYear(c);
     if (list.ListCount() <= 1 || !isInList)
-        list.SetOnlyItem(YearEntry(year));
+        list.SetOnlyItem(QString::number(year));
     else if (list.ListIndex() != year - MinYear(c))
         list.SetListIndex(year - MinYear(c));
 }

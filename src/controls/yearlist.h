@@ -7,9 +7,6 @@
 /// A list of all years that a calendar can show, in rising order.
 namespace Controls {
 
-/// A year as the list shows it.
-QString YearEntry(int year);
-
 /// All entries, the chosen day's year selected; none when that year is not among
 /// them.
 ListEntries YearEntries(int c);

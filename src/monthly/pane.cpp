@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "monthly/pane.h"
 
+#include "calc/calc.h"
 #include "calc/range.h"
 #include "calc/state.h"
 #include "changecals/changecals.h"
 #include "controls/tips.h"
 #include "controls/yearlist.h"
 #include "monthly/monthgrid.h"
-#include "monthly/paneentries.h"
 #include "platform/availability.h"
 #include "platform/combobox.h"
 #include "platform/numbers.h"
@@ -24,6 +24,62 @@ constexpr int gap = 4; // pixels between controls
 
 ComboBox* newCombo(int kind, int pane, QWidget* parent) {
     return new ComboBox(QStringLiteral("Combo%1_%2").arg(kind).arg(pane), parent);
+}
+
+// Entries. The number comes first: typed digits are matched with it, and from a day or a
+// week that was chosen the pane reads it back.
+
+QString fraction(int number, int of) {
+    return QStringLiteral("%1/%2").arg(number).arg(of);
+}
+
+// "2/12  February"
+QString numberedMonth(int month, int of, const std::string& name) {
+    return fraction(month, of) + QStringLiteral("  ") + AmidNumbers(Text(name));
+}
+
+QString monthEntry(int c, int month) {
+    return numberedMonth(month, Calc::MonthsInYear(c), MonthNames(c, month));
+}
+
+QString dayEntry(int c, int day) {
+    return fraction(day, YearDays(c, DaysInYear));
+}
+
+QString weekEntry(int c, int week) {
+    return fraction(week, YearDays(c, WeeksInYear));
+}
+
+QStringList calendarEntries() {
+    QStringList names;
+    for (const int c : {Julian, Gregorian, Jewish, Moslem})
+        names.append(Text(CalendarNames(c)));
+    return names;
+}
+
+// Of every month that any calendar can have, in any year.
+QStringList entriesOfAllMonths() {
+    QStringList entries{numberedMonth(7, monthLimit, AdarName + AdarSuffixes(2))};
+    for (int c = 1; c <= calendarCount; ++c) {
+        for (int month = 1; month <= Calc::MonthsInYear(c); ++month)
+            entries.append(monthEntry(c, month));
+    }
+    return entries;
+}
+
+ListEntries monthEntries(int c) {
+    return NumberedEntries(1, Calc::MonthsInYear(c), CurDate(c, Month),
+                           [c](int month) { return monthEntry(c, month); });
+}
+
+ListEntries dayEntries(int c) {
+    return NumberedEntries(1, YearDays(c, DaysInYear), CurDate(c, DayNumber),
+                           [c](int day) { return dayEntry(c, day); });
+}
+
+ListEntries weekEntries(int c) {
+    return NumberedEntries(1, YearDays(c, WeeksInYear), CurDate(c, WeekNumber),
+                           [c](int week) { return weekEntry(c, week); });
 }
 
 } // namespace
@@ -52,9 +108,9 @@ int Pane::Place(int top) {
         combo->setGeometry(left, top, width, height);
         top += height + gap;
     };
-    placeNext(m_combo1, CalendarEntries());
+    placeNext(m_combo1, calendarEntries());
     placeNext(m_combo2);
-    placeNext(m_combo3, EntriesOfAllMonths());
+    placeNext(m_combo3, entriesOfAllMonths());
     m_grid->move(left + (width - m_grid->width()) / 2, top + gap);
     top += m_grid->height() + 3 * gap;
     placeNext(m_combo4);
@@ -73,7 +129,7 @@ void Pane::ShareLetterSizes(const Table<Pane*, paneCount>& panes) {
 }
 
 void Pane::Reset() {
-    m_combo1->SetItems(CalendarEntries(), -1);
+    m_combo1->SetItems(calendarEntries(), -1);
     selectCalendar();
     m_combo3->Clear();
 }
@@ -159,9 +215,9 @@ void Pane::setFillers() {
         list->SetOrigin([] { return CurJD; });
     };
     fill(m_combo2, Controls::YearEntries);
-    fill(m_combo3, MonthEntries);
-    fill(m_combo4, DayEntries);
-    fill(m_combo5, WeekEntries);
+    fill(m_combo3, monthEntries);
+    fill(m_combo4, dayEntries);
+    fill(m_combo5, weekEntries);
 }
 
 int Pane::calendar() const {
@@ -174,10 +230,10 @@ void Pane::selectCalendar() {
 
 void Pane::showOnlyChosenDay() {
     const int c = calendar();
-    m_combo2->SetOnlyItem(Controls::YearEntry(CurDate(c, Year)));
-    m_combo3->SetOnlyItem(MonthEntry(c, CurDate(c, Month)));
-    m_combo4->SetOnlyItem(DayEntry(c, CurDate(c, DayNumber)));
-    m_combo5->SetOnlyItem(WeekEntry(c, CurDate(c, WeekNumber)));
+    m_combo2->SetOnlyItem(QString::number(CurDate(c, Year)));
+    m_combo3->SetOnlyItem(monthEntry(c, CurDate(c, Month)));
+    m_combo4->SetOnlyItem(dayEntry(c, CurDate(c, DayNumber)));
+    m_combo5->SetOnlyItem(weekEntry(c, CurDate(c, WeekNumber)));
 }
 
 // The chooser always stays, as the way to another calendar.

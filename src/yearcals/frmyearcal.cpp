@@ -177,8 +177,8 @@ void frmYearCal::createControls() {
 void frmYearCal::placeControls() {
     const int room =
         YearGrid::NarrowestWidth() + 2 * frame - 2 * margin - buttonsInRow * CommandButton::side;
-    const int selectorWidth = m_combo1->FitWidth(Controls::YearEntry(MaxYear(m_calendar)),
-                                                 room - (groups - 1) * leastGap);
+    const int selectorWidth =
+        m_combo1->FitWidth(QString::number(MaxYear(m_calendar)), room - (groups - 1) * leastGap);
     const int comboHeight = m_combo1->sizeHint().height();
     m_combo1->setGeometry(margin, (controlsHeight - comboHeight) / 2, selectorWidth, comboHeight);
     const int gap = (room - selectorWidth) / (groups - 1);
