@@ -9,15 +9,14 @@ namespace {
 
 constexpr int february = 2;
 constexpr int march = 3;
-constexpr int december = 12;
 
 constexpr int commonYear = 365;
 constexpr int leapYear = 366;
 constexpr int fourYears = 3 * commonYear + leapYear;
 
 // A year that is divisible by 4 is a leap year.
-bool isJulianLeap(int year) {
-    return year % 4 == 0;
+int julianDays(int year) {
+    return year % 4 == 0 ? leapYear : commonYear;
 }
 
 // A century year that is not divisible by 400 is common in the Gregorian
@@ -26,31 +25,21 @@ bool isDroppedCentury(int year) {
     return year % 100 == 0 && year % 400 != 0;
 }
 
-bool isGregorianLeap(int year) {
-    return isJulianLeap(year) && !isDroppedCentury(year);
+int gregorianDays(int year) {
+    return isDroppedCentury(year) ? commonYear : julianDays(year);
 }
 
-void setRomanLengths(int c, bool leap) {
-    MonthDays(c, february) = leap ? 29 : 28;
-    YearDays(c, DaysInYear) = leap ? leapYear : commonYear;
+void setRomanLengths(int c, int yearDays) {
+    MonthDays(c, february) = yearDays == leapYear ? 29 : 28;
+    YearDays(c, DaysInYear) = yearDays;
 }
 
-// By how many days the Gregorian date is ahead of the Julian date of the same
-// day in year `year`. In January and February of a dropped century the
-// difference of the century before still holds.
-int gregorianLead(int year, int month) {
+// By how many days a day's number in the Gregorian year is ahead of its number in the
+// Julian year `year`. The leap day of a dropped century is counted by the Julian number
+// alone, so the difference of the century before holds for all of its year.
+int gregorianLead(int year) {
     const int lead = year / 100 - year / 400 - 2;
-    return isDroppedCentury(year) && month < march ? lead - 1 : lead;
-}
-
-// Into the month before or after.
-void crossMonth(int direction, int& month, int& year) {
-    month += direction;
-    if (month >= 1 && month <= december)
-        return;
-    month = direction < 0 ? december : 1;
-    year += direction;
-    setRomanLengths(Gregorian, isGregorianLeap(year));
+    return isDroppedCentury(year) ? lead - 1 : lead;
 }
 
 } // namespace
@@ -65,7 +54,7 @@ int Calc::JulianJD(int day, int month, int year) {
 
 void Calc::JulianToJD() {
     const int year = CurDate(Julian, Year);
-    setRomanLengths(Julian, isJulianLeap(year));
+    setRomanLengths(Julian, julianDays(year));
     DateToJD(Julian, JulianJD(1, 1, year));
 }
 
@@ -83,34 +72,30 @@ void Calc::JDToJulian() {
         ++year;
 
     CurDate(Julian, Year) = year;
-    setRomanLengths(Julian, isJulianLeap(year));
+    setRomanLengths(Julian, julianDays(year));
     SetMonthAndDay(Julian, dayNumber);
     SetYearEnds(Julian, JulianJD(1, 1, year));
 }
 
 void Calc::GregorianToJD() {
     const int year = CurDate(Gregorian, Year);
-    setRomanLengths(Gregorian, isGregorianLeap(year));
-    DateToJD(Gregorian, JulianJD(1 - gregorianLead(year, 1), 1, year));
+    setRomanLengths(Gregorian, gregorianDays(year));
+    DateToJD(Gregorian, JulianJD(1 - gregorianLead(year), 1, year));
 }
 
 void Calc::JulianToGregorian() {
     int year = CurDate(Julian, Year);
-    int month = CurDate(Julian, Month);
-    int day = CurDate(Julian, Day) + gregorianLead(year, month);
-    setRomanLengths(Gregorian, isGregorianLeap(year));
-    if (day < 1) {
-        crossMonth(-1, month, year);
-        day += MonthDays(Gregorian, month);
+    int dayNumber = CurDate(Julian, DayNumber) + gregorianLead(year);
+    if (dayNumber < 1) {
+        --year;
+        dayNumber += gregorianDays(year);
     }
-    // More than once where, far beyond the range, the calendars are months apart.
-    while (day > MonthDays(Gregorian, month)) {
-        day -= MonthDays(Gregorian, month);
-        crossMonth(+1, month, year);
+    while (dayNumber > gregorianDays(year)) {
+        dayNumber -= gregorianDays(year);
+        ++year;
     }
-
-    CurDate(Gregorian, Day) = day;
-    CurDate(Gregorian, Month) = month;
     CurDate(Gregorian, Year) = year;
-    SetYearEnds(Gregorian, CurJD - SetDayNumber(Gregorian) + 1);
+    setRomanLengths(Gregorian, gregorianDays(year));
+    SetMonthAndDay(Gregorian, dayNumber);
+    SetYearEnds(Gregorian, CurJD - dayNumber + 1);
 }
