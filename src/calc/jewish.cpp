@@ -117,8 +117,7 @@ void setJewishLengths(int newYear, int nextNewYear) {
 void dateFromJD(int year, int newYear, int nextNewYear) {
     CurDate(Jewish, Year) = year;
     setJewishLengths(newYear, nextNewYear);
-    Calc::SetMonthAndDay(Jewish, CurJD - newYear + 1);
-    Calc::SetYearEnds(Jewish, newYear);
+    Calc::DateFromDayNumber(Jewish, newYear, CurJD - newYear + 1);
 }
 
 } // namespace

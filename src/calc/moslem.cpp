@@ -62,6 +62,5 @@ void Calc::JDToMoslem() {
 
     CurDate(Moslem, Year) = year;
     setMoslemLengths(yearOfCycle);
-    SetMonthAndDay(Moslem, dayNumber);
-    SetYearEnds(Moslem, CurJD - dayNumber + 1);
+    DateFromDayNumber(Moslem, CurJD - dayNumber + 1, dayNumber);
 }

@@ -73,8 +73,7 @@ void Calc::JDToJulian() {
 
     CurDate(Julian, Year) = year;
     setRomanLengths(Julian, julianDays(year));
-    SetMonthAndDay(Julian, dayNumber);
-    SetYearEnds(Julian, JulianJD(1, 1, year));
+    DateFromDayNumber(Julian, JulianJD(1, 1, year), dayNumber);
 }
 
 void Calc::GregorianToJD() {
@@ -96,6 +95,5 @@ void Calc::JulianToGregorian() {
     }
     CurDate(Gregorian, Year) = year;
     setRomanLengths(Gregorian, gregorianDays(year));
-    SetMonthAndDay(Gregorian, dayNumber);
-    SetYearEnds(Gregorian, CurJD - dayNumber + 1);
+    DateFromDayNumber(Gregorian, CurJD - dayNumber + 1, dayNumber);
 }

@@ -1,23 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-// How the conversions of all four calendars finish: the lengths of the months
-// and YearDays(c, DaysInYear) are set, the rest of the year follows from them.
+// How the conversions of all four calendars finish: the year, the lengths of its months
+// and YearDays(c, DaysInYear) are set, the rest of the date and of the year follows.
 namespace Calc {
 
-/// Makes a day beyond its month's length the month's last day, and sets and
-/// returns the day's number in the year.
-int SetDayNumber(int c);
-
-/// Sets month and day from the day's number in the year.
-void SetMonthAndDay(int c, int dayNumber);
-
-/// Sets the ends of the year that begins on Julian Day newYear, its weekdays and
-/// its weeks.
-void SetYearEnds(int c, int newYear);
-
-/// Sets CurJD and the year from month and day of the year that begins on Julian
-/// Day newYear.
+/// Sets CurJD from month and day of the year that begins on Julian Day newYear. A day
+/// beyond its month's length becomes the month's last day.
 void DateToJD(int c, int newYear);
+
+/// Sets month and day from the day's number in that year.
+void DateFromDayNumber(int c, int newYear, int dayNumber);
 
 } // namespace Calc
