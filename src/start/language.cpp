@@ -24,11 +24,7 @@ QString suffix() {
 }
 
 // The one large letter whose small form is two, i and a dot: the i alone is taken.
-constexpr char32_t largeDottedI = U'\u0130';
-
-char32_t smallLetter(char32_t letter) {
-    return letter == largeDottedI ? U'i' : QChar::toLower(letter);
-}
+constexpr QChar largeDottedI(u'\u0130');
 
 // The files by the names under which they are listed. Of several that would share
 // a name the one that is written like it stands for it, else the first.
@@ -80,31 +76,20 @@ void readTexts(const ProfileFile& file) {
     SelectedWord = ReadLngString(file, "SPEECH", 1, SelectedWord);
 }
 
-void tellAndFallBack(const QString& path, const QString& what, std::string& name) {
-    MsgBox(WithEmptyLine(path, what));
-    name = englishLanguage;
-}
-
 // Replaces the English texts by those of a language's file.
 void readLanguage(std::string& name) {
-    const QString asked = ProgramFile(Told(Text(name)) + suffix());
+    QString failure = Text(StringTexts(FileNotFoundText));
     const QString found = languageFile(Text(name));
-    if (found.isEmpty()) {
-        tellAndFallBack(asked, Text(StringTexts(FileNotFoundText)), name);
-        return;
+    if (!found.isEmpty()) {
+        const ProfileFile file(ProgramFile(found));
+        if (file.ReadStatus() == ProfileFile::Status::Read)
+            return readTexts(file);
+        failure = file.ReadStatus() == ProfileFile::Status::TooLarge
+                      ? QStringLiteral("The file is too large for a language file.")
+                      : QStringLiteral("The file cannot be read.");
     }
-    const ProfileFile file(ProgramFile(found));
-    switch (file.ReadStatus()) {
-    case ProfileFile::Status::Read:
-        readTexts(file);
-        break;
-    case ProfileFile::Status::Unreadable:
-        tellAndFallBack(asked, QStringLiteral("The file cannot be read."), name);
-        break;
-    case ProfileFile::Status::TooLarge:
-        tellAndFallBack(asked, QStringLiteral("The file is too large for a language file."), name);
-        break;
-    }
+    MsgBox(WithEmptyLine(ProgramFile(Told(Text(name)) + suffix()), failure));
+    name = englishLanguage;
 }
 
 } // namespace
@@ -127,12 +112,9 @@ std::string ReadLngString(const ProfileFile& file, const char* section, int key,
     return text.toStdString();
 }
 
-// Letter by letter and by no language's own rules, so that a name is the same
-// wherever it is read.
-QString ListedName(const QString& name) {
-    std::u32string letters = name.toStdU32String();
-    for (char32_t& letter : letters)
-        letter = smallLetter(letter);
+// By no language's own rules, so that a name is the same wherever it is read.
+QString ListedName(QString name) {
+    std::u32string letters = name.replace(largeDottedI, u'i').toLower().toStdU32String();
     if (!letters.empty())
         letters.front() = QChar::toUpper(letters.front());
     return QString::fromStdU32String(letters);

@@ -18,7 +18,7 @@ std::string ReadLngString(const ProfileFile& file, const char* section, int key,
 
 /// The name under which a language's file is listed: the first letter large, the
 /// others small.
-QString ListedName(const QString& name);
+QString ListedName(QString name);
 
 /// englishLanguage, then the listed names of the files in the program's folder,
 /// each once, in the order of their letters' numbers. LoadLanguage finds a file
