@@ -12,11 +12,6 @@
 
 namespace {
 
-struct Positions {
-    Table<int, mainWindowCount> top = FormTop;
-    Table<int, mainWindowCount> left = FormLeft;
-};
-
 bool isOnDesktop(const ChangeCals::Position& place) {
     const QRect desktop = QGuiApplication::primaryScreen()->virtualGeometry();
     return place.left.count < ToTwips(desktop.x() + desktop.width()).count &&
@@ -40,20 +35,6 @@ ChangeCals::Position firstPlace(MainWindowNumber window) {
 ChangeCals::Position placeNow(MainWindowNumber number, const MainWindow* window) {
     return window != nullptr ? ChangeCals::Position{window->Left(), window->Top()}
                              : ChangeCals::PlaceOf(number);
-}
-
-// False when the position does not fit in 16 bits.
-bool readPosition(MainWindowNumber number, const MainWindow* window, Positions& positions) {
-    if (window != nullptr && window->WindowState() == Form::Minimised)
-        return true;
-    const ChangeCals::Position place = placeNow(number, window);
-    const std::optional<int> left = CInt(place.left.count);
-    const std::optional<int> top = CInt(place.top.count);
-    if (!left || !top)
-        return false;
-    positions.left(number) = *left;
-    positions.top(number) = *top;
-    return true;
 }
 
 } // namespace
@@ -83,13 +64,21 @@ void ChangeCals::PlaceDialog(Form& dialog) {
 const MainWindow* ChangeCals::ReadPositions() {
     if (!HasWindowPositions())
         return nullptr;
-    Positions positions;
+    auto tops = FormTop;
+    auto lefts = FormLeft;
     for (const MainWindowNumber number : mainWindows) {
         const MainWindow* window = LoadedWindow(number);
-        if (!readPosition(number, window, positions))
+        if (window != nullptr && window->WindowState() == Form::Minimised)
+            continue;
+        const Position place = placeNow(number, window);
+        const std::optional<int> top = CInt(place.top.count);
+        const std::optional<int> left = CInt(place.left.count);
+        if (!top || !left)
             return window;
+        tops(number) = *top;
+        lefts(number) = *left;
     }
-    FormTop = positions.top;
-    FormLeft = positions.left;
+    FormTop = tops;
+    FormLeft = lefts;
     return nullptr;
 }
