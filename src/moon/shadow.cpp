@@ -28,14 +28,6 @@ Shadow circle(const Area& area, double bulge, double beyond, bool solid, int bor
     return {Shadow::Shape::Circle, solid, border, 0, top, 2 * radius, 2 * radius};
 }
 
-Shadow crescent(const Area& area, double bulge) {
-    return circle(area, bulge, 0, true, 1);
-}
-
-Shadow gibbous(const Area& area, double bulge) {
-    return circle(area, bulge, area.width / 4, false, CInt(area.width / 32).value_or(1));
-}
-
 Shadow rectangle(double left, double width, double height) {
     return {Shadow::Shape::Rectangle, true, 1, left, 0, width, height};
 }
@@ -47,40 +39,23 @@ Shadow newMoon(const Area& area) {
 Shadow waxingCrescent(const Area& area, double age) {
     const double half = area.width / 2;
     const double bulge = half - half * age / quarter;
-    Shadow shadow = crescent(area, bulge);
+    Shadow shadow = circle(area, bulge, 0, true, 1);
     shadow.left = half - shadow.width + bulge;
     return shadow;
 }
 
 Shadow waxingGibbous(const Area& area, double age) {
     const double bulge = area.width / 2 * (age - quarter) / quarter;
-    Shadow shadow = gibbous(area, bulge);
+    const int border = CInt(area.width / 32).value_or(1);
+    Shadow shadow = circle(area, bulge, area.width / 4, false, border);
     shadow.left = area.width / 4 - bulge;
     return shadow;
 }
 
-Shadow fullMoon() {
-    return rectangle(0, 1, 1); // too small to cover anything
-}
-
-Shadow waningGibbous(const Area& area, double age) {
-    const double half = area.width / 2;
-    const double bulge = half - half * (age - 2 * quarter) / quarter;
-    Shadow shadow = gibbous(area, bulge);
-    shadow.left = area.width - shadow.width - area.width / 4 + bulge;
+// The waning moon is lit from the other side.
+Shadow mirrored(const Area& area, Shadow shadow) {
+    shadow.left = area.width - shadow.left - shadow.width;
     return shadow;
-}
-
-Shadow waningCrescent(const Area& area, double age) {
-    const double bulge = area.width / 2 * (age - 3 * quarter) / quarter;
-    Shadow shadow = crescent(area, bulge);
-    shadow.left = area.width / 2 - bulge;
-    return shadow;
-}
-
-QRectF pixelRect(const Shadow& shadow) {
-    return {shadow.left / twipsPerPixel, shadow.top / twipsPerPixel, shadow.width / twipsPerPixel,
-            shadow.height / twipsPerPixel};
 }
 
 } // namespace
@@ -101,18 +76,19 @@ Shadow ShadowOf(float age, Twips width, Twips height) {
     if (age <= 2 * quarter - nearPhase)
         return waxingGibbous(area, age);
     if (age <= 2 * quarter + nearPhase)
-        return fullMoon();
+        return rectangle(0, 1, 1); // too small to cover anything
     if (age <= 3 * quarter - nearPhase)
-        return waningGibbous(area, age);
+        return mirrored(area, waxingGibbous(area, 4 * quarter - age));
     if (age <= 3 * quarter + nearPhase)
         return rectangle(half, half, area.height);
     if (age <= 4 * quarter - nearPhase)
-        return waningCrescent(area, age);
+        return mirrored(area, waxingCrescent(area, 4 * quarter - age));
     return newMoon(area);
 }
 
 void PaintShadow(QPainter& painter, const Shadow& shadow) {
-    const QRectF shape = pixelRect(shadow);
+    const QRectF shape(QPointF(shadow.left, shadow.top) / twipsPerPixel,
+                       QSizeF(shadow.width, shadow.height) / twipsPerPixel);
     if (shape.width() < 1 && shape.height() < 1)
         return;
     painter.setPen(QPen(ToColor(skyColor), shadow.border));
