@@ -23,37 +23,23 @@ namespace {
 constexpr int charactersOfLine = 66; // of the description
 constexpr int linesOfPicture = 4;    // its height
 
-/// The box's own texts; they are not among the translated ones.
-struct AboutTexts {
-    QString caption;
-    QString title;
-    QString version;
-    QString note;
-    QString author;
-};
-
-AboutTexts englishTexts() {
-    return {QStringLiteral("About Orvalen Years Calendar"),
-            QStringLiteral("Orvalen Years Calendar"), QStringLiteral("Version "),
-            QStringLiteral("This program grew out of the wish to have one day before one's eyes "
-                           "in four calendars at once."),
-            QStringLiteral("The Orvalen Years Calendar developers © 1998—2001")};
-}
-
-AboutTexts russianTexts() {
-    return {QStringLiteral("О Календаре на Orvalen лет"),
-            QStringLiteral("Календарь на Orvalen лет"), QStringLiteral("Версия "),
-            QStringLiteral("Эта программа выросла из желания видеть один день сразу в четырёх "
-                           "календарях."),
-            QStringLiteral("Разработчики Календаря на Orvalen лет © 1998—2001")};
+// The box's own texts; they are not among the translated ones.
+QString told(const char16_t* english, const char16_t* russian) {
+    return QString::fromUtf16(LanguageName == "Russian" ? russian : english);
 }
 
 QString version() {
     return QStringLiteral("%1.%2.%3").arg(VERSION_MAJOR).arg(VERSION_MINOR).arg(VERSION_REVISION);
 }
 
-QString description(const AboutTexts& texts) {
-    return WithEmptyLine(WithEmptyLine(texts.note, texts.author),
+QString description() {
+    const QString note = told(
+        u"This program grew out of the wish to have one day before one's eyes in four calendars "
+        u"at once.",
+        u"Эта программа выросла из желания видеть один день сразу в четырёх календарях.");
+    const QString author = told(u"The Orvalen Years Calendar developers © 1998—2001",
+                                u"Разработчики Календаря на Orvalen лет © 1998—2001");
+    return WithEmptyLine(WithEmptyLine(note, author),
                          QStringLiteral("E-mail: calendar@example.org") + LineBreak() +
                              QStringLiteral("Home Page: https://example.org/calendar"));
 }
@@ -117,12 +103,12 @@ void frmAbout::createControls() {
 }
 
 void frmAbout::setTexts() {
-    const AboutTexts texts = LanguageName == "Russian" ? russianTexts() : englishTexts();
-    SetCaption(texts.caption);
-    m_label1(1)->setText(texts.title);
-    m_label1(2)->setText(texts.version + version());
-    m_label1(3)->setText(description(texts));
-    setAccessibleName(texts.caption + QStringLiteral(", ") + m_label1(2)->text());
+    const QString caption = told(u"About Orvalen Years Calendar", u"О Календаре на Orvalen лет");
+    SetCaption(caption);
+    m_label1(1)->setText(told(u"Orvalen Years Calendar", u"Календарь на Orvalen лет"));
+    m_label1(2)->setText(told(u"Version ", u"Версия ") + version());
+    m_label1(3)->setText(description());
+    setAccessibleName(caption + QStringLiteral(", ") + m_label1(2)->text());
 }
 
 // By hand, since the splash is cut where the line stands.
