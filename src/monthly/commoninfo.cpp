@@ -23,6 +23,8 @@ namespace {
 
 constexpr int gap = 6; // pixels between controls
 
+const QString widestAge = QStringLiteral("28.8");
+
 // One decimal, of which a zero is dropped together with the separator.
 QString moonAgeText(double age) {
     QString text = FormatOneDecimal(age);
@@ -62,7 +64,8 @@ CommonInfo::CommonInfo(QWidget* parent)
 }
 
 int CommonInfo::Width() const {
-    return widestWeekday(*m_combo6) + moonAgeWidth() + Height() + m_combo8->OwnWidth() + 3 * gap;
+    return widestWeekday(*m_combo6) + m_combo7->WidthFor(widestAge) + Height() +
+           m_combo8->OwnWidth() + 3 * gap;
 }
 
 int CommonInfo::Height() const {
@@ -77,7 +80,7 @@ void CommonInfo::Place(int left, int middle, int width) {
         left += listWidth + gap;
     };
     placeNext(m_combo6, widestWeekday(*m_combo6) - std::max(0, Width() - width));
-    placeNext(m_combo7, moonAgeWidth());
+    placeNext(m_combo7, m_combo7->WidthFor(widestAge));
     m_command2.Place(left, middle - Height() / 2, Height());
     left += Height() + gap;
     placeNext(m_combo8, m_combo8->OwnWidth());
@@ -119,11 +122,6 @@ void CommonInfo::Combo6_Click() {
 void CommonInfo::Combo7_Click() {
     if (!Updating && m_combo7->Text() != m_moonAge)
         moveBy(MyVal(m_combo7->Text()) - MyVal(m_moonAge));
-}
-
-int CommonInfo::moonAgeWidth() const {
-    const QString widestAge = QStringLiteral("28.8");
-    return m_combo7->WidthFor(widestAge);
 }
 
 // No day below the lowest can be reached; above, the way is open on purpose. In

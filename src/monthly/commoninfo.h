@@ -41,7 +41,6 @@ private:
     void Combo6_Click();
     void Combo7_Click();
 
-    int moonAgeWidth() const;
     void moveBy(double days);
 
     ComboBox* m_combo6; ///< weekday

@@ -32,10 +32,6 @@ bool leavesField(Qt::FocusReason reason) {
            reason == Qt::BacktabFocusReason || reason == Qt::ShortcutFocusReason;
 }
 
-bool isReturn(int key) {
-    return key == Qt::Key_Return || key == Qt::Key_Enter;
-}
-
 } // namespace
 
 JulianDayField::JulianDayField(const QString& name, QWidget* parent) : ComboBox(name, parent) {
@@ -63,15 +59,9 @@ void JulianDayField::Show(int julianDay) {
 }
 
 void JulianDayField::keyPressEvent(QKeyEvent* event) {
-    if (isReturn(event->key())) {
-        Combo8_KeyDown(event->key());
-        return;
-    }
-    if (event->key() == Qt::Key_Escape) {
-        Show(CurJD);
-        AnswerUser();
-        return;
-    }
+    const int key = event->key();
+    if (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Escape)
+        return Combo8_KeyDown(key);
     m_cursor = lineEdit()->cursorPosition();
     ComboBox::keyPressEvent(event);
 }
@@ -114,8 +104,10 @@ void JulianDayField::Combo8_Change(const QString& text) {
 }
 
 void JulianDayField::Combo8_KeyDown(int key) {
-    if (isReturn(key))
-        accept();
+    if (key != Qt::Key_Escape)
+        return accept();
+    Show(CurJD);
+    AnswerUser();
 }
 
 void JulianDayField::Combo8_LostFocus() {
