@@ -31,12 +31,11 @@ constexpr int emblemTop = 10;
 constexpr int emblemSide = 32;
 constexpr int gap = 6;
 constexpr int commandAreaHeight = 56;
-constexpr int commandCount = frmMonthlyCal::commandCount;
-constexpr int closeButton = commandCount;
+constexpr int closeButton = frmMonthlyCal::commandCount;
 
 // Of Command1, by its index.
-const Table<Command, commandCount> commands{Command::YearCalendars, Command::Today,
-                                            Command::Options, Command::About, Command::Close};
+const Table<Command, frmMonthlyCal::commandCount> commands{
+    Command::YearCalendars, Command::Today, Command::Options, Command::About, Command::Close};
 
 } // namespace
 
@@ -120,14 +119,6 @@ void frmMonthlyCal::changeEvent(QEvent* event) {
         place();
 }
 
-void frmMonthlyCal::Command1_Click(int index) {
-    m_commands.Run(commands(index));
-}
-
-void frmMonthlyCal::Command1_MouseDown(int index, Qt::MouseButton button) {
-    m_commands.MouseDown(commands(index), button);
-}
-
 // That of the pane with the focus, else of the first pane, as far as they show the
 // chosen day.
 int frmMonthlyCal::calendarToPrint() const {
@@ -143,12 +134,15 @@ int frmMonthlyCal::calendarToPrint() const {
 
 void frmMonthlyCal::createCommands() {
     for (int index = 1; index <= commandCount; ++index) {
+        const Command command = commands(index);
         auto* button = new CommandButton(QStringLiteral("Command1_%1").arg(index),
-                                         Commands::PictureOf(commands(index)), this);
+                                         Commands::PictureOf(command), this);
         m_command1(index) = button;
-        connect(button, &CommandButton::clicked, this, [this, index] { Command1_Click(index); });
-        connect(button, &CommandButton::MouseDown, this,
-                [this, index](Qt::MouseButton pressed) { Command1_MouseDown(index, pressed); });
+        connect(button, &CommandButton::clicked, this,
+                [this, command] { m_commands.Run(command); });
+        connect(button, &CommandButton::MouseDown, this, [this, command](Qt::MouseButton pressed) {
+            m_commands.MouseDown(command, pressed);
+        });
     }
 }
 

@@ -36,9 +36,6 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    void Command1_Click(int index);
-    void Command1_MouseDown(int index, Qt::MouseButton button);
-
     int calendarToPrint() const;
     void createCommands();
     void place();
