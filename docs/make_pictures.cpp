@@ -7,7 +7,7 @@
 #include "moonsheets.h"
 #include "partsheet.h"
 #include "platform/clock.h"
-#include "printing/pages.h"
+#include "printing/print.h"
 #include "shared/calendars.h"
 #include "shared/look.h"
 #include "start/frmabout.h"

@@ -3,8 +3,8 @@
 #include "calc/state.h"
 #include "platform/numbers.h"
 #include "platform/text.h"
-#include "printing/pages.h"
 #include "printing/paperdays.h"
+#include "printing/print.h"
 #include "printing/sheet.h"
 #include "shared/texts.h"
 

@@ -11,7 +11,6 @@
 #include "shared/texts.h"
 
 #include <algorithm>
-#include <optional>
 
 namespace {
 
@@ -35,19 +34,14 @@ PaperDay deriveDay(int julianDay) {
     return day;
 }
 
-struct Ends {
-    PaperDate first;
-    PaperDate last;
-};
-
-// Of the days that calendar c has.
-std::optional<Ends> endsIn(std::span<const PaperDay> days, int c) {
-    const auto isIn = [c](const PaperDay& day) { return day.dates(c).day != 0; };
-    const auto first = std::ranges::find_if(days, isIn);
-    if (first == days.end())
-        return std::nullopt;
-    const auto last = std::find_if(days.rbegin(), days.rend(), isIn);
-    return Ends{first->dates(c), last->dates(c)};
+// Those that calendar c has.
+std::vector<PaperDate> datesIn(std::span<const PaperDay> days, int c) {
+    std::vector<PaperDate> dates;
+    for (const PaperDay& day : days) {
+        if (day.dates(c).day != 0)
+            dates.push_back(day.dates(c));
+    }
+    return dates;
 }
 
 QString dashed(const QString& from, const QString& to) {
@@ -70,10 +64,11 @@ std::vector<PaperDay> Printing::DaysBetween(int first, int last) {
 }
 
 QString Printing::MonthsTouched(std::span<const PaperDay> days, int c) {
-    const auto ends = endsIn(days, c);
-    if (!ends)
+    const std::vector<PaperDate> dates = datesIn(days, c);
+    if (dates.empty())
         return {};
-    const auto& [first, last] = *ends;
+    const PaperDate& first = dates.front();
+    const PaperDate& last = dates.back();
     if (first.year != last.year)
         return dashed(withYear(first.monthName, first.year), withYear(last.monthName, last.year));
     if (first.month != last.month)
@@ -82,12 +77,12 @@ QString Printing::MonthsTouched(std::span<const PaperDay> days, int c) {
 }
 
 QString Printing::YearsTouched(std::span<const PaperDay> days, int c) {
-    const auto ends = endsIn(days, c);
-    if (!ends)
+    const std::vector<PaperDate> dates = datesIn(days, c);
+    if (dates.empty())
         return {};
-    const QString first = QString::number(ends->first.year);
-    return ends->first.year == ends->last.year ? first
-                                               : dashed(first, QString::number(ends->last.year));
+    const QString first = QString::number(dates.front().year);
+    const QString last = QString::number(dates.back().year);
+    return first == last ? first : dashed(first, last);
 }
 
 std::vector<int> Printing::CalendarsFrom(int c) {
@@ -110,13 +105,6 @@ QStringList Printing::InOthers(const std::vector<int>& calendars,
         texts.append(textOf(c));
     texts.removeAll(QString());
     return texts;
-}
-
-QString Printing::YearsOfOthers(const std::vector<int>& calendars, std::span<const PaperDay> days) {
-    return Joined(InOthers(calendars, [days](int c) {
-        const QString years = YearsTouched(days, c);
-        return years.isEmpty() ? years : Titled(c, years);
-    }));
 }
 
 QString Printing::Joined(const QStringList& texts) {

@@ -44,9 +44,6 @@ std::vector<int> CalendarsFrom(int c);
 QStringList InOthers(const std::vector<int>& calendars,
                      const std::function<QString(int c)>& textOf);
 
-/// The same of the years that days touch, in one line.
-QString YearsOfOthers(const std::vector<int>& calendars, std::span<const PaperDay> days);
-
 /// Texts of one rank in a line.
 QString Joined(const QStringList& texts);
 

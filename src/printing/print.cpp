@@ -7,7 +7,6 @@
 #include "platform/program.h"
 #include "platform/system.h"
 #include "platform/text.h"
-#include "printing/pages.h"
 #include "printing/sheet.h"
 #include "shared/texts.h"
 

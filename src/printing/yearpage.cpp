@@ -2,8 +2,8 @@
 #include "calc/calc.h"
 #include "calc/state.h"
 #include "platform/text.h"
-#include "printing/pages.h"
 #include "printing/paperdays.h"
+#include "printing/print.h"
 #include "printing/sheet.h"
 #include "shared/texts.h"
 
@@ -61,23 +61,27 @@ struct Measures {
     double Height() const { return titleHeight + daysInWeek * rowHeight; }
 };
 
-MonthBlock blockOf(const std::vector<int>& calendars, int month) {
+MonthBlock blockOf(const std::vector<int>& calendars, std::span<const PaperDay> yearDays,
+                   int month) {
     const int c = calendars.front();
-    const int first = YearJD(c, FirstDay) + Calc::DayOfYear(c, month, 1) - 1;
-    MonthBlock block{Text(MonthNames(c, month)),
-                     {},
-                     Calc::LeadingBlanks(c, month),
-                     Printing::DaysBetween(first, first + MonthDays(c, month) - 1)};
-    block.lines = Printing::InOthers(
-        calendars, [&block](int other) { return Printing::MonthsTouched(block.days, other); });
-    return block;
+    const auto before = static_cast<std::size_t>(Calc::DayOfYear(c, month, 0));
+    const auto days = yearDays.subspan(before, static_cast<std::size_t>(MonthDays(c, month)));
+    return {Text(MonthNames(c, month)),
+            Printing::InOthers(calendars,
+                               [days](int other) { return Printing::MonthsTouched(days, other); }),
+            Calc::LeadingBlanks(c, month),
+            {days.begin(), days.end()}};
 }
 
 YearOnPaper yearOf(int c) {
     const std::vector<int> calendars = Printing::CalendarsFrom(c);
     const auto days = Printing::DaysBetween(YearJD(c, FirstDay), YearJD(c, LastDay));
+    const auto yearsIn = [&days](int other) {
+        const QString years = Printing::YearsTouched(days, other);
+        return years.isEmpty() ? years : Printing::Titled(other, years);
+    };
     YearOnPaper year{Printing::Titled(c, QString::number(CurDate(c, Year))),
-                     Printing::YearsOfOthers(calendars, days),
+                     Printing::Joined(Printing::InOthers(calendars, yearsIn)),
                      c,
                      calendars[1],
                      {},
@@ -85,7 +89,7 @@ YearOnPaper yearOf(int c) {
     for (int row = 0; row < daysInWeek; ++row)
         year.weekdays.append(Text(WeekDayAbbrs(Calc::WeekdayOfRow(c, row))));
     for (int month = 1; month <= Calc::MonthsInYear(c); ++month)
-        year.months.push_back(blockOf(calendars, month));
+        year.months.push_back(blockOf(calendars, days, month));
     return year;
 }
 

@@ -4,7 +4,6 @@
 #include "changecals/changecals.h"
 #include "endurance/reckoning.h"
 #include "printing/names.h"
-#include "printing/pages.h"
 #include "printing/print.h"
 #include "support/texttables.h"
 #include "support/widget_test.h"
