@@ -9,6 +9,7 @@
 #include "moon/moonpicture.h"
 #include "platform/message.h"
 #include "platform/numbers.h"
+#include "platform/program.h"
 #include "platform/text.h"
 #include "shared/settings.h"
 #include "shared/texts.h"
@@ -94,7 +95,7 @@ void frmMoon::Form_Load() {
 }
 
 void frmMoon::loadPicture() {
-    const QString path = MoonPictureFile();
+    const QString path = ProgramFile(QStringLiteral("Moon.bmp"));
     const MoonFile file = LoadMoonPicture(path);
     if (file.isTooLarge)
         MsgBox(WithEmptyLine(path, QStringLiteral("The picture is too large.")));

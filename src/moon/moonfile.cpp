@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "moon/moonfile.h"
 
-#include "platform/program.h"
-
 #include <QBuffer>
 #include <QFile>
 #include <QFileInfo>
@@ -65,10 +63,6 @@ MoonFile loadFrom(QByteArray bytes) {
 }
 
 } // namespace
-
-QString MoonPictureFile() {
-    return ProgramFile(QStringLiteral("Moon.bmp"));
-}
 
 MoonFile LoadMoonPicture(const QString& path) {
     QFile file(path);

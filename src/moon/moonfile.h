@@ -2,10 +2,6 @@
 #pragma once
 
 #include <QImage>
-#include <QString>
-
-/// Where the picture of the full moon is looked for: a bitmap beside the program.
-QString MoonPictureFile();
 
 struct MoonFile {
     QImage picture{};        ///< null when there is none
