@@ -6,14 +6,7 @@
 
 #include <QString>
 
-namespace Controls {
-
-/// The picture of calendar c.
-inline QString EmblemOf(int c) {
-    static const Table<QString, calendarCount> names{
-        QStringLiteral("emblems/julian"), QStringLiteral("emblems/gregorian"),
-        QStringLiteral("emblems/jewish"), QStringLiteral("emblems/moslem")};
-    return names(c);
-}
-
-} // namespace Controls
+/// The pictures of the calendars.
+inline const Table<QString, calendarCount> Emblems{
+    QStringLiteral("emblems/julian"), QStringLiteral("emblems/gregorian"),
+    QStringLiteral("emblems/jewish"), QStringLiteral("emblems/moslem")};

@@ -49,7 +49,7 @@ frmMonthlyCal::frmMonthlyCal()
           },
           [this] { ChangeCals::Print(Paper::Month, calendarToPrint()); }) {
     for (int c = 1; c <= calendarCount; ++c)
-        m_image1(c) = new Image(QStringLiteral("Image1_%1").arg(c), Controls::EmblemOf(c), this);
+        m_image1(c) = new Image(QStringLiteral("Image1_%1").arg(c), Emblems(c), this);
     for (int pane = 1; pane <= paneCount; ++pane) {
         m_panes(pane) = new Pane(pane, this);
         connect(m_panes(pane), &Pane::CalendarChosen, this, &frmMonthlyCal::exchangeCalendars);

@@ -219,7 +219,7 @@ QString frmYearCal::pictureOf(int index) const {
         return index == PreviousYear ? QStringLiteral("buttons/previous")
                                      : QStringLiteral("buttons/next");
     return index < FirstOtherCalendar ? Commands::PictureOf(commandOf(index))
-                                      : Controls::EmblemOf(otherCalendar(index));
+                                      : Emblems(otherCalendar(index));
 }
 
 // The calendars but this window's, in their order.
