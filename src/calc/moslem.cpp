@@ -12,25 +12,25 @@ namespace {
 
 constexpr int cycleYears = 30;
 constexpr int longYear = 355;
-constexpr int commonYear = 354;
-constexpr int cycleDays = 11 * longYear + 19 * commonYear;
+constexpr int shortYear = 354;
+constexpr int cycleDays = 11 * longYear + 19 * shortYear;
 
 // The range ends with a year 22 of the cycle; eight of those 22 are long.
-constexpr int rangeDays = 81 * cycleDays + 8 * longYear + 14 * commonYear;
+constexpr int rangeDays = 81 * cycleDays + 8 * longYear + 14 * shortYear;
 
-constexpr int lastMonth = 12;
+constexpr int lastMoslemMonth = 12;
 
 void setMoslemLengths(int yearOfCycle) {
     YearDays(Moslem, DaysInYear) = MoslemCycle(yearOfCycle);
-    MonthDays(Moslem, lastMonth) = MoslemCycle(yearOfCycle) == longYear ? 30 : 29;
+    MonthDays(Moslem, lastMoslemMonth) = MoslemCycle(yearOfCycle) == longYear ? 30 : 29;
 }
 
 } // namespace
 
 void Calc::SetMoslemType() {
     const bool thursdayEra = MoslemType == 1;
-    MoslemCycle(15) = thursdayEra ? longYear : commonYear;
-    MoslemCycle(16) = thursdayEra ? commonYear : longYear;
+    MoslemCycle(15) = thursdayEra ? longYear : shortYear;
+    MoslemCycle(16) = thursdayEra ? shortYear : longYear;
     MinJD(Moslem) = thursdayEra ? 1948439 : 1948440; // 15 or 16 July 622 Julian
     MaxJD(Moslem) = MinJD(Moslem) + rangeDays - 1;
 }

@@ -21,7 +21,7 @@
 
 namespace {
 
-constexpr int gap = 6; // pixels between controls
+constexpr int controlGap = 6; // pixels between controls
 
 const QString widestAge = QStringLiteral("28.8");
 
@@ -65,7 +65,7 @@ CommonInfo::CommonInfo(QWidget* parent)
 
 int CommonInfo::Width() const {
     return widestWeekday(*m_combo6) + m_combo7->WidthFor(widestAge) + Height() +
-           m_combo8->OwnWidth() + 3 * gap;
+           m_combo8->OwnWidth() + 3 * controlGap;
 }
 
 int CommonInfo::Height() const {
@@ -77,12 +77,12 @@ void CommonInfo::Place(int left, int middle, int width) {
     const int top = middle - height / 2;
     const auto placeNext = [&left, top, height](ComboBox* list, int listWidth) {
         list->setGeometry(left, top, listWidth, height);
-        left += listWidth + gap;
+        left += listWidth + controlGap;
     };
     placeNext(m_combo6, widestWeekday(*m_combo6) - std::max(0, Width() - width));
     placeNext(m_combo7, m_combo7->WidthFor(widestAge));
     m_command2.Place(left, middle - Height() / 2, Height());
-    left += Height() + gap;
+    left += Height() + controlGap;
     placeNext(m_combo8, m_combo8->OwnWidth());
 }
 

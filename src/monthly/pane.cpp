@@ -20,7 +20,7 @@
 
 namespace {
 
-constexpr int gap = 4; // pixels between controls
+constexpr int lineGap = 4; // pixels between controls
 
 ComboBox* newCombo(int kind, int pane, QWidget* parent) {
     return new ComboBox(QStringLiteral("Combo%1_%2").arg(kind).arg(pane), parent);
@@ -106,16 +106,16 @@ int Pane::Place(int top) {
     const auto placeNext = [&](ComboBox* combo, const QStringList& names = {}) {
         const int height = combo->HeightFor(names, width);
         combo->setGeometry(left, top, width, height);
-        top += height + gap;
+        top += height + lineGap;
     };
     placeNext(m_combo1, calendarEntries());
     placeNext(m_combo2);
     placeNext(m_combo3, entriesOfAllMonths());
-    m_grid->move(left + (width - m_grid->width()) / 2, top + gap);
-    top += m_grid->height() + 3 * gap;
+    m_grid->move(left + (width - m_grid->width()) / 2, top + lineGap);
+    top += m_grid->height() + 3 * lineGap;
     placeNext(m_combo4);
     placeNext(m_combo5);
-    return top - gap;
+    return top - lineGap;
 }
 
 void Pane::ShareLetterSizes(const Table<Pane*, paneCount>& panes) {

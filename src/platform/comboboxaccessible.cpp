@@ -10,7 +10,7 @@
 
 namespace {
 
-QAccessibleInterface* newInterface(const QString& className, QObject* object) {
+QAccessibleInterface* newListInterface(const QString& className, QObject* object) {
     if (className != QLatin1String("ComboBox"))
         return nullptr;
     return new ComboBoxAccessible(qobject_cast<ComboBox*>(object));
@@ -24,7 +24,7 @@ void pressReturn(QWidget* widget) {
 } // namespace
 
 void ComboBoxAccessible::Install() {
-    QAccessible::installFactory(newInterface);
+    QAccessible::installFactory(newListInterface);
 }
 
 ComboBoxAccessible::ComboBoxAccessible(ComboBox* comboBox)

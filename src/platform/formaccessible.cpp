@@ -5,7 +5,7 @@
 
 namespace {
 
-QAccessibleInterface* newInterface(const QString& className, QObject* object) {
+QAccessibleInterface* newFormInterface(const QString& className, QObject* object) {
     if (className != QLatin1String("Form"))
         return nullptr;
     return new FormAccessible(qobject_cast<Form*>(object));
@@ -19,7 +19,7 @@ bool hasSomethingToSay(QWidget* control) {
 } // namespace
 
 void FormAccessible::Install() {
-    QAccessible::installFactory(newInterface);
+    QAccessible::installFactory(newFormInterface);
 }
 
 FormAccessible::FormAccessible(Form* form) : QAccessibleWidget(form, QAccessible::Window) {}

@@ -6,7 +6,7 @@
 
 namespace {
 
-QAccessibleInterface* newInterface(const QString& className, QObject* object) {
+QAccessibleInterface* newGridInterface(const QString& className, QObject* object) {
     if (className != QLatin1String("MSFlexGrid"))
         return nullptr;
     return new GridAccessible(qobject_cast<MSFlexGrid*>(object));
@@ -19,7 +19,7 @@ bool hasEntry(const QModelIndex& cell) {
 } // namespace
 
 void GridAccessible::Install() {
-    QAccessible::installFactory(newInterface);
+    QAccessible::installFactory(newGridInterface);
 }
 
 GridAccessible::GridAccessible(MSFlexGrid* grid) : QAccessibleWidget(grid, QAccessible::List) {}

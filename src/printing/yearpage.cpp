@@ -23,10 +23,10 @@ constexpr Sheet::Letters nameLetters{10.5, true};
 constexpr double nameHeight = 9;
 constexpr Sheet::Letters lineLetters{6};
 constexpr double lineHeight = 8;
-constexpr double aboveRule = 4;
-constexpr double belowRule = 3;
-constexpr double titleHeight =
-    nameHeight + (calendarCount - 1) * lineHeight + aboveRule + belowRule;
+constexpr double aboveBlockRule = 4;
+constexpr double belowBlockRule = 3;
+constexpr double blockTitleHeight =
+    nameHeight + (calendarCount - 1) * lineHeight + aboveBlockRule + belowBlockRule;
 constexpr Sheet::Letters weekdayLetters{6};
 constexpr double weekdayWidth = 17;
 
@@ -54,11 +54,11 @@ struct YearOnPaper {
 };
 
 /// What the page leaves for a block.
-struct Measures {
+struct BlockMeasures {
     double width;
     double rowHeight;
 
-    double Height() const { return titleHeight + daysInWeek * rowHeight; }
+    double Height() const { return blockTitleHeight + daysInWeek * rowHeight; }
 };
 
 MonthBlock blockOf(const std::vector<int>& calendars, std::span<const PaperDay> yearDays,
@@ -93,14 +93,14 @@ YearOnPaper yearOf(int c) {
     return year;
 }
 
-Measures measuresOf(const YearOnPaper& year, const Sheet& sheet, double top) {
+BlockMeasures measuresOf(const YearOnPaper& year, const Sheet& sheet, double top) {
     const auto bands = (static_cast<int>(year.months.size()) + blocksInBand - 1) / blocksInBand;
     const double height = (sheet.Height() - top + gapBelow) / bands - gapBelow;
     return {(sheet.Width() + gapBeside) / blocksInBand - gapBeside,
-            (height - titleHeight) / daysInWeek};
+            (height - blockTitleHeight) / daysInWeek};
 }
 
-void writeTitle(const Sheet& sheet, QPointF corner, const Measures& measures,
+void writeTitle(const Sheet& sheet, QPointF corner, const BlockMeasures& measures,
                 const MonthBlock& month) {
     sheet.Write({corner, QSizeF(measures.width, nameHeight)}, month.name, nameLetters);
     double top = corner.y() + nameHeight;
@@ -108,8 +108,8 @@ void writeTitle(const Sheet& sheet, QPointF corner, const Measures& measures,
         sheet.Write({corner.x(), top, measures.width, lineHeight}, line, lineLetters);
         top += lineHeight;
     }
-    sheet.DrawRule(corner.x(), corner.x() + measures.width, corner.y() + titleHeight - belowRule,
-                   0.4);
+    sheet.DrawRule(corner.x(), corner.x() + measures.width,
+                   corner.y() + blockTitleHeight - belowBlockRule, 0.4);
 }
 
 // In the middle of the cell, the figures of all days above each other.
@@ -126,10 +126,10 @@ void writeDay(const Sheet& sheet, const QRectF& cell, const YearOnPaper& year,
                            {height * smallLetters, other == 1});
 }
 
-void writeBlock(const Sheet& sheet, QPointF corner, const Measures& measures,
+void writeBlock(const Sheet& sheet, QPointF corner, const BlockMeasures& measures,
                 const YearOnPaper& year, const MonthBlock& month) {
     writeTitle(sheet, corner, measures, month);
-    const double top = corner.y() + titleHeight;
+    const double top = corner.y() + blockTitleHeight;
     for (int row = 0; row < daysInWeek; ++row)
         sheet.Write({corner.x(), top + row * measures.rowHeight, weekdayWidth,
                      measures.rowHeight * dayBottom},
@@ -149,7 +149,7 @@ void writeBlock(const Sheet& sheet, QPointF corner, const Measures& measures,
 
 void writeYear(const Sheet& sheet, const YearOnPaper& year) {
     const double top = sheet.WriteHeading(year.title, year.subtitle);
-    const Measures measures = measuresOf(year, sheet, top);
+    const BlockMeasures measures = measuresOf(year, sheet, top);
     int place = 0;
     for (const MonthBlock& month : year.months) {
         const int band = place / blocksInBand;

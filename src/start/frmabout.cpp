@@ -20,8 +20,8 @@
 
 namespace {
 
-constexpr int charactersOfLine = 66; // of the description
-constexpr int linesOfPicture = 4;    // its height
+constexpr int charactersOfDescription = 66;
+constexpr int linesOfPicture = 4; // its height
 
 // The box's own texts; they are not among the translated ones.
 QString told(const char16_t* english, const char16_t* russian) {
@@ -116,8 +116,8 @@ void frmAbout::placeControls() {
     const int margin = Metric(QStyle::PM_LayoutLeftMargin);
     const int gap = Metric(QStyle::PM_LayoutVerticalSpacing);
     const int screenWidth = QGuiApplication::primaryScreen()->availableSize().width();
-    const int width =
-        std::min(charactersOfLine * fontMetrics().averageCharWidth() + 2 * margin, screenWidth);
+    const int width = std::min(
+        charactersOfDescription * fontMetrics().averageCharWidth() + 2 * margin, screenWidth);
     const int side = linesOfPicture * fontMetrics().height();
     const int textLeft = 2 * margin + side;
     const auto place = [](QLabel* label, int left, int top, int right) {

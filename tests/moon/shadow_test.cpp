@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr Twips side{3000};
+constexpr Twips pictureSide{3000};
 constexpr double width = 3060;
 constexpr double height = 3121.2;
 constexpr float quarter = 29.530588F / 4;
@@ -76,7 +76,7 @@ TEST(MoonShadow, CasesAndTheirBounds) {
         {4 * quarter - 0.5F, Case::WaningCrescent},
     };
     for (const auto& row : rows)
-        EXPECT_EQ(caseOf(ShadowOf(row.age, side, side)), row.expected) << row.age;
+        EXPECT_EQ(caseOf(ShadowOf(row.age, pictureSide, pictureSide)), row.expected) << row.age;
 }
 
 TEST(MoonShadow, CirclesAtKnownAges) {
@@ -90,7 +90,7 @@ TEST(MoonShadow, CirclesAtKnownAges) {
                 {18, 5222.79, -1100.80, -2068.16, false, 96},
                 {26, 3849.09, -413.95, 731.69, true, 1}};
     for (const auto& row : rows) {
-        const Shadow shadow = ShadowOf(row.age, side, side);
+        const Shadow shadow = ShadowOf(row.age, pictureSide, pictureSide);
         EXPECT_EQ(shadow.shape, Shadow::Shape::Circle);
         EXPECT_NEAR(shadow.height, row.size, 0.01) << row.age;
         EXPECT_EQ(shadow.width, shadow.height);
@@ -111,7 +111,7 @@ TEST(MoonShadow, RectanglesCoverAllHalfOrNothing) {
                 {22.1F, width / 2, width / 2, height},
                 {29.2F, 0, width, height}};
     for (const auto& row : rows) {
-        const Shadow shadow = ShadowOf(row.age, side, side);
+        const Shadow shadow = ShadowOf(row.age, pictureSide, pictureSide);
         EXPECT_EQ(shadow.shape, Shadow::Shape::Rectangle);
         EXPECT_EQ(shadow.border, 1);
         EXPECT_DOUBLE_EQ(shadow.left, row.left);
@@ -133,7 +133,7 @@ double terminator(const Shadow& shadow) {
 TEST(MoonShadow, TheTerminatorMovesSteadilyFromEdgeToEdge) {
     double before = width;
     for (float age = 0.6F; age < 14.2F; age += 0.1F) {
-        const Shadow shadow = ShadowOf(age, side, side);
+        const Shadow shadow = ShadowOf(age, pictureSide, pictureSide);
         if (shadow.shape != Shadow::Shape::Circle)
             continue;
         const double edge = terminator(shadow);
@@ -145,8 +145,8 @@ TEST(MoonShadow, TheTerminatorMovesSteadilyFromEdgeToEdge) {
 
 TEST(MoonShadow, ThePhasesMirrorEachOther) {
     for (float days = 8; days < 14; days += 0.5F) {
-        const Shadow waxing = ShadowOf(days, side, side);
-        const Shadow waning = ShadowOf(4 * quarter - days, side, side);
+        const Shadow waxing = ShadowOf(days, pictureSide, pictureSide);
+        const Shadow waning = ShadowOf(4 * quarter - days, pictureSide, pictureSide);
         EXPECT_NEAR(waxing.height, waning.height, 0.1) << days;
         EXPECT_NEAR(waxing.left, width - waning.left - waning.width, 0.1) << days;
         EXPECT_NEAR(waxing.top, waning.top, 0.1) << days;

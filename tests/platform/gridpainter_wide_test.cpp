@@ -11,8 +11,8 @@
 
 namespace {
 
-constexpr int cellWidth = 40; // pixels
-constexpr int cellHeight = 24;
+constexpr int columnWidth = 40; // pixels
+constexpr int rowHeight = 24;
 constexpr int ground = 0xFFFFC0;
 constexpr int ink = 0x800000;
 
@@ -20,10 +20,10 @@ class WideTexts : public PlatformTest {
 protected:
     WideTexts() : grid(QStringLiteral("grid"), 3, 3, nullptr) {
         for (int place = 0; place < 3; ++place) {
-            grid.SetColWidth(place, ToTwips(cellWidth));
-            grid.SetRowHeight(place, ToTwips(cellHeight));
+            grid.SetColWidth(place, ToTwips(columnWidth));
+            grid.SetRowHeight(place, ToTwips(rowHeight));
         }
-        grid.SetSize(ToTwips(3 * cellWidth + 2), ToTwips(3 * cellHeight + 2));
+        grid.SetSize(ToTwips(3 * columnWidth + 2), ToTwips(3 * rowHeight + 2));
         grid.SetFontPixelSize(14);
         grid.SetBackColor(ground);
         grid.SetAllCellColors(ground, ink);
@@ -35,7 +35,7 @@ protected:
         grid.SetRow(1);
         grid.SetCol(1);
         grid.SetCellFontBold(bold);
-        return inkIn(QRect(0, 0, 3 * cellWidth, 3 * cellHeight));
+        return inkIn(QRect(0, 0, 3 * columnWidth, 3 * rowHeight));
     }
 
     QRect inkIn(const QRect& part) {
@@ -51,16 +51,16 @@ protected:
     }
 
     MSFlexGrid grid;
-    const QRect middle{cellWidth, cellHeight, cellWidth, cellHeight};
+    const QRect middle{columnWidth, rowHeight, columnWidth, rowHeight};
 };
 
 TEST_F(WideTexts, AreNarrowedUntilTheyFitWhetherBoldOrNot) {
     const QString wide = QStringLiteral("MMMMMM");
-    ASSERT_GT(QFontMetrics(grid.font()).horizontalAdvance(wide), cellWidth);
+    ASSERT_GT(QFontMetrics(grid.font()).horizontalAdvance(wide), columnWidth);
     for (const bool bold : {false, true}) {
         const QRect drawn = inkOf(wide, bold);
         EXPECT_TRUE(middle.contains(drawn)) << bold;
-        EXPECT_GT(drawn.width(), cellWidth / 2) << "of all its letters";
+        EXPECT_GT(drawn.width(), columnWidth / 2) << "of all its letters";
         EXPECT_NEAR(drawn.left() - middle.left(), middle.right() - drawn.right(), 2) << "centred";
         EXPECT_LT(drawn.height(), inkOf(QStringLiteral("M"), bold).height()) << bold;
     }
@@ -93,7 +93,7 @@ TEST_F(WideTexts, ThatAreShortenedEndInDots) {
 TEST_F(WideTexts, HaveTheRoomOfAllCellsThatAreMerged) {
     grid.SetMergeRow(1);
     grid.SetTextMatrix(1, 2, QString(60, u'W'));
-    EXPECT_GT(inkOf(QString(60, u'W')).width(), cellWidth);
+    EXPECT_GT(inkOf(QString(60, u'W')).width(), columnWidth);
 }
 
 } // namespace

@@ -94,7 +94,7 @@ TEST_F(Messages, ForeignTextsAreToldOnOneLineWithAllThatTheyHold) {
                 {std::u16string(61, u'x'), std::u16string(60, u'x') + u'\u2026'},
                 {std::u16string(4000, u'\n'), std::u16string(60, u'\u240A') + u'\u2026'}};
     for (const auto& row : rows)
-        EXPECT_EQ(Told(QString::fromStdU16String(row.text)).toStdU16String(), row.told);
+        EXPECT_EQ(::Told(QString::fromStdU16String(row.text)).toStdU16String(), row.told);
 }
 
 class MessageOwners : public PlatformTest {};

@@ -101,8 +101,6 @@ private:
     QString m_formerStyle;
 };
 
-} // namespace
-
 TEST(PictureContrast, AllAreFound) {
     EXPECT_EQ(allPictures().size(), 9 + 4 + 9);
 }
@@ -148,3 +146,5 @@ TEST(PictureContrast, TellTheLitPartOfTheMoonFromTheUnlit) {
     EXPECT_GE(contrast(quarter.pixelColor(side / 2 + 6, side / 2), unlit), enoughContrast);
     EXPECT_GE(contrast(quarter.pixelColor(3 * side / 4, side / 3), unlit), enoughContrast);
 }
+
+} // namespace

@@ -15,7 +15,7 @@ constexpr int largestInput = 2048;
 constexpr int usualInput = 300;
 constexpr int manyInputs = 1000000;
 constexpr int smallInput = 200;
-constexpr int bufferSize = 255;
+constexpr int bytesAsked = 255;
 
 constexpr int keys = 20;
 
@@ -91,7 +91,7 @@ bool isValidUtf8(const QByteArray& bytes) {
 
 // What is wrong with an answer, nullptr when nothing is.
 const char* faultOf(const ProfileFile& file, bool utf8, const QByteArray& value) {
-    if (value.size() >= bufferSize)
+    if (value.size() >= bytesAsked)
         return "too long";
     if (value.contains('\0') || value.contains('\n'))
         return "goes on behind its end";
@@ -103,7 +103,7 @@ const char* faultOf(const ProfileFile& file, bool utf8, const QByteArray& value)
 void readEntry(const ProfileFile& file, const QByteArray& bytes, const QByteArray& section,
                int key) {
     const QByteArray value =
-        file.GetPrivateProfileString(section, ' ' + QByteArray::number(key), bufferSize);
+        file.GetPrivateProfileString(section, ' ' + QByteArray::number(key), bytesAsked);
     const char* fault = value.isEmpty() ? nullptr : faultOf(file, isValidUtf8(bytes), value);
     ASSERT_EQ(fault, nullptr) << fault << ": [" << section.data() << "] " << key << " of "
                               << bytes.toHex().data();

@@ -84,11 +84,6 @@ TEST_P(MonthPages, SayEveryDayInEveryCalendar) {
     }
 }
 
-const QString german = QStringLiteral("German");
-const QString hebrew = QStringLiteral("Hebrew");
-const QString persian = QStringLiteral("Persian");
-const QString english = QStringLiteral("English");
-
 INSTANTIATE_TEST_SUITE_P(, MonthPages,
                          testing::Values(PageCase{Gregorian, 2026, 11},
                                          PageCase{Gregorian, 2024, 2, german, QPageSize::Letter},

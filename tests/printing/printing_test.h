@@ -14,6 +14,11 @@
 #include <QRegularExpression>
 #include <vector>
 
+inline const QString english = QStringLiteral("English");
+inline const QString german = QStringLiteral("German");
+inline const QString hebrew = QStringLiteral("Hebrew");
+inline const QString persian = QStringLiteral("Persian");
+
 /// A word of a page as the PDF has it, with the room that its font gives to it.
 struct Word {
     QString text;
@@ -25,7 +30,7 @@ struct PageCase {
     int calendar;
     int year;
     int month = 1; ///< of a month's page
-    QString language = QStringLiteral("English");
+    QString language = english;
     QPageSize::PageSizeId paper = QPageSize::A4;
     int moslemType = 1;
     int firstWeekDay = Sunday;

@@ -179,11 +179,6 @@ private:
     int m_other;
 };
 
-const QString german = QStringLiteral("German");
-const QString hebrew = QStringLiteral("Hebrew");
-const QString persian = QStringLiteral("Persian");
-const QString english = QStringLiteral("English");
-
 class YearPages : public PrintingTest, public testing::WithParamInterface<PageCase> {
 protected:
     static bool isRightToLeft() { return Names(GetParam().language).Calendar(1).isRightToLeft(); }
