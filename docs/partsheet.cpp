@@ -12,19 +12,19 @@ namespace {
 constexpr int badgeRadius = 11;
 constexpr int sideMargin = 44; // holds a badge and its line
 constexpr int plainMargin = 12;
-constexpr int gap = 16; // between sheets
+constexpr int sheetGap = 16; // between sheets
 constexpr double dotRadius = 2.5;
 constexpr int badgeInset = badgeRadius + 4;
 constexpr int dotInset = 4;
 
-const QColor paper(246, 247, 250);
+const QColor paperColor(246, 247, 250);
 const QColor frameColor(150, 156, 170);
 const QColor badgeColor(31, 78, 156);
 
 QImage blankSheet(QSize size, qreal ratio) {
     QImage sheet(size * ratio, QImage::Format_RGB32);
     sheet.setDevicePixelRatio(ratio);
-    sheet.fill(paper);
+    sheet.fill(paperColor);
     return sheet;
 }
 
@@ -122,17 +122,18 @@ QImage PartsSheet(QWidget& window, const std::vector<PartsBeside>& parts) {
 }
 
 QImage RowOfSheets(const std::vector<QImage>& sheets) {
-    QSize size(-gap, 0);
+    QSize size(-sheetGap, 0);
     for (const QImage& sheet : sheets) {
         const QSize own = sheet.deviceIndependentSize().toSize();
-        size = {size.width() + gap + own.width(), std::max(size.height(), own.height())};
+        size = {size.width() + sheetGap + own.width(), std::max(size.height(), own.height())};
     }
-    QImage row = blankSheet(size.grownBy({gap, gap, gap, gap}), sheets.front().devicePixelRatio());
+    QImage row = blankSheet(size.grownBy({sheetGap, sheetGap, sheetGap, sheetGap}),
+                            sheets.front().devicePixelRatio());
     QPainter painter(&row);
-    int left = gap;
+    int left = sheetGap;
     for (const QImage& sheet : sheets) {
-        painter.drawImage(left, gap, sheet);
-        left += sheet.deviceIndependentSize().toSize().width() + gap;
+        painter.drawImage(left, sheetGap, sheet);
+        left += sheet.deviceIndependentSize().toSize().width() + sheetGap;
     }
     return row;
 }

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
 """Fails when an include runs up a floor, across to another room of the same
-floor, or in a circle, and when the arithmetic uses anything of Qt."""
+floor, in a circle or to a source, and when the arithmetic uses anything of Qt."""
 
 import pathlib
 import re
@@ -36,6 +36,8 @@ def wrong_includes(source, path):
     for mark, name in includes(path):
         if mark == '"' and room_of(name) not in ROOMS[room] | {room}:
             yield f"{path}: {room}/ may not include {name}"
+        if name.endswith(".cpp"):
+            yield f"{path}: {name} is a source, which nobody includes"
         if mark == "<" and room in WITHOUT_QT and name.startswith("Q"):
             yield f"{path}: {room}/ may not include {name}"
 

@@ -58,7 +58,10 @@ def idle(entry, mappings):
                 yield f"{pathlib.Path(path).relative_to(ROOT)}: {line[2:]}"
 
 
-def main(tree, part):
+def main(part):
+    # A tree in which each source is compiled by itself.
+    subprocess.run(["cmake", "--preset", "dev"], cwd=ROOT, check=True, stdout=subprocess.DEVNULL)
+    tree = ROOT / "build/dev"
     entries = [entry for entry in compile_database.commands(tree)
                if OURS.search(entry["file"]) and f"/{part}/" in entry["file"]]
     with tempfile.NamedTemporaryFile("w", suffix=".imp") as mappings:
