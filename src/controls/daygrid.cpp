@@ -3,8 +3,8 @@
 
 #include "calc/calc.h"
 #include "calc/state.h"
+#include "changecals/changecals.h"
 #include "controls/dayinwords.h"
-#include "platform/numbers.h"
 #include "platform/text.h"
 #include "shared/look.h"
 #include "shared/texts.h"
@@ -21,8 +21,11 @@ int backgroundOf(int c) {
 
 } // namespace
 
-DayGrid::DayGrid(const QString& name, int bands, int titleRows, int columns, QWidget* parent)
-    : MSFlexGrid(name, bands * (titleRows + daysInWeek), columns, parent), m_titleRows(titleRows) {
+DayGrid::DayGrid(const QString& name, int bands, int titleRows, int columns,
+                 MainWindowNumber window, QWidget* parent)
+    : MSFlexGrid(name, bands * (titleRows + daysInWeek), columns, parent),
+      m_titleRows(titleRows),
+      m_window(window) {
     SetAccessibleText([this](int row, int column) { return spokenText({row, column}); });
 }
 
@@ -70,11 +73,11 @@ void DayGrid::MarkChosenDay() {
     SetSelectedCell(chosen);
 }
 
-std::optional<int> DayGrid::PressedDay() const {
+void DayGrid::ChoosePressedDay() {
     const GridPlace cell{Row(), Col()};
-    if (MonthAt(cell) == 0 || cell == SelectedCell())
-        return std::nullopt;
-    return CLng(Val(TextMatrix(cell.row, cell.column)));
+    const int month = MonthAt(cell);
+    if (month != 0 && cell != SelectedCell())
+        chooseDay(month, TextMatrix(cell.row, cell.column).toInt());
 }
 
 void DayGrid::keyPressEvent(QKeyEvent* event) {
@@ -83,8 +86,10 @@ void DayGrid::keyPressEvent(QKeyEvent* event) {
     else if (event->key() == Qt::Key_PageUp || event->key() == Qt::Key_PageDown)
         Q_EMIT Paged(event->key() == Qt::Key_PageUp ? -1 : 1,
                      event->modifiers().testFlag(Qt::ShiftModifier));
-    else if (event->key() == Qt::Key_Home || event->key() == Qt::Key_End)
-        Q_EMIT EndAsked(event->key() == Qt::Key_Home ? End::First : End::Last);
+    else if (event->key() == Qt::Key_Home)
+        chooseEnd(FirstMonth(), 1);
+    else if (event->key() == Qt::Key_End)
+        chooseEnd(LastMonth(), MonthDays(m_calendar, LastMonth()));
     else
         MSFlexGrid::keyPressEvent(event);
 }
@@ -137,6 +142,17 @@ void DayGrid::moveOn(int arrowKey) {
         cell = nextBy(arrowKey, cell);
     if (Contains(cell))
         MoveTo(cell);
+}
+
+void DayGrid::chooseDay(int month, int day) {
+    ChangeCals::ChooseDate(m_calendar, {day, month, CurDate(m_calendar, Year)}, m_window);
+}
+
+void DayGrid::chooseEnd(int month, int day) {
+    if (CellOf(month, day) == SelectedCell())
+        MoveTo(SelectedCell());
+    else
+        chooseDay(month, day);
 }
 
 QString DayGrid::spokenText(GridPlace cell) const {

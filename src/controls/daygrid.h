@@ -2,8 +2,7 @@
 #pragma once
 
 #include "platform/flexgrid.h"
-
-#include <optional>
+#include "shared/settings.h"
 
 /// A grid of the days of one calendar's current year or of a part of it. It is
 /// made of bands of seven weekday rows, each under a number of title rows; column
@@ -20,10 +19,9 @@ public:
     /// Columns of a month: six weeks hold any month.
     static constexpr int monthColumns = 6;
 
-    /// A day at one end of what the grid shows, a month or a year.
-    enum class End { First, Last };
-
-    DayGrid(const QString& name, int bands, int titleRows, int columns, QWidget* parent);
+    /// In `window` the days are chosen.
+    DayGrid(const QString& name, int bands, int titleRows, int columns, MainWindowNumber window,
+            QWidget* parent);
 
     /// The calendar whose colours the cells have, 0 before the first.
     int Calendar() const { return m_calendar; }
@@ -38,15 +36,16 @@ Q_SIGNALS:
     /// Page Up (-1) or Page Down (+1) was pressed, with Shift or without.
     void Paged(int direction, bool withShift);
 
-    /// Home or End was pressed.
-    void EndAsked(End end);
-
 protected:
     /// The upper left cell of a month's days.
     virtual GridPlace CornerOf(int month) const = 0;
 
     /// The month whose block holds a cell that is neither title nor name.
     virtual int MonthOf(GridPlace cell) const = 0;
+
+    /// The months that are shown: Home and End choose their first and last day.
+    virtual int FirstMonth() const = 0;
+    virtual int LastMonth() const = 0;
 
     /// Gives every cell the look of calendar c and takes the mark away; white for
     /// a number that is no calendar.
@@ -61,8 +60,9 @@ protected:
     /// then the selected one.
     void MarkChosenDay();
 
-    /// The day in the current cell; nothing when the cell shows none or is marked.
-    std::optional<int> PressedDay() const;
+    /// Makes the day of the current cell the chosen one. A blank cell, a title, a
+    /// weekday or the marked day is left alone.
+    void ChoosePressedDay();
 
     void keyPressEvent(QKeyEvent* event) override;
 
@@ -72,8 +72,11 @@ private:
     GridPlace nextInColumns(GridPlace cell, int step) const;
     GridPlace nextBy(int arrowKey, GridPlace cell) const;
     void moveOn(int arrowKey);
+    void chooseDay(int month, int day);
+    void chooseEnd(int month, int day);
     QString spokenText(GridPlace cell) const;
 
     int m_titleRows;
+    MainWindowNumber m_window;
     int m_calendar = 0;
 };

@@ -32,7 +32,9 @@ Date inNeighbour(int c, int direction) {
 } // namespace
 
 MonthGrid::MonthGrid(int pane, QWidget* parent)
-    : DayGrid(QStringLiteral("MSFlexGrid1_%1").arg(pane), 1, 0, columns, parent), m_pane(pane) {
+    : DayGrid(QStringLiteral("MSFlexGrid1_%1").arg(pane), 1, 0, columns, MonthlyWindowNumber,
+              parent),
+      m_pane(pane) {
     SetFontPixelSize(digitPixels);
     for (int column = 0; column < columns; ++column)
         SetColWidth(column, weekWidth);
@@ -42,10 +44,9 @@ MonthGrid::MonthGrid(int pane, QWidget* parent)
     const Twips outline{30}; // on both sides
     SetSize(columns * ColWidth(0) + outline, RowHeight(0) + 6 * RowHeight(1) + outline);
     SetCalendar(CalendarOrder(pane));
-    connect(this, &MSFlexGrid::MouseDown, this, &MonthGrid::MSFlexGrid1_MouseDown);
+    connect(this, &MSFlexGrid::MouseDown, this, &MonthGrid::ChoosePressedDay); // of any button
     connect(this, &MSFlexGrid::DblClick, this, &MonthGrid::MSFlexGrid1_DblClick);
     connect(this, &DayGrid::Paged, this, &MonthGrid::page);
-    connect(this, &DayGrid::EndAsked, this, &MonthGrid::chooseEnd);
 }
 
 void MonthGrid::Fill() {
@@ -68,12 +69,6 @@ int MonthGrid::MonthOf(GridPlace) const {
     return CurDate(Calendar(), Month);
 }
 
-// Any mouse button, on the cell that the press has made current.
-void MonthGrid::MSFlexGrid1_MouseDown() {
-    if (const auto day = PressedDay())
-        chooseDay(*day);
-}
-
 void MonthGrid::MSFlexGrid1_DblClick() {
     ChangeCals::OpenYearWindow(Calendar());
 }
@@ -85,17 +80,4 @@ void MonthGrid::page(int direction, bool byYear) {
     const Date to = byYear ? Date{day, month, year + direction} : inNeighbour(c, direction);
     if (to.year >= MinYear(c) && to.year <= MaxYear(c))
         ChangeCals::ChooseDate(c, to, MonthlyWindowNumber);
-}
-
-void MonthGrid::chooseEnd(End end) {
-    const int day = end == End::First ? 1 : MonthDays(Calendar(), CurDate(Calendar(), Month));
-    if (day == CurDate(Calendar(), Day))
-        MoveTo(SelectedCell());
-    else
-        chooseDay(day);
-}
-
-void MonthGrid::chooseDay(int day) {
-    const int c = Calendar();
-    ChangeCals::ChooseDate(c, {day, CurDate(c, Month), CurDate(c, Year)}, MonthlyWindowNumber);
 }

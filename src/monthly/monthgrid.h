@@ -17,13 +17,12 @@ public:
 protected:
     GridPlace CornerOf(int month) const override;
     int MonthOf(GridPlace cell) const override;
+    int FirstMonth() const override { return MonthOf({}); }
+    int LastMonth() const override { return MonthOf({}); }
 
 private:
-    void MSFlexGrid1_MouseDown();
     void MSFlexGrid1_DblClick();
     void page(int direction, bool byYear);
-    void chooseEnd(End end);
-    void chooseDay(int day);
 
     int m_pane;
 };

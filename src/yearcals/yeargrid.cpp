@@ -57,9 +57,9 @@ Twips gridHeight() {
 } // namespace
 
 YearGrid::YearGrid(int c, QWidget* parent)
-    : DayGrid(QStringLiteral("MSFlexGrid1"), bands, titleRows, columnsOf(c), parent) {
+    : DayGrid(QStringLiteral("MSFlexGrid1"), bands, titleRows, columnsOf(c), YearWindowNumber(c),
+              parent) {
     InitYearGrid(c);
-    connect(this, &DayGrid::EndAsked, this, &YearGrid::chooseEnd);
 }
 
 void YearGrid::ShowYear() {
@@ -71,11 +71,6 @@ void YearGrid::ShowYear() {
 
 void YearGrid::ForgetYear() {
     m_shownFirstJD = m_shownLastJD = 0;
-}
-
-void YearGrid::PickYearCell() {
-    if (const auto day = PressedDay())
-        chooseDay(MonthOf({Row(), Col()}), *day);
 }
 
 int YearGrid::NarrowestWidth() {
@@ -110,6 +105,10 @@ int YearGrid::MonthOf(GridPlace cell) const {
     return hasAdarTwo(Calendar()) && band > adarTwoBand ? month + 1 : month;
 }
 
+int YearGrid::LastMonth() const {
+    return Calc::MonthsInYear(Calendar());
+}
+
 // Once: sizes, merged title rows, colours.
 void YearGrid::InitYearGrid(int c) {
     SetFontPixelSize(digitPixels);
@@ -131,7 +130,7 @@ void YearGrid::BuildYearGrid() {
     m_shownFirstJD = YearJD(Calendar(), FirstDay);
     m_shownLastJD = YearJD(Calendar(), LastDay);
     FillWeekdays();
-    for (int month = 1; month <= Calc::MonthsInYear(Calendar()); ++month) {
+    for (int month = 1; month <= LastMonth(); ++month) {
         setTitle(month);
         FillMonth(month);
     }
@@ -162,18 +161,4 @@ void YearGrid::blankAdarTwo() {
         for (int column = adarTwoColumn; column < Cols(); ++column)
             SetTextMatrix(row, column, QString());
     }
-}
-
-void YearGrid::chooseEnd(End end) {
-    const int month = end == End::First ? 1 : Calc::MonthsInYear(Calendar());
-    const int day = end == End::First ? 1 : MonthDays(Calendar(), month);
-    if (CellOf(month, day) == SelectedCell())
-        MoveTo(SelectedCell());
-    else
-        chooseDay(month, day);
-}
-
-void YearGrid::chooseDay(int month, int day) {
-    ChangeCals::ChooseDate(Calendar(), {day, month, CurDate(Calendar(), Year)},
-                           YearWindowNumber(Calendar()));
 }

@@ -18,9 +18,7 @@ public:
     /// The next ShowYear refills the grid.
     void ForgetYear();
 
-    /// Makes the day of the current cell the chosen one. A blank cell, a title, a
-    /// weekday or the marked day is left alone.
-    void PickYearCell();
+    void PickYearCell() { ChoosePressedDay(); }
 
     /// Of a year without a thirteenth month, in pixels.
     static int NarrowestWidth();
@@ -35,6 +33,8 @@ Q_SIGNALS:
 protected:
     GridPlace CornerOf(int month) const override;
     int MonthOf(GridPlace cell) const override;
+    int FirstMonth() const override { return 1; }
+    int LastMonth() const override;
 
 private:
     void InitYearGrid(int c);
@@ -42,8 +42,6 @@ private:
     void fitYear();
     void setTitle(int month);
     void blankAdarTwo();
-    void chooseEnd(End end);
-    void chooseDay(int month, int day);
 
     /// First and last Julian Day of the year that the grid is filled with, both 0
     /// when it holds none.

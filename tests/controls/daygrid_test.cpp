@@ -11,18 +11,22 @@ namespace {
 /// The months of the Gregorian year side by side, each under a title row.
 class Months final : public DayGrid {
 public:
-    Months() : DayGrid(QStringLiteral("months"), 1, 1, 1 + 12 * monthColumns, nullptr) {
+    Months()
+        : DayGrid(QStringLiteral("months"), 1, 1, 1 + 12 * monthColumns, MonthlyWindowNumber,
+                  nullptr) {
         SetCalendar(Gregorian);
     }
+    using DayGrid::ChoosePressedDay;
     using DayGrid::FillMonth;
     using DayGrid::FillWeekdays;
     using DayGrid::MarkChosenDay;
-    using DayGrid::PressedDay;
     using DayGrid::SetCalendar;
 
 protected:
     GridPlace CornerOf(int month) const override { return {1, 1 + (month - 1) * monthColumns}; }
     int MonthOf(GridPlace cell) const override { return (cell.column - 1) / monthColumns + 1; }
+    int FirstMonth() const override { return 1; }
+    int LastMonth() const override { return 12; }
 };
 
 /// November 2026 begins on a Sunday, which here opens the week, and the 20th is marked.
@@ -37,9 +41,12 @@ protected:
         grid.MarkChosenDay();
     }
 
+    /// The day that a press chooses, where it chooses one.
     std::optional<int> pressed(GridPlace cell) {
         grid.MoveTo(cell);
-        return grid.PressedDay();
+        WeekDayNo = 0; // which every choice sets
+        grid.ChoosePressedDay();
+        return WeekDayNo == 0 ? std::nullopt : std::optional(CurDate(Gregorian, Day));
     }
 
     /// The cells that look like the chosen day.
