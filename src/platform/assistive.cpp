@@ -6,7 +6,6 @@
 #include "platform/gridaccessible.h"
 
 void InstallAssistiveInterfaces() {
-    ComboBoxAccessible::Install();
-    FormAccessible::Install();
-    GridAccessible::Install();
+    for (const auto factory : {NewComboBoxAccessible, NewFormAccessible, NewGridAccessible})
+        QAccessible::installFactory(factory);
 }

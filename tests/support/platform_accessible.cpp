@@ -2,7 +2,6 @@
 #include "support/platform_accessible.h"
 
 #include "platform/flexgrid.h"
-#include "platform/gridaccessible.h"
 #include "support/platform_test.h"
 
 #include <QtGui/private/qguiapplication_p.h>
@@ -62,8 +61,11 @@ QAccessibleInterface& accessible(QObject& control) {
 }
 
 QAccessibleInterface* accessibleCell(MSFlexGrid& grid, int row, int column) {
-    const auto& list = dynamic_cast<GridAccessible&>(accessible(grid));
-    return list.Entry(grid.model()->index(row, column));
+    const QModelIndex cell = grid.model()->index(row, column);
+    if (!cell.isValid())
+        return nullptr;
+    const QPoint middle = grid.viewport()->mapToGlobal(grid.visualRect(cell).center());
+    return accessible(grid).childAt(middle.x(), middle.y());
 }
 
 QString accessibleName(QObject& control) {
