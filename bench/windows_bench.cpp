@@ -225,7 +225,7 @@ BENCHMARK(languageAppliedToAllWindows)->Unit(benchmark::kMillisecond);
 int main(int argc, char* argv[]) {
     QApplication app(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
-    SetEndProgram([](int) {});
+    EndProgram = [](int) {};
     const QTemporaryDir settings;
     qputenv("XDG_CONFIG_HOME", QFile::encodeName(settings.path()));
     if (!Start::Main())

@@ -33,7 +33,7 @@ void makeStage(const QTemporaryDir& settings) {
     qputenv("FONTCONFIG_FILE", FONTS_FILE);
     qputenv("XDG_CONFIG_HOME", settings.path().toLocal8Bit());
     qputenv("LC_ALL", "C.UTF-8");
-    SetClock([] { return SystemDate{20, 11, 2026}; });
+    Today = [] { return QDate(2026, 11, 20); };
 }
 
 void setLook() {

@@ -129,8 +129,8 @@ void ChangeCals::RebuildWindows(const Table<bool, calendarCount>& calendars) {
 }
 
 void ChangeCals::GoToToday(MainWindowNumber window) {
-    const auto [day, month, year] = Today();
-    const Date today{day, month, year};
+    const QDate clock = Today();
+    const Date today{clock.day(), clock.month(), clock.year()};
     if (today != ChosenDate(Gregorian))
         ChooseDate(Gregorian, today, window);
 }

@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QApplication>
 #include <functional>
 
-/// The desktop's beep.
-void Beep();
-
-/// Replaces the beep; an empty function puts it back.
-void SetBeep(std::function<void()> beep);
+/// The desktop's beep; another may take its place.
+inline std::function<void()> Beep = QApplication::beep;

@@ -6,48 +6,22 @@
 #include <QDir>
 #include <QGuiApplication>
 
-namespace {
+std::function<QString()> ProgramFolder = [] {
+    static const QString folder = ExecutableFolder();
+    return folder;
+};
 
-QString replacedFolder;
-std::function<void(int)> replacedEnd;
-std::function<bool()> replacedPositions;
+// quit() would first ask every window to close.
+std::function<void(int)> EndProgram = QCoreApplication::exit;
 
-} // namespace
+std::function<bool()> HasWindowPositions = [] {
+    return !QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
+};
 
 QString ProgramTitle() {
     return QStringLiteral("Orvalen Years Calendar");
 }
 
-QString ProgramFolder() {
-    static const QString folder = ExecutableFolder();
-    return replacedFolder.isEmpty() ? folder : replacedFolder;
-}
-
 QString ProgramFile(const QString& name) {
     return QDir::toNativeSeparators(ProgramFolder() + u'/' + name);
-}
-
-void SetProgramFolder(const QString& folder) {
-    replacedFolder = folder;
-}
-
-void EndProgram(int status) {
-    if (replacedEnd)
-        replacedEnd(status);
-    else
-        QCoreApplication::exit(status); // quit() would first ask every window to close
-}
-
-void SetEndProgram(std::function<void(int)> end) {
-    replacedEnd = std::move(end);
-}
-
-bool HasWindowPositions() {
-    if (replacedPositions)
-        return replacedPositions();
-    return !QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
-}
-
-void SetHasWindowPositions(std::function<bool()> has) {
-    replacedPositions = std::move(has);
 }

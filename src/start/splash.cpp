@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "start/splash.h"
 
-#include "platform/clock.h"
 #include "shared/look.h"
 #include "shared/settings.h"
 
@@ -13,7 +12,7 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr double splashDays = 0.000012;
+constexpr std::chrono::duration<double, std::chrono::days::period> shownFor(0.000012);
 constexpr int standardColor = 2;
 constexpr auto exposeLimit = std::chrono::milliseconds(500);
 
@@ -42,7 +41,7 @@ Splash::Splash() {
     waitUntilExposed(*m_box.windowHandle());
     m_box.repaint();
     letWindowsPaint();
-    m_release = Clock::now() + std::chrono::duration_cast<Clock::duration>(Days(splashDays));
+    m_release = Clock::now() + std::chrono::duration_cast<Clock::duration>(shownFor);
 }
 
 void Splash::WaitItsTime() const {

@@ -65,7 +65,7 @@ TEST_F(PositionsOfWindows, ADialogIsInTheMiddleAndAThirdDown) {
 }
 
 TEST_F(PositionsOfWindows, AreLeftAsTheyWereStoredWhereTheDesktopDoesNotTellThem) {
-    SetHasWindowPositions([] { return false; });
+    HasWindowPositions = [] { return false; };
     ChangeCals::LoadYear(Moslem).move(2185, 10);
     ChangeCals::LoadMoon().move(33, -20);
     EXPECT_EQ(ChangeCals::ReadPositions(), nullptr);

@@ -31,7 +31,7 @@ constexpr int settled = 10000; // actions after which memory is no longer to gro
 class Endurance : public WidgetTest {
 protected:
     Endurance() : m_expected(today), m_hand(m_seed, m_expected, m_controls, m_messages) {
-        SetClock([] { return SystemDate{20, 11, 2026}; });
+        Today = [] { return QDate(2026, 11, 20); };
         for (const char* language : {"German", "Hebrew", "Russian"})
             copyLanguage(language);
         QImage moon(16, 16, QImage::Format_RGB32);

@@ -7,17 +7,18 @@
 
 namespace {
 
-class Program : public PlatformTest {};
+class ProgramOnDesk : public PlatformTest {};
 
-TEST_F(Program, ItsFilesLieInItsFolder) {
+TEST_F(ProgramOnDesk, ItsFilesLieInItsFolder) {
     const QString name = QStringLiteral("Moon.bmp");
     EXPECT_EQ(ProgramFile(name), QDir::toNativeSeparators(programPath(name)));
-    SetProgramFolder({});
+}
+
+TEST(Program, LiesWhereItsExecutableDoes) {
     EXPECT_EQ(ProgramFolder(), QCoreApplication::applicationDirPath());
 }
 
-TEST_F(Program, ItsEndHasAStatus) {
-    SetEndProgram({}); // the real one, which ends no more than the loop of events here
+TEST(Program, ItsEndHasAStatus) { // and ends no more than the loop of events here
     QTimer::singleShot(0, [] { EndProgram(3); });
     EXPECT_EQ(QCoreApplication::exec(), 3);
 }

@@ -24,7 +24,7 @@ class Screen : public WidgetTest {
 protected:
     Screen() {
         QApplication::setCursorFlashTime(0);
-        SetClock([] { return SystemDate{20, 11, 2026}; });
+        Today = [] { return QDate(2026, 11, 20); };
         placeFiles();
         placeApart();
         EXPECT_TRUE(Start::Main());

@@ -19,10 +19,10 @@ protected:
     Splash() {
         clearTexts();
         // Read while the splash is shown, and so the moment for the user's Esc.
-        SetClock([this] {
+        Today = [this] {
             queueKey(*watch.window, Qt::Key_Escape);
-            return SystemDate{20, 11, 2026};
-        });
+            return QDate(2026, 11, 20);
+        };
         QImage moon(16, 16, QImage::Format_RGB32);
         moon.fill(Qt::yellow);
         EXPECT_TRUE(moon.save(programPath(QStringLiteral("Moon.bmp")), "BMP"));

@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "support/platform_test.h"
 
-#include "platform/beep.h"
-#include "platform/clock.h"
-#include "platform/program.h"
 #include "platform/settingsfile.h"
 
 #include <QDir>
@@ -75,20 +72,13 @@ Desk::Desk() {
     qputenv("XDG_CONFIG_HOME", QFile::encodeName(m_folder.filePath(QStringLiteral("config"))));
     const QString program = m_folder.filePath(QStringLiteral("program"));
     EXPECT_TRUE(QDir().mkpath(program));
-    SetProgramFolder(program);
-    SetEndProgram([this](int status) { m_exitStatus = status; });
-    SetBeep([this] { ++m_beeps; });
+    ProgramFolder = [program] { return program; };
     EXPECT_TRUE(LoadSettings()); // as a run begins, not as the test before ended
 }
 
 Desk::~Desk() {
     EXPECT_EQ(m_messages.take(), QStringList()) << "messages that nobody asked about";
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
-    SetBeep({});
-    SetClock({});
-    SetEndProgram({});
-    SetHasWindowPositions({});
-    SetProgramFolder({});
 }
 
 QString Desk::settingsPath() const {

@@ -1,7 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/beep.h"
+#include "platform/clock.h"
+#include "platform/program.h"
+
 #include <QApplication> // IWYU pragma: export
+#include <QScopedValueRollback>
 #include <QStringList>
 #include <QTemporaryDir>
 #include <QTest> // IWYU pragma: export
@@ -77,6 +82,16 @@ protected:
     MessageWatch m_messages;
     std::optional<int> m_exitStatus;
     int m_beeps = 0;
+
+private:
+    template <typename Function>
+    using AsBefore = QScopedValueRollback<Function>;
+
+    AsBefore<decltype(Beep)> m_beep{Beep, [this] { ++m_beeps; }};
+    AsBefore<decltype(Today)> m_today{Today};
+    AsBefore<decltype(EndProgram)> m_end{EndProgram, [this](int status) { m_exitStatus = status; }};
+    AsBefore<decltype(HasWindowPositions)> m_positions{HasWindowPositions};
+    AsBefore<decltype(ProgramFolder)> m_programFolder{ProgramFolder};
 };
 
 /// A test that knows no calendar.

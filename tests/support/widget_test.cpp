@@ -3,6 +3,7 @@
 
 #include "changecals/changecals.h"
 #include "changecals/windows.h"
+#include "platform/clock.h"
 #include "settings/usersettings.h"
 #include "shared/english.h"
 
@@ -18,11 +19,11 @@ WidgetTest::~WidgetTest() {
     EXPECT_FALSE(Updating);
 }
 
-void WidgetTest::startToday(SystemDate today) {
-    SetClock([today] { return today; });
+void WidgetTest::startToday(QDate today) {
+    Today = [today] { return today; };
     SetEnglishTexts();
     MonthNames(Jewish, 13).clear();
-    setDate(Gregorian, today.day, today.month, today.year);
+    setDate(Gregorian, today.day(), today.month(), today.year());
     ChangeCals::ChangeCal(Gregorian);
 }
 

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/clock.h" // IWYU pragma: keep (a default argument is one of its dates)
 #include "support/platform_test.h"
 #include "support/state.h"
+
+#include <QDate>
 
 /// A fresh state on a desk of its own, today at 20 November 2026.
 class WidgetTest : public StateTest, protected Desk {
@@ -12,7 +13,7 @@ protected:
     ~WidgetTest() override;
 
     /// Sets English texts and today's state in all calendars.
-    void startToday(SystemDate today = {20, 11, 2026});
+    void startToday(QDate today = {2026, 11, 20});
 
     /// Puts a language of ours into the program's folder.
     void copyLanguage(const char* name) const;
