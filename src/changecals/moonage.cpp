@@ -5,6 +5,8 @@
 #include "calc/state.h"
 #include "platform/numbers.h"
 
+#include <cmath>
+
 namespace {
 
 constexpr int meanNewMoon = 1720993;
@@ -18,6 +20,6 @@ void ChangeCals::SetMoonAge() {
     // In double the product is exact, so only the storing in single rounds.
     const double days = MoonAge;
     const double month = lunation;
-    MoonAge = static_cast<float>(days - Fix(days / month) * month);
+    MoonAge = static_cast<float>(days - std::trunc(days / month) * month);
     MoonPhase = CInt(MoonAge / month * phases).value_or(0);
 }

@@ -3,8 +3,6 @@
 
 #include <QLocale>
 #include <QRegularExpression>
-#include <array>
-#include <charconv>
 #include <cmath>
 #include <cstdint>
 #include <limits>
@@ -20,80 +18,17 @@ std::optional<int> roundedTo(double value) {
     return static_cast<int>(rounded);
 }
 
-bool isSign(QChar c) {
-    return c == u'+' || c == u'-';
-}
-
-bool isDigit(QChar c) {
-    return c >= u'0' && c <= u'9';
-}
-
-/// Reads a number from the front of a text without blanks.
-class NumberReader {
-public:
-    explicit NumberReader(QString text) : m_text(std::move(text)) {}
-
-    double read() {
-        if (isSign(peek()))
-            ++m_at;
-        const int digits = skipDigits();
-        int decimals = 0;
-        if (peek() == u'.') {
-            ++m_at;
-            decimals = skipDigits();
-        }
-        if (digits + decimals == 0)
-            return 0;
-        skipExponent();
-        return m_text.left(m_at).toDouble();
-    }
-
-private:
-    QChar peek(int ahead = 0) const {
-        return m_at + ahead < m_text.size() ? m_text.at(m_at + ahead) : QChar();
-    }
-
-    int skipDigits() {
-        const int start = m_at;
-        while (isDigit(peek()))
-            ++m_at;
-        return m_at - start;
-    }
-
-    void skipExponent() {
-        if (peek().toLower() != u'e')
-            return;
-        const int sign = isSign(peek(1)) ? 1 : 0;
-        if (!isDigit(peek(1 + sign)))
-            return;
-        m_at += 1 + sign;
-        skipDigits();
-    }
-
-    QString m_text;
-    int m_at = 0;
-};
+// As a pattern.
+const QString realNumber = QStringLiteral(R"([+-]?([0-9]+\.?[0-9]*|\.[0-9]+)([eE][+-]?[0-9]+)?)");
 
 // The tenths of a number, from its 7 significant digits, half away from zero.
-std::int64_t tenthsOf(double value) {
-    std::array<char, 32> text{};
-    const auto end =
-        std::to_chars(text.begin(), text.end(), std::abs(value), std::chars_format::scientific, 6);
-    const QByteArray form(text.data(), static_cast<int>(end.ptr - text.data())); // d.dddddde+xx
-    std::int64_t digits = (form.left(1) + form.mid(2, 6)).toLongLong();
-    int places = 5 - form.mid(9).toInt(); // decimals to drop so that tenths remain
-    for (; places < 0; ++places)
-        digits *= 10;
-    for (; places > 1; --places)
-        digits /= 10; // whole digits are cut, so the last one dropped decides alone
-    return places == 1 ? (digits + 5) / 10 : digits;
+double tenthsOf(double value) {
+    constexpr double slack = 1e-9; // by which a half of the digits is missed in binary
+    const double digits = QByteArray::number(std::abs(value), 'e', 6).toDouble();
+    return std::floor(digits * 10 + 0.5 + slack);
 }
 
 } // namespace
-
-double Fix(double value) {
-    return std::trunc(value);
-}
 
 std::optional<int> CInt(double value) {
     return roundedTo<std::int16_t>(value);
@@ -104,21 +39,16 @@ std::optional<int> CLng(double value) {
 }
 
 std::optional<int> CInt(const QString& text) {
-    static const QRegularExpression number(
-        QStringLiteral(R"(^\s*[+-]?([0-9]+\.?[0-9]*|\.[0-9]+)([eE][+-]?[0-9]+)?\s*\z)"));
+    static const QRegularExpression number(QStringLiteral(R"(^\s*%1\s*\z)").arg(realNumber));
     if (!number.match(text).hasMatch())
         return std::nullopt;
     return CInt(text.trimmed().toDouble());
 }
 
 double Val(const QString& text) {
-    QString dense = text;
-    dense.remove(QRegularExpression(QStringLiteral("[ \t\r\n]")));
-    return NumberReader(dense).read();
-}
-
-QString Str(int value) {
-    return value < 0 ? QString::number(value) : u' ' + QString::number(value);
+    static const QRegularExpression blank(QStringLiteral("[ \t\r\n]"));
+    static const QRegularExpression beginning(u'^' + realNumber);
+    return beginning.match(QString(text).remove(blank)).captured().toDouble();
 }
 
 bool IsWholeNumber(const QString& text) {
@@ -127,9 +57,8 @@ bool IsWholeNumber(const QString& text) {
 }
 
 QString FormatOneDecimal(double value) {
-    const std::int64_t tenths = tenthsOf(value);
-    const QString comma = QStringLiteral(",");
-    const QString point = QLocale().decimalPoint() == comma ? comma : QStringLiteral(".");
-    const QString sign = value < 0 && tenths != 0 ? QStringLiteral("-") : QString();
-    return sign + QString::number(tenths / 10) + point + QString::number(tenths % 10);
+    const double tenths = tenthsOf(value);
+    const bool isNegative = value < 0 && tenths != 0;
+    QString text = QString::number((isNegative ? -tenths : tenths) / 10, 'f', 1);
+    return QLocale().decimalPoint() == u"," ? text.replace(u'.', u',') : text;
 }

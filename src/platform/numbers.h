@@ -5,10 +5,7 @@
 #include <optional>
 
 // Numbers and their texts by the classic rules: every conversion of a real number
-// to a whole one but Fix rounds to the nearest, ties to even.
-
-/// Truncation toward zero.
-double Fix(double value);
+// to a whole one rounds to the nearest, ties to even.
 
 /// To 16 and to 32 bits; nothing when the rounded value does not fit.
 std::optional<int> CInt(double value);
@@ -23,10 +20,6 @@ std::optional<int> CInt(const QString& text);
 /// point, reading stops at the first character that cannot continue the number.
 /// 0 when there is none.
 double Val(const QString& text);
-
-/// Decimal text with a blank in the sign's place before a number that is not
-/// negative.
-QString Str(int value);
 
 /// Whether the text is a whole number in decimal digits, with or without a sign
 /// in front and blanks or line ends around.

@@ -3,7 +3,6 @@
 
 #include "calc/calc.h"
 #include "platform/message.h"
-#include "platform/numbers.h"
 #include "platform/profile.h"
 #include "platform/program.h"
 #include "platform/text.h"
@@ -103,7 +102,8 @@ void LoadLanguage(std::string& name) {
 
 std::string ReadLngString(const ProfileFile& file, const char* section, int key,
                           const std::string& whenAbsent) {
-    const QByteArray bytes = file.GetPrivateProfileString(section, Str(key).toUtf8(), bufferSize);
+    const QByteArray bytes =
+        file.GetPrivateProfileString(section, QByteArray::number(key), bufferSize);
     if (bytes.isEmpty())
         return whenAbsent;
     QString text = file.Decode(bytes);

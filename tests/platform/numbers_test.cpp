@@ -30,11 +30,6 @@ TEST(Numbers, WholeNumbersAreTheNearestWithTiesToEven) {
     EXPECT_EQ(CLng(std::nan("")), std::nullopt);
 }
 
-TEST(Numbers, FixTruncatesTowardZero) {
-    EXPECT_EQ(Fix(-365.25), -365);
-    EXPECT_EQ(Fix(1.9), 1);
-}
-
 TEST(Numbers, OneDecimalRoundsTheShortFormHalfAwayFromZero) {
     const struct {
         float value;
@@ -92,7 +87,6 @@ TEST(Numbers, TextsBecomeTheSameNumbersInEveryLocale) {
     EXPECT_EQ(CInt(QStringLiteral("1.5")), 2);
     EXPECT_EQ(CInt(QStringLiteral("1,5")), std::nullopt);
     EXPECT_EQ(Val(QStringLiteral("1.5")), 1.5);
-    EXPECT_EQ(Str(1000), QStringLiteral(" 1000"));
 }
 
 TEST(Numbers, ValReadsTheNumberAtTheBeginning) {
@@ -106,12 +100,6 @@ TEST(Numbers, ValReadsTheNumberAtTheBeginning) {
                 {"0x10", 0},     {"\t7\r\n", 7}, {"x9", 0}};
     for (const auto& row : rows)
         EXPECT_DOUBLE_EQ(Val(QLatin1String(row.text)), row.value) << '"' << row.text << '"';
-}
-
-TEST(Numbers, StrPutsABlankInTheSignsPlace) {
-    EXPECT_EQ(Str(5), QStringLiteral(" 5"));
-    EXPECT_EQ(Str(0), QStringLiteral(" 0"));
-    EXPECT_EQ(Str(-5), QStringLiteral("-5"));
 }
 
 TEST(Numbers, WholeNumbersAreWesternDigitsWithASignAndBlanksAround) {
