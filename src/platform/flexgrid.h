@@ -20,8 +20,8 @@ class GridPainter;
 /// A press of a mouse button on a cell makes it current and then raises
 /// MouseDown; a press beside the cells raises nothing. The arrow keys move the
 /// current cell, Return and Space on it do what a left press does, with Ctrl what a
-/// double click does. When the focus
-/// comes to the grid, the selected cell becomes current.
+/// double click does. When the focus comes to the grid, the selected cell becomes current.
+/// What changes in the current cell is told by itself: to the user it answers nothing.
 class MSFlexGrid : public QTableView, public Speaker {
     Q_OBJECT
 
@@ -94,9 +94,6 @@ public:
 
     /// Gives the grid the focus, makes a cell current and presses it as Return does.
     void PressCell(int row, int column);
-
-    /// Nothing: what changes in the current cell is told by itself.
-    QString Answer() const override { return {}; }
 
     /// Cells painted since the grid was made.
     int PaintedCells() const;

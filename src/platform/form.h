@@ -40,9 +40,6 @@ public:
     void Unload();
     bool IsUnloaded() const { return m_unloaded; }
 
-    /// Nothing, unless the window has something to say.
-    QString Answer() const override { return {}; }
-
     /// Plain text. An empty caption leaves the title bar empty.
     void SetCaption(const QString& caption);
 

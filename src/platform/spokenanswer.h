@@ -3,15 +3,12 @@
 
 #include <QString>
 
-/// A control or a window that answers in words what it shows after a change.
+/// A control or a window that answers in words what it shows after a change; nothing,
+/// where it says no more.
 class Speaker {
 public:
-    Speaker() = default;
     virtual ~Speaker() = default;
-    Speaker(const Speaker&) = delete;
-    Speaker& operator=(const Speaker&) = delete;
-
-    virtual QString Answer() const = 0;
+    virtual QString Answer() const { return {}; }
 };
 
 /// The user has changed something: when all of it is done, assistive tools are told
