@@ -65,30 +65,6 @@ MSFlexGrid::MSFlexGrid(const QString& name, int rows, int columns, QWidget* pare
     m_painter->SetFonts(font());
 }
 
-void MSFlexGrid::SetTextMatrix(int row, int column, const QString& text) {
-    GridCell cell = m_model->Cell(row, column);
-    cell.text = text;
-    changeCell(row, column, cell);
-}
-
-void MSFlexGrid::SetCellBackColor(int color) {
-    GridCell cell = currentCell();
-    cell.back = color;
-    changeCell(m_row, m_column, cell);
-}
-
-void MSFlexGrid::SetCellForeColor(int color) {
-    GridCell cell = currentCell();
-    cell.fore = color;
-    changeCell(m_row, m_column, cell);
-}
-
-void MSFlexGrid::SetCellFontBold(bool bold) {
-    GridCell cell = currentCell();
-    cell.bold = bold;
-    changeCell(m_row, m_column, cell);
-}
-
 void MSFlexGrid::SetBackColor(int color) {
     QPalette colors = palette();
     colors.setColor(QPalette::Base, ToColor(color));
@@ -97,13 +73,8 @@ void MSFlexGrid::SetBackColor(int color) {
 
 void MSFlexGrid::SetAllCellColors(int back, int fore) {
     for (int row = 0; row < Rows(); ++row) {
-        for (int column = 0; column < Cols(); ++column) {
-            GridCell cell = m_model->Cell(row, column);
-            cell.back = back;
-            cell.fore = fore;
-            cell.bold = false;
-            changeCell(row, column, cell);
-        }
+        for (int column = 0; column < Cols(); ++column)
+            changeCell(row, column, {TextMatrix(row, column), back, fore, false});
     }
 }
 
@@ -111,10 +82,6 @@ void MSFlexGrid::MoveTo(GridPlace cell) {
     SetRow(cell.row);
     SetCol(cell.column);
     moveCurrent(m_model->index(cell.row, cell.column));
-}
-
-void MSFlexGrid::SetMergeRow(int row) {
-    m_mergeRows.push_back(row);
 }
 
 void MSFlexGrid::SetRedraw(bool on) {
@@ -134,10 +101,6 @@ void MSFlexGrid::SetFontPixelSize(int pixels) {
     sized.setPixelSize(pixels);
     setFont(sized);
     m_painter->SetFonts(sized);
-}
-
-void MSFlexGrid::SetAccessibleText(std::function<QString(int, int)> text) {
-    m_model->accessibleText = std::move(text);
 }
 
 void MSFlexGrid::PressCell(int row, int column) {
@@ -257,13 +220,10 @@ void MSFlexGrid::changeCell(int row, int column, const GridCell& cell) {
 
 void MSFlexGrid::announceChanges() {
     std::vector<QPoint> changed = std::exchange(m_changedCells, {});
-    changed.erase(
-        std::remove_if(changed.begin(), changed.end(),
-                       [this](QPoint cell) { return !m_model->TakeChange(cell.y(), cell.x()); }),
-        changed.end());
+    std::erase_if(changed,
+                  [this](QPoint cell) { return !m_model->TakeChange(cell.y(), cell.x()); });
     for (const int row : m_mergeRows) {
-        if (std::any_of(changed.begin(), changed.end(),
-                        [row](QPoint cell) { return cell.y() == row; }))
+        if (std::ranges::any_of(changed, [row](QPoint cell) { return cell.y() == row; }))
             MergeEqualTexts(*this, row);
     }
     showSelected();

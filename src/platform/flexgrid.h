@@ -36,14 +36,16 @@ public:
     void SetCol(int column) { m_column = column; }
 
     QString TextMatrix(int row, int column) const { return m_model->Cell(row, column).text; }
-    void SetTextMatrix(int row, int column, const QString& text);
+    void SetTextMatrix(int row, int column, const QString& text) {
+        change(row, column, &GridCell::text, text);
+    }
 
     int CellBackColor() const { return currentCell().back; }
     int CellForeColor() const { return currentCell().fore; }
     bool CellFontBold() const { return currentCell().bold; }
-    void SetCellBackColor(int color);
-    void SetCellForeColor(int color);
-    void SetCellFontBold(bool bold);
+    void SetCellBackColor(int color) { change(m_row, m_column, &GridCell::back, color); }
+    void SetCellForeColor(int color) { change(m_row, m_column, &GridCell::fore, color); }
+    void SetCellFontBold(bool bold) { change(m_row, m_column, &GridCell::bold, bold); }
 
     /// The ground on which cells without a colour of their own stand.
     void SetBackColor(int color);
@@ -59,7 +61,7 @@ public:
     void SetColHidden(int column, bool hidden) { setColumnHidden(column, hidden); }
 
     /// Equal texts that stand side by side in this row are shown as one cell.
-    void SetMergeRow(int row);
+    void SetMergeRow(int row) { m_mergeRows.push_back(row); }
 
     void SetRedraw(bool on);
 
@@ -90,7 +92,10 @@ public:
     /// Height of the digits' font in pixels.
     void SetFontPixelSize(int pixels);
 
-    void SetAccessibleText(std::function<QString(int row, int column)> text);
+    /// What an assistive tool says of a cell; without, its text.
+    void SetAccessibleText(std::function<QString(int row, int column)> text) {
+        m_model->accessibleText = std::move(text);
+    }
 
     /// Gives the grid the focus, makes a cell current and presses it as Return does.
     void PressCell(int row, int column);
@@ -118,6 +123,14 @@ protected:
 
 private:
     const GridCell& currentCell() const { return m_model->Cell(m_row, m_column); }
+
+    template <typename Value>
+    void change(int row, int column, Value GridCell::*part, const Value& value) {
+        GridCell cell = m_model->Cell(row, column);
+        cell.*part = value;
+        changeCell(row, column, cell);
+    }
+
     void changeCell(int row, int column, const GridCell& cell);
     void announceChanges();
     void paintFrame();
