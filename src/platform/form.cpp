@@ -39,10 +39,6 @@ Form::State Form::WindowState() const {
     return isMaximized() ? Maximised : Normal;
 }
 
-void Form::SetNormal() {
-    setWindowState(windowState() & ~Qt::WindowMinimized);
-}
-
 // The desktop would else give the keyboard to each of several windows in turn.
 void Form::ShowInFront() {
     setAttribute(Qt::WA_ShowWithoutActivating);
@@ -56,8 +52,7 @@ void Form::Show() {
 }
 
 void Form::bringUp() {
-    if (WindowState() == Minimised)
-        SetNormal();
+    setWindowState(windowState() & ~Qt::WindowMinimized);
     show();
     raise();
 }

@@ -29,7 +29,6 @@ public:
     /// Minimised windows are visible.
     bool Visible() const { return isVisible(); }
     State WindowState() const;
-    void SetNormal();
 
     /// Shows the window modeless and in front, out of the minimised state where
     /// it is in it. Show gives it the keyboard as well.

@@ -116,7 +116,7 @@ TEST_F(Forms, StatesAreNormalMinimisedMaximised) {
     form->showMinimized();
     EXPECT_TRUE(waitUntil([this] { return form->WindowState() == Form::Minimised; }));
     EXPECT_TRUE(form->Visible()) << "minimised windows are visible";
-    form->SetNormal();
+    form->setWindowState(Qt::WindowNoState);
     EXPECT_TRUE(waitUntil([this] { return form->WindowState() == Form::Normal; }));
     form->showMaximized();
     EXPECT_TRUE(waitUntil([this] { return form->WindowState() == Form::Maximised; }));
