@@ -5,19 +5,7 @@
 #include <QFontMetrics>
 #include <QRegularExpression>
 #include <QTextDocument>
-#include <functional>
-
-namespace {
-
-QFont fitted(const QFont& font, const std::function<bool(const QFontMetrics&)>& fits) {
-    QFont smaller = font;
-    int pixels = QFontInfo(font).pixelSize();
-    while (pixels > smallestPixelSize && !fits(QFontMetrics(smaller)))
-        smaller.setPixelSize(--pixels);
-    return smaller;
-}
-
-} // namespace
+#include <QTextLayout>
 
 QString Caption(const std::string& text) {
     return Text(text).replace(u'&', QStringLiteral("&&"));
@@ -39,19 +27,32 @@ QString Spoken(QString text) {
     return text.remove(unspoken);
 }
 
-QFont FittedFont(const QFont& font, const QString& text, int width) {
-    return fitted(font, [&](const QFontMetrics& metrics) {
-        return metrics.horizontalAdvance(text) <= width;
-    });
-}
-
-QFont FittedFont(const QFont& font, const QString& text, const QSize& room) {
-    return fitted(font,
-                  [&](const QFontMetrics& metrics) { return FitsInLines(metrics, text, room); });
-}
-
 bool FitsInLines(const QFontMetrics& metrics, const QString& text, const QSize& room) {
     const QRect whole(QPoint(), room);
     return metrics.horizontalAdvance(text) <= room.width() ||
            whole.contains(metrics.boundingRect(whole, Qt::TextWordWrap, text));
+}
+
+QFont FittedFont(const QFont& font, const QString& text, const QSize& room) {
+    constexpr int smallestPixelSize = 6;
+    QFont smaller = font;
+    int pixels = QFontInfo(font).pixelSize();
+    while (pixels > smallestPixelSize && !FitsInLines(QFontMetrics(smaller), text, room))
+        smaller.setPixelSize(--pixels);
+    return smaller;
+}
+
+QString Wrapped(QString text, const QFont& font, int width) {
+    QTextOption option;
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    QTextLayout layout(text.replace(u'\n', QChar::LineSeparator), font);
+    layout.setTextOption(option);
+    QStringList lines;
+    layout.beginLayout();
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(width);
+        lines.append(text.mid(line.textStart(), line.textLength()).trimmed());
+    }
+    layout.endLayout();
+    return lines.join(u'\n');
 }

@@ -28,14 +28,18 @@ QString AmidNumbers(const QString& name);
 /// another script amid Latin ones.
 QString Spoken(QString text);
 
-/// The least size that a font is made smaller to.
-inline constexpr int smallestPixelSize = 6;
+/// Whether a text fits, on one line whatever the height, or broken between words on so
+/// many as there is room for. Sizes are in pixels.
+bool FitsInLines(const QFontMetrics& metrics, const QString& text, const QSize& room);
 
-/// `font`, made smaller where `text` would not fit into `width` pixels.
-QFont FittedFont(const QFont& font, const QString& text, int width);
-
-/// The same for a text that may be broken between words.
+/// `font`, made smaller where `text` would not fit so, down to 6 pixels.
 QFont FittedFont(const QFont& font, const QString& text, const QSize& room);
 
-/// Whether such a text fits, on one line or on so many as there is room for.
-bool FitsInLines(const QFontMetrics& metrics, const QString& text, const QSize& room);
+/// The same for one line of this width.
+inline QFont FittedFont(const QFont& font, const QString& text, int width) {
+    return FittedFont(font, text, QSize(width, 0));
+}
+
+/// `text` broken into lines of at most `width` pixels: between words, and within
+/// a word that is too wide by itself. Breaks that the text has stay.
+QString Wrapped(QString text, const QFont& font, int width);

@@ -12,7 +12,6 @@
 #include "platform/message.h"
 #include "platform/pointer.h"
 #include "platform/text.h"
-#include "platform/wrapping.h"
 #include "settings/usersettings.h"
 #include "shared/settings.h"
 #include "shared/texts.h"

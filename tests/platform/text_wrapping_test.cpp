@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/wrapping.h"
+#include "platform/text.h"
 
 #include "support/platform_test.h"
 
