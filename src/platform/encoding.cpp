@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/encoding.h"
 
-#include <QStringDecoder>
-
 namespace {
 
 // The languages in Latin letters that have a code page of their own.
@@ -29,19 +27,6 @@ int latinCodePage(QLocale::Language language) {
 
 } // namespace
 
-QByteArray WithoutMark(const QByteArray& bytes) {
-    const auto encoding = QStringConverter::encodingForData(bytes);
-    if (encoding == QStringConverter::Utf8)
-        return bytes.mid(3);
-    return encoding ? QString(QStringDecoder(*encoding).decode(bytes)).toUtf8() : bytes;
-}
-
-bool IsUtf8(const QByteArray& bytes) {
-    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
-    const QString text = decoder.decode(bytes);
-    return !decoder.hasError() && !text.isNull();
-}
-
 int CodePageOf(const QLocale& locale) {
     switch (locale.script()) {
     case QLocale::CyrillicScript:
@@ -55,8 +40,4 @@ int CodePageOf(const QLocale& locale) {
     default:
         return latinCodePage(locale.language());
     }
-}
-
-int UserCodePage() {
-    return CodePageOf(QLocale());
 }

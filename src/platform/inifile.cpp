@@ -1,26 +1,25 @@
 // SPDX-License-Identifier: MIT
 #include "platform/inifile.h"
 
-#include "platform/encoding.h"
+#include <QStringDecoder>
 
 namespace {
 
+QByteArray withoutMark(const QByteArray& bytes) {
+    const auto encoding = QStringConverter::encodingForData(bytes);
+    if (encoding == QStringConverter::Utf8)
+        return bytes.mid(3);
+    return encoding ? QString(QStringDecoder(*encoding).decode(bytes)).toUtf8() : bytes;
+}
+
 // The form in which names are compared.
 QByteArray nameOf(QByteArrayView text) {
-    return WithoutBlanks(text).toByteArray().toLower();
+    return text.trimmed().toByteArray().toLower();
 }
 
 } // namespace
 
-QByteArrayView WithoutBlanks(QByteArrayView text) {
-    while (!text.empty() && IsBlank(text.front()))
-        text = text.sliced(1);
-    while (!text.empty() && IsBlank(text.back()))
-        text.chop(1);
-    return text;
-}
-
-IniFile::IniFile(const QByteArray& bytes) : m_lines(WithoutMark(bytes).split('\n')) {
+IniFile::IniFile(const QByteArray& bytes) : m_lines(withoutMark(bytes).split('\n')) {
     if (m_lines.last().isEmpty())
         m_lines.removeLast();
     findEntries();
@@ -58,7 +57,7 @@ void IniFile::findEntries() {
     Section* section = nullptr;
     bool isFirst = false;
     for (qsizetype i = 0; i < m_lines.size(); ++i) {
-        const QByteArrayView line = WithoutBlanks(m_lines.at(i));
+        const QByteArrayView line = QByteArrayView(m_lines.at(i)).trimmed();
         const auto bracket = line.startsWith('[') ? line.indexOf(']') : -1;
         if (bracket > 0) {
             const QByteArray name = nameOf(line.sliced(1, bracket - 1));

@@ -5,18 +5,11 @@
 #include <QHash>
 #include <optional>
 
-/// Blanks, tabs and the ends of lines.
-constexpr bool IsBlank(char c) {
-    return c == ' ' || c == '\t' || c == '\r';
-}
-
-/// Without what is blank at both ends.
-QByteArrayView WithoutBlanks(QByteArrayView text);
-
 /// An initialisation file: sections of key=value lines. Names are matched without regard
 /// to the case of Latin letters and to blanks around them. Lines that begin with ";",
 /// lines without "=", header lines without "]" and what stands before the first section
-/// are skipped. Lines that nobody changes stay as they are, but for a mark of Unicode.
+/// are skipped. Lines that nobody changes stay as they are. Bytes that say by their mark
+/// that they are UTF-16 or UTF-32 become UTF-8; the mark of UTF-8 is taken off.
 class IniFile {
 public:
     explicit IniFile(const QByteArray& bytes = {});

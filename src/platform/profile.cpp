@@ -29,7 +29,7 @@ QByteArray valueOf(QByteArrayView raw) {
         raw.truncate(end);
     if (raw.endsWith('\r'))
         raw.chop(1);
-    const QByteArrayView value = WithoutBlanks(raw);
+    const QByteArrayView value = raw.trimmed();
     if (value.empty())
         return raw.empty() ? QByteArray() : QByteArray(" ");
     return (isQuoted(value) ? value.sliced(1, value.size() - 2) : value).toByteArray();
@@ -45,20 +45,11 @@ ProfileFile::ProfileFile(const QString& path) {
         m_status = Status::TooLarge;
         return;
     }
-    take(file.read(largestSize));
+    *this = ProfileFile(file.read(largestSize));
 }
 
-ProfileFile ProfileFile::FromBytes(const QByteArray& bytes) {
-    ProfileFile file;
-    file.take(bytes);
-    return file;
-}
-
-void ProfileFile::take(const QByteArray& bytes) {
-    m_status = Status::Read;
-    m_isUtf8 = IsUtf8(WithoutMark(bytes));
-    m_entries = IniFile(bytes);
-}
+ProfileFile::ProfileFile(const QByteArray& bytes)
+    : m_status(Status::Read), m_entries(bytes), m_isUtf8(m_entries.Bytes().isValidUtf8()) {}
 
 QByteArray ProfileFile::GetPrivateProfileString(const QByteArray& section, const QByteArray& key,
                                                 int size) const {
@@ -67,5 +58,5 @@ QByteArray ProfileFile::GetPrivateProfileString(const QByteArray& section, const
 }
 
 QString ProfileFile::Decode(const QByteArray& bytes) const {
-    return m_isUtf8 ? QString::fromUtf8(bytes) : FromCodePage(bytes, UserCodePage());
+    return m_isUtf8 ? QString::fromUtf8(bytes) : FromCodePage(bytes, CodePageOf(QLocale()));
 }

@@ -18,6 +18,9 @@ public:
     /// Reads a file whole.
     explicit ProfileFile(const QString& path);
 
+    /// A file that is in memory already.
+    explicit ProfileFile(const QByteArray& bytes);
+
     Status ReadStatus() const { return m_status; }
 
     /// The bytes of an entry, at most size - 1 of them and never a part of a
@@ -32,15 +35,8 @@ public:
     /// otherwise the 8-bit Windows code page of the user's language.
     QString Decode(const QByteArray& bytes) const;
 
-    /// For files that are in memory already.
-    static ProfileFile FromBytes(const QByteArray& bytes);
-
 private:
-    ProfileFile() = default;
-
-    void take(const QByteArray& bytes);
-
     Status m_status = Status::Unreadable;
-    bool m_isUtf8 = false;
     IniFile m_entries;
+    bool m_isUtf8 = false;
 };

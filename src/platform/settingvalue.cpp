@@ -1,23 +1,20 @@
 // SPDX-License-Identifier: MIT
 #include "platform/settingvalue.h"
 
-#include "platform/inifile.h"
-
 #include <algorithm>
 #include <cctype>
-#include <span>
 
 namespace {
 
-struct Escape {
-    char letter; // behind the backslash
-    char byte;
-};
-
-// The first ones are also written.
-constexpr Escape escapes[] = {{'\\', '\\'}, {'"', '"'},  {'n', '\n'}, {'r', '\r'}, {'t', '\t'},
-                              {'a', '\a'},  {'b', '\b'}, {'f', '\f'}, {'v', '\v'}, {'0', '\0'}};
+// What stands behind a backslash, and the bytes for which it stands. The first five are
+// also written.
+constexpr QByteArrayView escapes = "\\\"nrtabfv0";
+constexpr QByteArrayView escapedBytes("\\\"\n\r\t\a\b\f\v\0", 10);
 constexpr int writtenEscapes = 5;
+
+bool isBlank(char c) {
+    return c == ' ' || c == '\t' || c == '\r';
+}
 
 /// Takes a value apart.
 class Reader {
@@ -27,7 +24,7 @@ public:
     QString text() {
         while (!m_rest.empty() && (m_quoted || m_rest.front() != ';'))
             take(next());
-        while (m_text.size() > m_kept && IsBlank(m_text.back()))
+        while (m_text.size() > m_kept && isBlank(m_text.back()))
             m_text.chop(1);
         const bool doubled = m_text.startsWith("@@"); // "@" alone opens another kind of value
         return QString::fromUtf8(doubled ? m_text.mid(1) : m_text);
@@ -47,7 +44,7 @@ private:
             m_quoted = !m_quoted;
         else if (m_quoted)
             keep(QByteArray(1, c));
-        else if (!m_text.isEmpty() || !IsBlank(c))
+        else if (!m_text.isEmpty() || !isBlank(c))
             m_text += c;
     }
 
@@ -60,11 +57,8 @@ private:
     QByteArray escaped(char letter) {
         if (letter == 'x')
             return QString(QChar(character())).toUtf8();
-        for (const Escape& escape : escapes) {
-            if (escape.letter == letter)
-                return {1, escape.byte};
-        }
-        return {1, letter};
+        const auto at = escapes.indexOf(letter);
+        return {1, at < 0 ? letter : escapedBytes[at]};
     }
 
     char16_t character() {
@@ -81,11 +75,8 @@ private:
 };
 
 QByteArray written(char c) {
-    for (const Escape& escape : std::span(escapes).first<writtenEscapes>()) {
-        if (escape.byte == c)
-            return QByteArray("\\") + escape.letter;
-    }
-    return {1, c};
+    const auto at = escapedBytes.first(writtenEscapes).indexOf(c);
+    return at < 0 ? QByteArray(1, c) : QByteArray("\\") + escapes[at];
 }
 
 bool needsQuotes(const QByteArray& text) {

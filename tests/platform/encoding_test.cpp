@@ -5,16 +5,6 @@
 
 namespace {
 
-TEST(CodePage, Utf8IsToldFromOtherBytes) {
-    for (const char* text : {"", "abc", "\xD0\xAF", "\xEF\xBB\xBF", "\xEF\xBB\xBF[S]",
-                             "\xE2\x80\x94", "\xF0\x9F\x8C\x99", "\xEF\xBF\xBD"})
-        EXPECT_TRUE(IsUtf8(text)) << text;
-    for (const char* text : {"\xD0", "x\xD0", "\xAF", "\xD0x", "\xFF", "\xC0\xAF", "\xE2\x80",
-                             "\xED\xA0\x80", "\xF5\x80\x80\x80", "\xDF\xFC"})
-        EXPECT_FALSE(IsUtf8(text)) << text;
-    EXPECT_TRUE(IsUtf8(QByteArray("a\0b", 3)));
-}
-
 TEST(CodePage, FollowsTheScriptOfTheUsersLanguage) {
     const struct {
         const char* locale;
@@ -26,13 +16,6 @@ TEST(CodePage, FollowsTheScriptOfTheUsersLanguage) {
                 {"de", 1252}, {"en", 1252},      {"fr", 1252},      {"id", 1252}, {"C", 1252}};
     for (const auto& row : rows)
         EXPECT_EQ(CodePageOf(QLocale(QLatin1String(row.locale))), row.codePage) << row.locale;
-}
-
-TEST(CodePage, TheUsersIsThatOfTheDefaultLocale) {
-    const QLocale before;
-    QLocale::setDefault(QLocale(QLocale::Greek));
-    EXPECT_EQ(UserCodePage(), 1253);
-    QLocale::setDefault(before);
 }
 
 } // namespace

@@ -113,7 +113,7 @@ TEST(ProfileFuzz, NoFileUpsetsTheReader) {
     Generator generator(20261120);
     for (int i = 0; i < inputs && !HasFatalFailure(); ++i) {
         const QByteArray bytes = generator.make(largestInput);
-        const ProfileFile file = ProfileFile::FromBytes(bytes);
+        const ProfileFile file(bytes);
         for (const QByteArray& section : sections) {
             for (int key = 1; key <= keys; ++key)
                 readEntry(file, bytes, section, key);
@@ -127,7 +127,7 @@ TEST(ProfileFuzz, DISABLED_AMillionInputs) {
     Generator generator(19980101);
     for (int i = 0; i < manyInputs && !HasFatalFailure(); ++i) {
         const QByteArray bytes = generator.make(smallInput);
-        const ProfileFile file = ProfileFile::FromBytes(bytes);
+        const ProfileFile file(bytes);
         for (const QByteArray& section : sections)
             readEntry(file, bytes, section, i % keys + 1);
     }

@@ -15,7 +15,7 @@ class Profile : public PlatformTest {};
 
 QByteArray read(const QByteArray& bytes, const QByteArray& section = "S",
                 const QByteArray& key = " 1") {
-    return ProfileFile::FromBytes(bytes).GetPrivateProfileString(section, key, bufferSize);
+    return ProfileFile(bytes).GetPrivateProfileString(section, key, bufferSize);
 }
 
 struct ValueRow {
@@ -126,7 +126,7 @@ TEST_F(Profile, AHeaderEndsAtItsFirstBracket) {
 
 TEST_F(Profile, AByteOrderMarkIsSkipped) {
     EXPECT_EQ(read("\xEF\xBB\xBF[S]\n1=x\n"), "x");
-    const ProfileFile file = ProfileFile::FromBytes("\xEF\xBB\xBF[S]\n1=\xC3\xA4\n");
+    const ProfileFile file(QByteArray("\xEF\xBB\xBF[S]\n1=\xC3\xA4\n"));
     EXPECT_EQ(file.Decode("\xC3\xA4"), QString::fromUtf8("ä"));
 }
 
@@ -135,7 +135,7 @@ TEST_F(Profile, AMarkOfUtf16IsBelieved) {
     const std::string little("\xFF\xFE[\0S\0]\0\n\0001\0=\0\x2F\x04\x14 x\0"s);
     const std::string big("\xFE\xFF\0[\0S\0]\0\r\0\n\0001\0=\x04\x2F\x20\x14\0x"s);
     for (const std::string& bytes : {little, big}) {
-        const ProfileFile file = ProfileFile::FromBytes(QByteArray::fromStdString(bytes));
+        const ProfileFile file(QByteArray::fromStdString(bytes));
         EXPECT_EQ(file.Decode(file.GetPrivateProfileString("S", "1", bufferSize)),
                   QString::fromUtf8("Я—x"));
     }
@@ -193,16 +193,16 @@ TEST_F(Profile, ValuesAreCutAfterQuotesAndBlanksAreGone) {
 }
 
 TEST_F(Profile, TheSizeAskedForHoldsAFinalNul) {
-    const ProfileFile file = ProfileFile::FromBytes("[S]\n1=abcdef\n");
+    const ProfileFile file(QByteArray("[S]\n1=abcdef\n"));
     EXPECT_EQ(file.GetPrivateProfileString("S", "1", 4), "abc");
     EXPECT_EQ(file.GetPrivateProfileString("S", "1", 1), "");
 }
 
 TEST_F(Profile, TextsAreUtf8OrTheUsersCodePage) {
     QLocale::setDefault(QLocale(QLocale::Russian));
-    const ProfileFile utf8 = ProfileFile::FromBytes("[S]\n1=\xD0\xAF\n");
+    const ProfileFile utf8(QByteArray("[S]\n1=\xD0\xAF\n"));
     EXPECT_EQ(utf8.Decode("\xD0\xAF"), QString::fromUtf8("Я"));
-    const ProfileFile windows = ProfileFile::FromBytes("[S]\n1=\xDF\n");
+    const ProfileFile windows(QByteArray("[S]\n1=\xDF\n"));
     EXPECT_EQ(windows.Decode("\xDF"), QString::fromUtf8("Я"));
     QLocale::setDefault(QLocale::c());
     EXPECT_EQ(windows.Decode("\xDF"), QString::fromUtf8("ß"));
@@ -232,7 +232,7 @@ TEST_F(Profile, ManyEntriesOfALargeFileAreFoundAtOnce) {
     QByteArray lines("[S]\n");
     for (int i = 0; lines.size() < ProfileFile::largestSize - 20; ++i)
         lines += QByteArray::number(i) + "=x\n";
-    const ProfileFile file = ProfileFile::FromBytes(lines);
+    const ProfileFile file(lines);
     QElapsedTimer watch;
     watch.start();
     for (int i = 0; i < 10000; ++i)

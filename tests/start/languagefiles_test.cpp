@@ -212,7 +212,7 @@ TEST_P(LanguageFiles, AreUtf8WithoutAMarkAndWithSimpleLineEnds) {
 }
 
 TEST_P(LanguageFiles, TheReaderTakesEveryTextWhole) {
-    const ProfileFile file = ProfileFile::FromBytes(bytes());
+    const ProfileFile file(bytes());
     for (const auto& [entry, text] : texts()) {
         const QByteArray value = file.GetPrivateProfileString(entry.section.toUtf8(),
                                                               QByteArray::number(entry.key), 255);
