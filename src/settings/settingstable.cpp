@@ -14,13 +14,6 @@ const Table<QString, mainWindowCount> windowSections{
     QStringLiteral("Julian"), QStringLiteral("Gregorian"), QStringLiteral("Jewish"),
     QStringLiteral("Moslem"), QStringLiteral("Monthly"),   QStringLiteral("Moon")};
 
-void addPosition(std::vector<Setting>& rows, MainWindowNumber window) {
-    const QString& section = windowSections(window);
-    const QString none = QString::number(noPosition);
-    rows.push_back({section, QStringLiteral("Top"), none, &FormTop(window), Positions});
-    rows.push_back({section, QStringLiteral("Left"), none, &FormLeft(window), Positions});
-}
-
 std::vector<Setting> settings() {
     std::vector<Setting> rows;
     const auto add = [&rows](Setting row) { rows.push_back(std::move(row)); };
@@ -28,13 +21,14 @@ std::vector<Setting> settings() {
     for (int pane = 1; pane <= paneCount; ++pane)
         add({startup, QStringLiteral("Calendar%1").arg(pane), text(pane), &CalendarOrder(pane),
              PaneCalendars});
-    for (int c = 1; c <= calendarCount; ++c) {
-        add({windowSections(c), QStringLiteral("FirstWeekDay"), text(Sunday), &FirstWeekDay(c),
-             Options, 2});
-        addPosition(rows, YearWindowNumber(c));
+    for (const MainWindowNumber window : mainWindows) {
+        const QString& section = windowSections(window);
+        if (IsCalendar(window))
+            add({section, QStringLiteral("FirstWeekDay"), text(Sunday), &FirstWeekDay(window),
+                 Options, 2});
+        add({section, QStringLiteral("Top"), text(noPosition), &FormTop(window), Positions});
+        add({section, QStringLiteral("Left"), text(noPosition), &FormLeft(window), Positions});
     }
-    addPosition(rows, MonthlyWindowNumber);
-    addPosition(rows, MoonWindowNumber);
     add({windowSections(Moslem), QStringLiteral("Type"), text(1), &MoslemType, Options, 1});
     add({startup, QStringLiteral("Window"), text(0), &StartupWindow, Options, 4});
     add({startup, QStringLiteral("Language"), QString::fromStdString(englishLanguage),

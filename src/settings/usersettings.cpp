@@ -8,7 +8,7 @@
 #include "shared/settings.h"
 
 #include <algorithm>
-#include <iterator>
+#include <set>
 
 namespace {
 
@@ -39,18 +39,12 @@ bool read(const Setting& row) {
     return taken;
 }
 
-bool isAcceptable(int pane) {
-    for (int before = 1; before < pane; ++before) {
-        if (CalendarOrder(pane) == CalendarOrder(before))
-            return false;
-    }
-    return IsCalendar(CalendarOrder(pane));
-}
-
 // The first pane's number is only compared, never checked by itself.
 void checkCalendarOrder() {
+    std::set<int> before{CalendarOrder(1)};
     for (int pane = 2; pane <= paneCount; ++pane) {
-        if (!isAcceptable(pane))
+        const int c = CalendarOrder(pane);
+        if (!IsCalendar(c) || !before.insert(c).second)
             CalendarOrder = {Julian, Gregorian, Jewish, Moslem};
     }
 }
@@ -64,19 +58,10 @@ QString asText(const int* value) {
 }
 
 std::vector<Setting> rowsOf(SettingGroup group) {
-    std::vector<Setting> rows;
-    std::copy_if(Settings().begin(), Settings().end(), std::back_inserter(rows),
-                 [group](const Setting& row) { return row.group == group; });
-    std::stable_sort(rows.begin(), rows.end(),
-                     [](const Setting& a, const Setting& b) { return a.turn < b.turn; });
+    std::vector<Setting> rows = Settings();
+    std::erase_if(rows, [group](const Setting& row) { return row.group != group; });
+    std::ranges::stable_sort(rows, {}, &Setting::turn);
     return rows;
-}
-
-void flushOrTell() {
-    if (FlushSettings() || failureIsTold)
-        return;
-    failureIsTold = true;
-    MsgBox(WithEmptyLine(SettingsFile(), QStringLiteral("The settings cannot be written.")));
 }
 
 } // namespace
@@ -97,5 +82,8 @@ void SaveSettings(SettingGroup group) {
     for (const Setting& row : rowsOf(group))
         SaveSetting(row.section, row.key,
                     std::visit([](auto* value) { return asText(value); }, row.value));
-    flushOrTell();
+    if (FlushSettings() || failureIsTold)
+        return;
+    failureIsTold = true;
+    MsgBox(WithEmptyLine(SettingsFile(), QStringLiteral("The settings cannot be written.")));
 }
