@@ -30,11 +30,6 @@ const Table<std::string, 12> moslemMonths{"Muharram",
                                           "Dhu\u0491l-Qa\u2018dah",
                                           "Dhu\u0491l-Hijjah"};
 
-void setCalendarNames() {
-    CalendarNames = {"Julian calendar", "Gregorian calendar", "Jewish calendar", "Moslem calendar",
-                     "Monthly calendars"};
-}
-
 void setMonthNames() {
     for (int month = 1; month <= 12; ++month) {
         MonthNames(Julian, month) = romanMonths(month);
@@ -43,11 +38,6 @@ void setMonthNames() {
         MonthNames(Moslem, month) = moslemMonths(month);
     }
     AdarName = MonthNames(Jewish, 6);
-}
-
-void setWeekdays() {
-    WeekDayNames = {"Monday", "Tuesday", "Wednesday", "Thursday", "Friday", "Saturday", "Sunday"};
-    WeekDayAbbrs = {"Mo", "Tu", "We", "Th", "Fr", "Sa", "Su"};
 }
 
 void setLabels() {
@@ -101,9 +91,11 @@ void setStrings() {
 
 void SetEnglishTexts() {
     SelectedWord = "selected";
-    setCalendarNames();
+    CalendarNames = {"Julian calendar", "Gregorian calendar", "Jewish calendar", "Moslem calendar",
+                     "Monthly calendars"};
+    WeekDayNames = {"Monday", "Tuesday", "Wednesday", "Thursday", "Friday", "Saturday", "Sunday"};
+    WeekDayAbbrs = {"Mo", "Tu", "We", "Th", "Fr", "Sa", "Su"};
     setMonthNames();
-    setWeekdays();
     setLabels();
     setStrings();
 }
