@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "platform/combobox.h"
 
-#include "platform/listmodel.h"
 #include "platform/pointer.h"
 #include "platform/text.h"
 
 #include <QAbstractItemView>
 #include <QFocusEvent>
 #include <QFontInfo>
+#include <QStringListModel>
 #include <QStyle>
 #include <QStyleOptionComboBox>
 #include <QStylePainter>
@@ -30,6 +30,21 @@ constexpr int editMargin = 10;
 
 } // namespace
 
+/// The entries, thousands at once, and how they are spoken.
+class ComboBox::Entries : public QStringListModel {
+public:
+    using QStringListModel::QStringListModel;
+
+    QVariant data(const QModelIndex& index, int role) const override {
+        if (role != Qt::AccessibleTextRole)
+            return QStringListModel::data(index, role);
+        return spoken ? spoken(index.row()) : ::Spoken(index.data().toString());
+    }
+
+    /// By an entry's position; as it is written where there is none.
+    std::function<QString(int position)> spoken;
+};
+
 ListEntries NumberedEntries(int first, int last, int chosen,
                             const std::function<QString(int)>& entry) {
     if (chosen < first || chosen > last)
@@ -42,7 +57,7 @@ ListEntries NumberedEntries(int first, int last, int chosen,
 }
 
 ComboBox::ComboBox(const QString& name, QWidget* parent)
-    : QComboBox(parent), m_items(new ListModel(this)), m_typing(*this) {
+    : QComboBox(parent), m_items(new Entries(this)), m_typing(*this) {
     setObjectName(name);
     setModel(m_items);
     setFocusPolicy(Qt::StrongFocus);

@@ -9,8 +9,6 @@
 #include <optional>
 #include <vector>
 
-class ListModel;
-
 /// The entries of a list and the position of the chosen one.
 struct ListEntries {
     QStringList texts;
@@ -66,7 +64,7 @@ public:
     QString Spoken() const;
     QString Answer() const override { return Spoken(); }
 
-    /// Clears the list and makes `text` its only entry, selected.
+    /// Makes `text` the only entry, selected.
     void SetOnlyItem(const QString& text) { SetItems({text}, 0); }
 
     /// The width that shows `text` whole in the list's own font, in pixels.
@@ -98,6 +96,8 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    class Entries;
+
     void fill();
 
     int chromeWidth() const;
@@ -105,7 +105,7 @@ private:
     const QFont& ownFittedFont() const;
     QFont fittedFont() const;
 
-    ListModel* m_items; ///< takes thousands of entries at once
+    Entries* m_items;
     ListTyping m_typing;
     Filler m_filler;
     std::vector<ComboBox*> m_sharing;         ///< of one letter size
