@@ -184,7 +184,7 @@ void ComboBox::resizeEvent(QResizeEvent* event) {
 void ComboBox::fill() {
     if (!m_filler || ListCount() > 1)
         return;
-    const HourglassPointer hourglass;
+    const PointerShape hourglass(Qt::WaitCursor);
     const ListEntries entries = m_filler();
     if (!entries.texts.isEmpty())
         SetItems(entries.texts, entries.chosen);

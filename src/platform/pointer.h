@@ -12,9 +12,3 @@ public:
     PointerShape(const PointerShape&) = delete;
     PointerShape& operator=(const PointerShape&) = delete;
 };
-
-/// The hourglass.
-class HourglassPointer : public PointerShape {
-public:
-    HourglassPointer() : PointerShape(Qt::WaitCursor) {}
-};

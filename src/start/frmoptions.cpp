@@ -286,7 +286,7 @@ void frmOptions::apply() {
         return;
     }
     {
-        const HourglassPointer hourglass;
+        const PointerShape hourglass(Qt::WaitCursor);
         const Choices before;
         writeChoices();
         SaveSettings(SettingGroup::Options); // kept even if applying should fail

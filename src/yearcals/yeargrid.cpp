@@ -125,7 +125,7 @@ void YearGrid::InitYearGrid(int c) {
 
 // Refills the grid for the chosen year.
 void YearGrid::BuildYearGrid() {
-    const HourglassPointer hourglass;
+    const PointerShape hourglass(Qt::WaitCursor);
     const DrawingOff drawingOff(*this);
     m_shownFirstJD = YearJD(Calendar(), FirstDay);
     m_shownLastJD = YearJD(Calendar(), LastDay);

@@ -7,11 +7,11 @@ namespace {
 
 class Pointer : public PlatformTest {};
 
-TEST_F(Pointer, TheHourglassIsShownForAsLongAsItLives) {
+TEST_F(Pointer, AShapeIsShownForAsLongAsItLives) {
     {
-        const HourglassPointer outer;
+        const PointerShape outer(Qt::WaitCursor);
         ASSERT_NE(QGuiApplication::overrideCursor(), nullptr);
-        { const HourglassPointer inner; }
+        { const PointerShape inner(Qt::ArrowCursor); }
         ASSERT_NE(QGuiApplication::overrideCursor(), nullptr);
         EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::WaitCursor);
     }
