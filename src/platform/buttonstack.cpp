@@ -7,7 +7,7 @@ ButtonStack::ButtonStack(const QString& name, const QStringList& pictures, QWidg
     for (const QString& picture : pictures) {
         const QString number = QString::number(m_buttons.size());
         auto* button = new CommandButton(name + u'_' + number, picture, parent);
-        button->SetTabStop(m_buttons.empty());
+        button->setFocusPolicy(m_buttons.empty() ? Qt::StrongFocus : Qt::ClickFocus);
         button->setVisible(m_buttons.empty());
         connect(button, &CommandButton::clicked, this, &ButtonStack::Click);
         m_buttons.push_back(button);
@@ -27,9 +27,9 @@ void ButtonStack::BringToFront(int index) {
         return;
     CommandButton* former = Front();
     const bool hadFocus = former->window()->focusWidget() == former; // also behind other windows
-    former->SetTabStop(false);
+    former->setFocusPolicy(Qt::ClickFocus);
     m_front = index;
-    Front()->SetTabStop(true);
+    Front()->setFocusPolicy(Qt::StrongFocus);
     Front()->raise();
     QWidget::setTabOrder(former, Front());
     Front()->show();

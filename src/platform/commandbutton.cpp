@@ -34,10 +34,6 @@ void CommandButton::SetSide(int pixels) {
     setIconSize(QSize(edge, edge) * pictureSide / side);
 }
 
-void CommandButton::SetTabStop(bool on) {
-    setFocusPolicy(on ? Qt::StrongFocus : Qt::ClickFocus);
-}
-
 void CommandButton::initStyleOption(QStyleOptionButton* option) const {
     QPushButton::initStyleOption(option);
     if (underMouse())

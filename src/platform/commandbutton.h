@@ -20,8 +20,6 @@ public:
     /// The picture grows with the button.
     void SetSide(int pixels);
 
-    void SetTabStop(bool on);
-
 Q_SIGNALS:
     /// Any mouse button, at the press.
     void MouseDown(Qt::MouseButton button);
