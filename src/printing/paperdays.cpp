@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "printing/paperdays.h"
 
-#include "calc/calc.h"
 #include "calc/range.h"
 #include "calc/state.h"
 #include "changecals/changecals.h"

@@ -8,7 +8,6 @@
 #include "shared/texts.h"
 
 #include <QStringList>
-#include <algorithm>
 
 namespace {
 

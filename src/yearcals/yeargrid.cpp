@@ -3,7 +3,6 @@
 
 #include "calc/calc.h"
 #include "calc/state.h"
-#include "changecals/changecals.h"
 #include "platform/pointer.h"
 #include "platform/text.h"
 #include "shared/look.h"

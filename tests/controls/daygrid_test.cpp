@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "controls/daygrid.h"
 
-#include "changecals/changecals.h"
 #include "shared/look.h"
 #include "support/recording_windows.h"
 #include "support/widget_test.h"
