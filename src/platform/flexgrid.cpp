@@ -160,7 +160,8 @@ bool MSFlexGrid::event(QEvent* event) {
 
 // Whole pixels of the screen, close around the cells: at a fractional scale the
 // toolkit would round each side by itself. With the focus it is in the colour of the
-// theme's texts, otherwise the same on every theme.
+// theme's texts, otherwise the same on every theme; the toolkit repaints the grid when
+// the focus comes or goes.
 void MSFlexGrid::paintFrame() {
     QPainter painter(this);
     const QTransform toScreen = painter.deviceTransform();
@@ -171,16 +172,10 @@ void MSFlexGrid::paintFrame() {
                      hasFocus() ? palette().color(QPalette::WindowText) : frameColor);
 }
 
-void MSFlexGrid::focusOutEvent(QFocusEvent* event) {
-    QTableView::focusOutEvent(event);
-    update(); // the frame
-}
-
 // The toolkit tells that the grid has the focus when this is done; the cell comes
 // after it.
 void MSFlexGrid::focusInEvent(QFocusEvent* event) {
     QTableView::focusInEvent(event);
-    update(); // the frame
     m_speaker.BeginArrival();
     const QModelIndexList selected = selectionModel()->selectedIndexes();
     if (isArrival(event->reason()) && !selected.isEmpty())
