@@ -22,6 +22,7 @@ PROGRAM = QUICK / "bin"
 ROOMS = [room for rooms in reversed(floor_plan.FLOORS) for room in sorted(rooms)]
 TESTED = ["endurance", *ROOMS, "monitors", "screen"]
 DRAWN = ["monthly", "yearcals", "platform"]
+SCALES = {"at 125 %": "1.25", "at 150 %": "1.5"}
 # What is built from the sources, the longest first.
 LINTED = ["platform", *sorted(set(ROOMS) - {"platform"}), "orvalen-years-calendar", "make_moon"]
 LINTED_OF_QUICK = ["arithmetic_bench", "windows_bench", "empty_window", "make_pictures"]
@@ -82,6 +83,13 @@ def room_tests_with_noto(room):
     fonts = {"FONTCONFIG_FILE": ROOT / "tests/data/fonts-noto.conf"}
     result = room_tests(room, [], fonts)
     result.name += " with Noto Sans"
+    return result
+
+
+def screen_tests_at(scale, options):
+    """A process has one scale, from its start on."""
+    result = room_tests("screen", options, {"QT_SCALE_FACTOR": SCALES[scale]})
+    result.name += f" {scale}"
     return result
 
 
@@ -201,6 +209,7 @@ def run_everything(long):
     # and the longest first.
     jobs = [end_to_end]
     jobs += [lambda room=room: room_tests(room, options) for room in TESTED]
+    jobs += [lambda scale=scale: screen_tests_at(scale, options) for scale in SCALES]
     jobs += [lambda room=room: room_tests_with_noto(room) for room in DRAWN]
     targets = [*LINTED, *(LINTED_AT_LENGTH if long else [])]
     database, quick_database = compile_database.write(ASAN), compile_database.write(QUICK)

@@ -7,11 +7,10 @@
 #include "endurance/hand.h"
 #include "endurance/judge.h"
 #include "endurance/memory.h"
+#include "endurance/startagain.h"
 #include "endurance/walker.h"
-#include "start/start.h"
 #include "support/judgement.h"
 #include "support/seed.h"
-#include "support/texttables.h"
 #include "support/widget_test.h"
 
 #include <QFile>
@@ -40,13 +39,9 @@ protected:
         start();
     }
 
-    /// As a process begins that has only the settings file.
     void start() {
-        ChangeCals::EndRun();
-        resetState();
-        clearTexts();
+        StartAgain();
         m_exitStatus.reset();
-        ASSERT_TRUE(Start::Main());
         m_expected.Start();
     }
 
