@@ -5,6 +5,10 @@
 
 namespace {
 
+int columnsOf(const QTableView& table) {
+    return table.model()->columnCount();
+}
+
 QString textAt(const QTableView& table, int row, int column) {
     return table.model()->index(row, column).data().toString();
 }
@@ -13,20 +17,30 @@ QString textAt(const QTableView& table, int row, int column) {
 int equalTexts(const QTableView& table, int row, int column) {
     const QString text = textAt(table, row, column);
     int end = column + 1;
-    while (!text.isEmpty() && textAt(table, row, end) == text)
+    while (!text.isEmpty() && end < columnsOf(table) && textAt(table, row, end) == text)
         ++end;
     return end - column;
+}
+
+bool isMerged(const QTableView& table, int row) {
+    int column = 0;
+    while (column < columnsOf(table) &&
+           table.columnSpan(row, column) == equalTexts(table, row, column))
+        column += equalTexts(table, row, column);
+    return column == columnsOf(table);
 }
 
 } // namespace
 
 void MergeEqualTexts(QTableView& table, int row) {
-    const int columns = table.model()->columnCount();
-    for (int column = 0; column < columns; ++column) {
-        if (table.columnSpan(row, column) > 1)
+    if (isMerged(table, row))
+        return;
+    for (int column = 0, span = 1; column < columnsOf(table); column += span) {
+        span = table.columnSpan(row, column);
+        if (span > 1)
             table.setSpan(row, column, 1, 1);
     }
-    for (int column = 0, span = 1; column < columns; column += span) {
+    for (int column = 0, span = 1; column < columnsOf(table); column += span) {
         span = equalTexts(table, row, column);
         if (span > 1)
             table.setSpan(row, column, 1, span);
