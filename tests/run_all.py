@@ -27,7 +27,7 @@ SCALES = {"at 125 %": "1.25", "at 150 %": "1.5"}
 LINTED = ["platform", *sorted(set(ROOMS) - {"platform"}), "orvalen-years-calendar", "make_moon"]
 LINTED_OF_QUICK = ["arithmetic_bench", "windows_bench", "empty_window", "make_pictures"]
 LINTED_AT_LENGTH = [*[f"{room}_tests" for room in sorted(TESTED)], "platform_test_support",
-                    "widget_test_support"]
+                    "random_user", "widget_test_support"]
 
 
 class Result:
