@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "platform/encoding.h"
 
+#include "platform/system.h"
+
+#include <QStringDecoder>
+
 namespace {
 
 // The languages in Latin letters that have a code page of their own.
@@ -26,6 +30,17 @@ int latinCodePage(QLocale::Language language) {
 }
 
 } // namespace
+
+QByteArray WithoutMark(const QByteArray& bytes) {
+    const auto encoding = QStringConverter::encodingForData(bytes);
+    if (encoding == QStringConverter::Utf8)
+        return bytes.mid(3);
+    return encoding ? QString(QStringDecoder(*encoding).decode(bytes)).toUtf8() : bytes;
+}
+
+QString Decoded(const QByteArray& bytes, bool isUtf8) {
+    return isUtf8 ? QString::fromUtf8(bytes) : FromCodePage(bytes, CodePageOf(QLocale()));
+}
 
 int CodePageOf(const QLocale& locale) {
     switch (locale.script()) {

@@ -1,16 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/inifile.h"
 
-#include <QStringDecoder>
+#include "platform/encoding.h"
 
 namespace {
-
-QByteArray withoutMark(const QByteArray& bytes) {
-    const auto encoding = QStringConverter::encodingForData(bytes);
-    if (encoding == QStringConverter::Utf8)
-        return bytes.mid(3);
-    return encoding ? QString(QStringDecoder(*encoding).decode(bytes)).toUtf8() : bytes;
-}
 
 // The form in which names are compared.
 QByteArray nameOf(QByteArrayView text) {
@@ -19,7 +12,7 @@ QByteArray nameOf(QByteArrayView text) {
 
 } // namespace
 
-IniFile::IniFile(const QByteArray& bytes) : m_lines(withoutMark(bytes).split('\n')) {
+IniFile::IniFile(const QByteArray& bytes) : m_lines(WithoutMark(bytes).split('\n')) {
     if (m_lines.last().isEmpty())
         m_lines.removeLast();
     findEntries();

@@ -2,7 +2,6 @@
 #include "platform/profile.h"
 
 #include "platform/encoding.h"
-#include "platform/system.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -58,5 +57,5 @@ QByteArray ProfileFile::GetPrivateProfileString(const QByteArray& section, const
 }
 
 QString ProfileFile::Decode(const QByteArray& bytes) const {
-    return m_isUtf8 ? QString::fromUtf8(bytes) : FromCodePage(bytes, CodePageOf(QLocale()));
+    return Decoded(bytes, m_isUtf8);
 }
