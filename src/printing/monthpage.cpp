@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "calc/calc.h"
 #include "calc/state.h"
+#include "changecals/moonage.h"
 #include "platform/numbers.h"
 #include "platform/text.h"
 #include "printing/paperdays.h"
@@ -122,11 +123,25 @@ Column julianDayColumn(const std::vector<PaperDay>& days) {
     return column;
 }
 
+// The sign of the moon's quarter that falls on a day, by its age at noon; none on the
+// days between.
+QString signOfQuarter(double moonAge) {
+    // The lit part is white as the paper is; the waxing moon is lit at the right.
+    constexpr char16_t signs[] = {u'\u25cf', u'\u25d0', u'\u25cb', u'\u25d1', u'\u25cf'};
+    constexpr double quarter = ChangeCals::lunation / 4.0;
+    for (int number = 0; number <= 4; ++number) {
+        const double after = moonAge - number * quarter;
+        if (after >= -0.5 && after < 0.5)
+            return QString(QChar(signs[number]));
+    }
+    return {};
+}
+
 Column moonColumn(const std::vector<PaperDay>& days) {
     Column column{headOf(Text(StringTexts(MoonAgeText))), {}, {}};
     for (const PaperDay& day : days) {
         column.figures.append(FormatOneDecimal(day.moonAge));
-        column.words.append(Printing::SignOfQuarter(day.moonAge));
+        column.words.append(signOfQuarter(day.moonAge));
     }
     return column;
 }

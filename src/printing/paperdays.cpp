@@ -4,7 +4,6 @@
 #include "calc/range.h"
 #include "calc/state.h"
 #include "changecals/changecals.h"
-#include "changecals/moonage.h"
 #include "platform/text.h"
 #include "shared/settings.h"
 #include "shared/texts.h"
@@ -112,16 +111,4 @@ QString Printing::Joined(const QStringList& texts) {
 
 QString Printing::Titled(int c, const QString& shown) {
     return Text(CalendarNames(c)) + u' ' + shown;
-}
-
-QString Printing::SignOfQuarter(double moonAge) {
-    // The lit part is white as the paper is; the waxing moon is lit at the right.
-    constexpr char16_t signs[] = {u'\u25cf', u'\u25d0', u'\u25cb', u'\u25d1', u'\u25cf'};
-    constexpr double quarter = ChangeCals::lunation / 4.0;
-    for (int number = 0; number <= 4; ++number) {
-        const double after = moonAge - number * quarter;
-        if (after >= -0.5 && after < 0.5)
-            return QString(QChar(signs[number]));
-    }
-    return {};
 }

@@ -50,8 +50,4 @@ QString Joined(const QStringList& texts);
 /// The name of a calendar and what is shown of it, "Jewish calendar 5787".
 QString Titled(int c, const QString& shown);
 
-/// The sign of the moon's quarter that falls on a day, by its age at noon: new,
-/// first quarter, full or last; empty on the days between.
-QString SignOfQuarter(double moonAge);
-
 } // namespace Printing
