@@ -160,6 +160,6 @@ QString DayGrid::spokenText(GridPlace cell) const {
     if (month == 0)
         return {};
     const int weekday = Calc::WeekdayOfRow(m_calendar, weekRow(cell.row));
-    const QString day = SpokenDay(m_calendar, weekday, TextMatrix(cell.row, cell.column), month);
-    return cell == SelectedCell() ? day + QStringLiteral(", ") + Text(SelectedWord) : day;
+    return SpokenDay(m_calendar, weekday, TextMatrix(cell.row, cell.column), month,
+                     cell == SelectedCell());
 }

@@ -22,10 +22,11 @@ QString line(const std::string& name, const QString& value) {
 
 } // namespace
 
-QString SpokenDay(int c, int weekday, const QString& day, int month) {
-    return Spoken(
+QString SpokenDay(int c, int weekday, const QString& day, int month, bool isSelected) {
+    const QString words = Spoken(
         QStringLiteral("%1, %2, %3")
             .arg(Text(WeekDayNames(weekday)), dateInWords(c, day, month), Text(CalendarNames(c))));
+    return isSelected ? words + QStringLiteral(", ") + Text(SelectedWord) : words;
 }
 
 QString SpokenChosenDay(int c) {

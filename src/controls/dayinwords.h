@@ -6,8 +6,9 @@
 // Days in words, in the language now chosen.
 
 /// What an assistive tool says of a day in a grid, of a month of calendar c's current
-/// year: "Friday, 20 November 2026, Gregorian calendar".
-QString SpokenDay(int c, int weekday, const QString& day, int month);
+/// year: "Friday, 20 November 2026, Gregorian calendar", and of the chosen one that it
+/// is selected.
+QString SpokenDay(int c, int weekday, const QString& day, int month, bool isSelected = false);
 
 /// The chosen day in calendar c; nothing before the calendar's range.
 QString SpokenChosenDay(int c);
