@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "calc/year.h"
+#include "calc/conversions.h"
 
 #include "calc/calc.h"
 #include "calc/state.h"
