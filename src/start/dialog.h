@@ -6,8 +6,6 @@
 
 #include <QStyle>
 
-class QVBoxLayout;
-
 /// A small window over the others: the options and the about box. Modeless;
 /// Return accepts it, Esc closes it.
 class Dialog : public Form {
@@ -19,10 +17,6 @@ public:
 protected:
     /// A measure of the style in use, in pixels.
     int Metric(QStyle::PixelMetric which) const;
-
-    /// Gives `contents`, one of the dialog's `rows`, a scroll bar where the dialog
-    /// would be higher than the screen, so that the other rows stay in sight.
-    void ScrollWhereTooHigh(QWidget* contents, QVBoxLayout& rows);
 
     /// What Return does where the control with the focus has no use for it.
     virtual void Accept() = 0;

@@ -25,6 +25,7 @@
 #include <QLabel>
 #include <QRadioButton>
 #include <QScreen>
+#include <QScrollArea>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -103,9 +104,25 @@ void frmOptions::Form_Load() {
     rows->setSizeConstraint(QLayout::SetFixedSize);
     rows->addWidget(frames);
     rows->addLayout(commands);
-    ScrollWhereTooHigh(frames, *rows);
+    scrollWhereTooHigh(frames, *rows);
     adjustSize();
     ChangeCals::PlaceDialog(*this);
+}
+
+// A scroll bar where the dialog would be higher than the screen, so that the buttons stay
+// in sight.
+void frmOptions::scrollWhereTooHigh(QWidget* frames, QVBoxLayout& rows) {
+    const int screen = QGuiApplication::primaryScreen()->availableSize().height();
+    const QSize whole = frames->sizeHint();
+    const int others = sizeHint().height() - whole.height();
+    const int room = screen - others - 2 * Metric(QStyle::PM_TitleBarHeight);
+    if (whole.height() <= room)
+        return;
+    auto* area = new QScrollArea(this);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setFixedSize(whole.width() + Metric(QStyle::PM_ScrollBarExtent), room);
+    delete rows.replaceWidget(frames, area);
+    area->setWidget(frames);
 }
 
 void frmOptions::Command1_Click(int index) {

@@ -42,6 +42,7 @@ private:
 
     void measure();
     void placeFrames(QWidget* frames);
+    void scrollWhereTooHigh(QWidget* frames, QVBoxLayout& rows);
     QWidget* newColumns(QWidget* parent, QBoxLayout::Direction direction);
     QWidget* moslemFrame(QWidget* parent);
     QWidget* weekdaysFrame(QWidget* parent);
