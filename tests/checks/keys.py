@@ -7,7 +7,7 @@ import re
 import sys
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent.parent
-COMMAND = re.compile(r"\{((?:Qt::CTRL \| )?)Qt::Key_(\w+), Command::\w+\}")
+COMMAND = re.compile(r"\{Command::\w+, ((?:Qt::CTRL \| )?)Qt::Key_(\w+)[,}]")
 
 
 def text_of(path):

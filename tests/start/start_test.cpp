@@ -51,6 +51,14 @@ protected:
         return names;
     }
 
+    /// Nobody waits for a message after the program was asked to end, until the
+    /// application's own loop has run again.
+    static void runOnAfterTheEnd() {
+        QMetaObject::invokeMethod(
+            qApp, [] { QCoreApplication::exit(); }, Qt::QueuedConnection);
+        QCoreApplication::exec();
+    }
+
     SplashWatch splash;
 };
 
@@ -203,6 +211,7 @@ TEST_F(Starting, TheSessionsEndClosesEveryWindowAndSavesNothing) {
     ChangeCals::LoadAbout().Show();
     QEvent end(QEvent::Quit);
     QCoreApplication::sendEvent(qApp, &end);
+    runOnAfterTheEnd();
     EXPECT_EQ(m_exitStatus, 0);
     EXPECT_EQ(visibleWindows(), QStringList());
     EXPECT_FALSE(QFile::exists(settingsPath()));
