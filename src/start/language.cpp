@@ -2,8 +2,8 @@
 #include "start/language.h"
 
 #include "calc/calc.h"
+#include "platform/lngfile.h"
 #include "platform/message.h"
-#include "platform/profile.h"
 #include "platform/program.h"
 #include "platform/text.h"
 #include "shared/english.h"
@@ -50,17 +50,17 @@ QString languageFile(const QString& name) {
 }
 
 template <int size>
-void readTable(const ProfileFile& file, const char* section, Table<std::string, size>& table) {
+void readTable(const LngFile& file, const char* section, Table<std::string, size>& table) {
     for (int i = 1; i <= size; ++i)
         table(i) = ReadLngString(file, section, i, table(i));
 }
 
-void readMonths(const ProfileFile& file, const char* section, int c) {
+void readMonths(const LngFile& file, const char* section, int c) {
     for (int month = 1; month <= 12; ++month)
         MonthNames(c, month) = ReadLngString(file, section, month, MonthNames(c, month));
 }
 
-void readTexts(const ProfileFile& file) {
+void readTexts(const LngFile& file) {
     readTable(file, "CALENDARS", CalendarNames);
     readMonths(file, "JGMONTHS", Julian);
     for (int month = 1; month <= 12; ++month)
@@ -80,10 +80,10 @@ void readLanguage(std::string& name) {
     QString failure = Text(StringTexts(FileNotFoundText));
     const QString found = languageFile(Text(name));
     if (!found.isEmpty()) {
-        const ProfileFile file(ProgramFile(found));
-        if (file.ReadStatus() == ProfileFile::Status::Read)
+        const LngFile file(ProgramFile(found));
+        if (file.ReadStatus() == LngFile::Status::Read)
             return readTexts(file);
-        failure = file.ReadStatus() == ProfileFile::Status::TooLarge
+        failure = file.ReadStatus() == LngFile::Status::TooLarge
                       ? QStringLiteral("The file is too large for a language file.")
                       : QStringLiteral("The file cannot be read.");
     }
@@ -100,7 +100,7 @@ void LoadLanguage(std::string& name) {
     Calc::ArrangeJewishNames();
 }
 
-std::string ReadLngString(const ProfileFile& file, const char* section, int key,
+std::string ReadLngString(const LngFile& file, const char* section, int key,
                           const std::string& whenAbsent) {
     const QByteArray bytes =
         file.GetPrivateProfileString(section, QByteArray::number(key), bufferSize);

@@ -4,7 +4,7 @@
 #include <QStringList>
 #include <string>
 
-class ProfileFile;
+class LngFile;
 
 /// Fills the text tables: with the English texts, and then with the entries of
 /// the language's file, where it has them; the Jewish months are those of the
@@ -13,7 +13,7 @@ class ProfileFile;
 void LoadLanguage(std::string& name);
 
 /// The entry of a language file, or `whenAbsent` where the file has none.
-std::string ReadLngString(const ProfileFile& file, const char* section, int key,
+std::string ReadLngString(const LngFile& file, const char* section, int key,
                           const std::string& whenAbsent);
 
 /// The name under which a language's file is listed: the first letter large, the

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "start/language.h"
 
-#include "platform/profile.h"
+#include "platform/lngfile.h"
 #include "shared/english.h"
 #include "support/texttables.h"
 #include "support/usualrights.h"
@@ -346,7 +346,7 @@ TEST_F(Language, NamesAreThoseOfALeapYearInALeapYear) {
 }
 
 TEST_F(Language, EntriesThatAreAbsentReadAsTheStandard) {
-    const ProfileFile file(QByteArray("[S]\n1=x\n2=\n"));
+    const LngFile file(QByteArray("[S]\n1=x\n2=\n"));
     EXPECT_EQ(ReadLngString(file, "S", 1, "standard"), "x");
     EXPECT_EQ(ReadLngString(file, "S", 2, "standard"), "standard");
     EXPECT_EQ(ReadLngString(file, "S", 3, "standard"), "standard");

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The language files that come with the program: whatever lies in languages/.
-#include "platform/profile.h"
+#include "platform/lngfile.h"
 #include "shared/english.h"
 #include "support/state.h"
 
@@ -207,12 +207,12 @@ TEST_P(LanguageFiles, HoldEveryEntryAndNoOther) {
 TEST_P(LanguageFiles, AreUtf8WithoutAMarkAndWithSimpleLineEnds) {
     EXPECT_EQ(QString::fromUtf8(bytes()).toUtf8(), bytes());
     EXPECT_FALSE(bytes().contains('\r') || bytes().contains('\0'));
-    EXPECT_LE(bytes().size(), ProfileFile::largestSize);
+    EXPECT_LE(bytes().size(), LngFile::largestSize);
     EXPECT_TRUE(bytes().startsWith("; SPDX-License-Identifier: MIT\n"));
 }
 
 TEST_P(LanguageFiles, TheReaderTakesEveryTextWhole) {
-    const ProfileFile file(bytes());
+    const LngFile file(bytes());
     for (const auto& [entry, text] : texts()) {
         const QByteArray value = file.GetPrivateProfileString(entry.section.toUtf8(),
                                                               QByteArray::number(entry.key), 255);

@@ -5,10 +5,10 @@
 
 #include <QString>
 
-/// An initialisation file as it is read by its platform: of sections of one name only
-/// the first is searched, of equal keys the first is taken. Blanks around values are
-/// ignored, and a NUL ends them.
-class ProfileFile {
+/// A language's file, an initialisation file as its platform reads it: of sections of one
+/// name only the first is searched, of equal keys the first is taken. Blanks around values
+/// are ignored, and a NUL ends them.
+class LngFile {
 public:
     /// Files beyond this size in bytes are not read.
     static constexpr qint64 largestSize = 1 << 20;
@@ -16,10 +16,10 @@ public:
     enum class Status { Read, Unreadable, TooLarge };
 
     /// Reads a file whole.
-    explicit ProfileFile(const QString& path);
+    explicit LngFile(const QString& path);
 
     /// A file that is in memory already.
-    explicit ProfileFile(const QByteArray& bytes);
+    explicit LngFile(const QByteArray& bytes);
 
     Status ReadStatus() const { return m_status; }
 

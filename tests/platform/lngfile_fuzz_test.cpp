@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Initialisation files of random bytes, of the kind that upsets a reader.
-#include "platform/profile.h"
+#include "platform/lngfile.h"
 #include "support/judgement.h"
 
 #include <algorithm>
@@ -90,7 +90,7 @@ bool isValidUtf8(const QByteArray& bytes) {
 }
 
 // What is wrong with an answer, nullptr when nothing is.
-const char* faultOf(const ProfileFile& file, bool utf8, const QByteArray& value) {
+const char* faultOf(const LngFile& file, bool utf8, const QByteArray& value) {
     if (value.size() >= bytesAsked)
         return "too long";
     if (value.contains('\0') || value.contains('\n'))
@@ -100,8 +100,7 @@ const char* faultOf(const ProfileFile& file, bool utf8, const QByteArray& value)
     return file.Decode(value).size() <= value.size() ? nullptr : "more characters than bytes";
 }
 
-void readEntry(const ProfileFile& file, const QByteArray& bytes, const QByteArray& section,
-               int key) {
+void readEntry(const LngFile& file, const QByteArray& bytes, const QByteArray& section, int key) {
     const QByteArray value =
         file.GetPrivateProfileString(section, ' ' + QByteArray::number(key), bytesAsked);
     const char* fault = value.isEmpty() ? nullptr : faultOf(file, isValidUtf8(bytes), value);
@@ -109,11 +108,11 @@ void readEntry(const ProfileFile& file, const QByteArray& bytes, const QByteArra
                               << bytes.toHex().data();
 }
 
-TEST(ProfileFuzz, NoFileUpsetsTheReader) {
+TEST(LngFileFuzz, NoFileUpsetsTheReader) {
     Generator generator(20261120);
     for (int i = 0; i < inputs && !HasFatalFailure(); ++i) {
         const QByteArray bytes = generator.make(largestInput);
-        const ProfileFile file(bytes);
+        const LngFile file(bytes);
         for (const QByteArray& section : sections) {
             for (int key = 1; key <= keys; ++key)
                 readEntry(file, bytes, section, key);
@@ -123,11 +122,11 @@ TEST(ProfileFuzz, NoFileUpsetsTheReader) {
 }
 
 // One entry of each section an input, another with each input.
-TEST(ProfileFuzz, DISABLED_AMillionInputs) {
+TEST(LngFileFuzz, DISABLED_AMillionInputs) {
     Generator generator(19980101);
     for (int i = 0; i < manyInputs && !HasFatalFailure(); ++i) {
         const QByteArray bytes = generator.make(smallInput);
-        const ProfileFile file(bytes);
+        const LngFile file(bytes);
         for (const QByteArray& section : sections)
             readEntry(file, bytes, section, i % keys + 1);
     }

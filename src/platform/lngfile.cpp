@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/profile.h"
+#include "platform/lngfile.h"
 
 #include "platform/encoding.h"
 
@@ -36,7 +36,7 @@ QByteArray valueOf(QByteArrayView raw) {
 
 } // namespace
 
-ProfileFile::ProfileFile(const QString& path) {
+LngFile::LngFile(const QString& path) {
     QFile file(path);
     if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
         return;
@@ -44,18 +44,18 @@ ProfileFile::ProfileFile(const QString& path) {
         m_status = Status::TooLarge;
         return;
     }
-    *this = ProfileFile(file.read(largestSize));
+    *this = LngFile(file.read(largestSize));
 }
 
-ProfileFile::ProfileFile(const QByteArray& bytes)
+LngFile::LngFile(const QByteArray& bytes)
     : m_status(Status::Read), m_entries(bytes), m_isUtf8(m_entries.Bytes().isValidUtf8()) {}
 
-QByteArray ProfileFile::GetPrivateProfileString(const QByteArray& section, const QByteArray& key,
-                                                int size) const {
+QByteArray LngFile::GetPrivateProfileString(const QByteArray& section, const QByteArray& key,
+                                            int size) const {
     const auto raw = m_entries.Value(section, key, IniFile::Which::First);
     return raw ? cutTo(valueOf(*raw), size - 1, m_isUtf8) : QByteArray();
 }
 
-QString ProfileFile::Decode(const QByteArray& bytes) const {
+QString LngFile::Decode(const QByteArray& bytes) const {
     return Decoded(bytes, m_isUtf8);
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/profile.h"
+#include "platform/lngfile.h"
 
 #include "support/platform_test.h"
 
@@ -11,11 +11,11 @@ namespace {
 
 constexpr int bufferSize = 255;
 
-class Profile : public PlatformTest {};
+class LngFiles : public PlatformTest {};
 
 QByteArray read(const QByteArray& bytes, const QByteArray& section = "S",
                 const QByteArray& key = " 1") {
-    return ProfileFile(bytes).GetPrivateProfileString(section, key, bufferSize);
+    return LngFile(bytes).GetPrivateProfileString(section, key, bufferSize);
 }
 
 struct ValueRow {
@@ -28,7 +28,7 @@ void expectValues(std::initializer_list<ValueRow> rows) {
         EXPECT_EQ(read(QByteArray("[S]\n") + row.line + "\n"), QByteArray(row.value)) << row.line;
 }
 
-TEST_F(Profile, NamesAreMatchedWithoutRegardToCase) {
+TEST_F(LngFiles, NamesAreMatchedWithoutRegardToCase) {
     for (const char* header : {"[LABELS]", "[labels]", "[Labels]"}) {
         for (const char* key : {"KEY", "key", "Key"})
             EXPECT_EQ(read(QByteArray(header) + "\n" + key + "=x\n", "LaBeLs", "kEy"), "x")
@@ -36,13 +36,13 @@ TEST_F(Profile, NamesAreMatchedWithoutRegardToCase) {
     }
 }
 
-TEST_F(Profile, BlanksAndTabsAroundEverythingAreIgnored) {
+TEST_F(LngFiles, BlanksAndTabsAroundEverythingAreIgnored) {
     EXPECT_EQ(read(" \t[ \tS\t ] \t\n\t 1 \t=\t x y \t\n"), "x y");
     EXPECT_EQ(read("[S]\n1=x\n", " S ", " 1"), "x");
     EXPECT_EQ(read("[S]\n 1=x\n", "S", "1"), "x");
 }
 
-TEST_F(Profile, AMatchingPairOfQuotesIsTakenOff) {
+TEST_F(LngFiles, AMatchingPairOfQuotesIsTakenOff) {
     expectValues({{"1=\"x\"", "x"},
                   {"1='x'", "x"},
                   {"1=  \"x\"  ", "x"},
@@ -52,7 +52,7 @@ TEST_F(Profile, AMatchingPairOfQuotesIsTakenOff) {
                   {"1=\"it's\"", "it's"}});
 }
 
-TEST_F(Profile, OtherQuotesAreKept) {
+TEST_F(LngFiles, OtherQuotesAreKept) {
     expectValues({{"1=\"x", "\"x"},
                   {"1=x\"", "x\""},
                   {"1=\"x'", "\"x'"},
@@ -62,28 +62,28 @@ TEST_F(Profile, OtherQuotesAreKept) {
                   {"1=it's", "it's"}});
 }
 
-TEST_F(Profile, AValueOfBlanksIsABlank) {
+TEST_F(LngFiles, AValueOfBlanksIsABlank) {
     expectValues({{"1=   ", " "}, {"1= ", " "}, {"1=\t", " "}, {"1=\" \"", " "}});
     EXPECT_EQ(read("[S]\r\n1=  \r\n"), " ");
 }
 
-TEST_F(Profile, NothingAfterTheEqualsSignIsNothing) {
+TEST_F(LngFiles, NothingAfterTheEqualsSignIsNothing) {
     expectValues({{"1=", ""}, {"1=\"\"", ""}, {"1=''", ""}, {"1", ""}, {"2=x", ""}});
     EXPECT_EQ(read("[S]\r\n1=\r\n"), "");
     EXPECT_EQ(read("[S]\n1="), "");
 }
 
-TEST_F(Profile, SemicolonsOpenACommentAtTheLinesStartOnly) {
+TEST_F(LngFiles, SemicolonsOpenACommentAtTheLinesStartOnly) {
     expectValues({{";1=x", ""}, {"  ;1=x", ""}, {"1=x ; y", "x ; y"}, {"1=;", ";"}});
     EXPECT_EQ(read(";[S]\n1=x\n"), "");
     EXPECT_EQ(read("[S]\n;1=a\n1=b\n"), "b");
 }
 
-TEST_F(Profile, EqualsSignsStandInsideValues) {
+TEST_F(LngFiles, EqualsSignsStandInsideValues) {
     expectValues({{"1=a=b", "a=b"}, {"1==", "="}, {"1= = ", "="}});
 }
 
-TEST_F(Profile, EveryLineEndIsTaken) {
+TEST_F(LngFiles, EveryLineEndIsTaken) {
     for (const char* end : {"\n", "\r\n"}) {
         const QByteArray lines = QByteArray("[S]") + end + "1=x" + end + "2=y";
         EXPECT_EQ(read(lines, "S", "1"), "x");
@@ -91,64 +91,64 @@ TEST_F(Profile, EveryLineEndIsTaken) {
     }
 }
 
-TEST_F(Profile, OnlyTheFirstOfSectionsOfOneNameIsSearched) {
+TEST_F(LngFiles, OnlyTheFirstOfSectionsOfOneNameIsSearched) {
     const QByteArray lines("[S]\n2=a\n[T]\n1=t\n[s]\n1=b\n2=c\n");
     EXPECT_EQ(read(lines, "S", "1"), "");
     EXPECT_EQ(read(lines, "S", "2"), "a");
     EXPECT_EQ(read(lines, "T", "1"), "t");
 }
 
-TEST_F(Profile, TheFirstOfEqualKeysIsTaken) {
+TEST_F(LngFiles, TheFirstOfEqualKeysIsTaken) {
     EXPECT_EQ(read("[S]\n1=a\n1=b\n"), "a");
     EXPECT_EQ(read("[S]\n1=\n1=b\n"), "");
 }
 
-TEST_F(Profile, EntriesBeforeAnySectionAreIgnored) {
+TEST_F(LngFiles, EntriesBeforeAnySectionAreIgnored) {
     EXPECT_EQ(read("1=x\n[S]\n2=y\n"), "");
     EXPECT_EQ(read("1=x\n", ""), "");
 }
 
-TEST_F(Profile, SectionsEndAtTheNextHeader) {
+TEST_F(LngFiles, SectionsEndAtTheNextHeader) {
     EXPECT_EQ(read("[S]\n2=y\n[T]\n1=x\n"), "");
     EXPECT_EQ(read("[T]\n1=x\n"), "");
 }
 
-TEST_F(Profile, AHeaderWithoutItsBracketIsNone) {
+TEST_F(LngFiles, AHeaderWithoutItsBracketIsNone) {
     EXPECT_EQ(read("[S\n1=x\n"), "");
     EXPECT_EQ(read("[S]\n[T\n1=x\n"), "x");
     EXPECT_EQ(read("S]\n1=x\n"), "");
 }
 
-TEST_F(Profile, AHeaderEndsAtItsFirstBracket) {
+TEST_F(LngFiles, AHeaderEndsAtItsFirstBracket) {
     EXPECT_EQ(read("[S] tail\n1=x\n"), "x");
     EXPECT_EQ(read("[S]]\n1=x\n"), "x");
 }
 
-TEST_F(Profile, AByteOrderMarkIsSkipped) {
+TEST_F(LngFiles, AByteOrderMarkIsSkipped) {
     EXPECT_EQ(read("\xEF\xBB\xBF[S]\n1=x\n"), "x");
-    const ProfileFile file(QByteArray("\xEF\xBB\xBF[S]\n1=\xC3\xA4\n"));
+    const LngFile file(QByteArray("\xEF\xBB\xBF[S]\n1=\xC3\xA4\n"));
     EXPECT_EQ(file.Decode("\xC3\xA4"), QString::fromUtf8("ä"));
 }
 
-TEST_F(Profile, AMarkOfUtf16IsBelieved) {
+TEST_F(LngFiles, AMarkOfUtf16IsBelieved) {
     using namespace std::string_literals;
     const std::string little("\xFF\xFE[\0S\0]\0\n\0001\0=\0\x2F\x04\x14 x\0"s);
     const std::string big("\xFE\xFF\0[\0S\0]\0\r\0\n\0001\0=\x04\x2F\x20\x14\0x"s);
     for (const std::string& bytes : {little, big}) {
-        const ProfileFile file(QByteArray::fromStdString(bytes));
+        const LngFile file(QByteArray::fromStdString(bytes));
         EXPECT_EQ(file.Decode(file.GetPrivateProfileString("S", "1", bufferSize)),
                   QString::fromUtf8("Я—x"));
     }
 }
 
-TEST_F(Profile, HalfACharacterOfUtf16DoesNoHarm) {
+TEST_F(LngFiles, HalfACharacterOfUtf16DoesNoHarm) {
     using namespace std::string_literals;
     const std::string bytes("\xFF\xFE[\0S\0]\0\n\0001\0=\0x\0\x00\xD8y"s);
     EXPECT_TRUE(read(QByteArray::fromStdString(bytes)).startsWith('x'));
     EXPECT_EQ(read("\xFF\xFE"), "");
 }
 
-TEST_F(Profile, ANulEndsAValue) {
+TEST_F(LngFiles, ANulEndsAValue) {
     using namespace std::string_literals;
     EXPECT_EQ(read(QByteArray::fromStdString("[S]\n1=ab\0cd\n"s)), "ab");
     EXPECT_EQ(read(QByteArray::fromStdString("[S]\n1=\0cd\n"s)), "");
@@ -157,14 +157,14 @@ TEST_F(Profile, ANulEndsAValue) {
     EXPECT_EQ(read(QByteArray::fromStdString("[S]\n1=a\0b\n2=y\n"s), "S", "2"), "y");
 }
 
-TEST_F(Profile, ValuesAreCutAt254Bytes) {
+TEST_F(LngFiles, ValuesAreCutAt254Bytes) {
     for (const int size : {253, 254})
         EXPECT_EQ(read("[S]\n1=" + QByteArray(size, 'x') + "\n").size(), size);
     for (const int size : {255, 10000})
         EXPECT_EQ(read("[S]\n1=" + QByteArray(size, 'x') + "\n"), QByteArray(254, 'x'));
 }
 
-TEST_F(Profile, NoCharacterIsCut) {
+TEST_F(LngFiles, NoCharacterIsCut) {
     const struct {
         const char* character;
         int before;
@@ -179,60 +179,60 @@ TEST_F(Profile, NoCharacterIsCut) {
     }
 }
 
-TEST_F(Profile, AFileThatIsNoUtf8IsCutAtExactly254Bytes) {
+TEST_F(LngFiles, AFileThatIsNoUtf8IsCutAtExactly254Bytes) {
     const QByteArray value = QByteArray(253, 'x') + "\xD0\xAF";
     EXPECT_EQ(read("[S]\n1=" + value + "\n2=\xC0\n"), value.left(254));
     EXPECT_EQ(read("[S]\n1=" + QByteArray(300, '\xBF') + "\n"), QByteArray(254, '\xBF'));
 }
 
-TEST_F(Profile, ValuesAreCutAfterQuotesAndBlanksAreGone) {
+TEST_F(LngFiles, ValuesAreCutAfterQuotesAndBlanksAreGone) {
     const QByteArray value(254, 'x');
     EXPECT_EQ(read("[S]\n1=\"" + value + "\"\n"), value);
     EXPECT_EQ(read("[S]\n1=" + QByteArray(300, ' ') + value + "   \n"), value);
     EXPECT_EQ(read("[S]\n1=   '" + value + "y'\n"), value);
 }
 
-TEST_F(Profile, TheSizeAskedForHoldsAFinalNul) {
-    const ProfileFile file(QByteArray("[S]\n1=abcdef\n"));
+TEST_F(LngFiles, TheSizeAskedForHoldsAFinalNul) {
+    const LngFile file(QByteArray("[S]\n1=abcdef\n"));
     EXPECT_EQ(file.GetPrivateProfileString("S", "1", 4), "abc");
     EXPECT_EQ(file.GetPrivateProfileString("S", "1", 1), "");
 }
 
-TEST_F(Profile, TextsAreUtf8OrTheUsersCodePage) {
+TEST_F(LngFiles, TextsAreUtf8OrTheUsersCodePage) {
     QLocale::setDefault(QLocale(QLocale::Russian));
-    const ProfileFile utf8(QByteArray("[S]\n1=\xD0\xAF\n"));
+    const LngFile utf8(QByteArray("[S]\n1=\xD0\xAF\n"));
     EXPECT_EQ(utf8.Decode("\xD0\xAF"), QString::fromUtf8("Я"));
-    const ProfileFile windows(QByteArray("[S]\n1=\xDF\n"));
+    const LngFile windows(QByteArray("[S]\n1=\xDF\n"));
     EXPECT_EQ(windows.Decode("\xDF"), QString::fromUtf8("Я"));
     QLocale::setDefault(QLocale::c());
     EXPECT_EQ(windows.Decode("\xDF"), QString::fromUtf8("ß"));
 }
 
-TEST_F(Profile, EmptyAndBinaryFilesHoldNothing) {
+TEST_F(LngFiles, EmptyAndBinaryFilesHoldNothing) {
     for (const QByteArray& bytes : {QByteArray(), QByteArray("\xEF\xBB\xBF"), QByteArray("\n\n\r"),
                                     QByteArray(1000, '\0'), QByteArray("[]"), QByteArray("=")})
         EXPECT_EQ(read(bytes), "");
 }
 
-TEST_F(Profile, FilesAreReadUpToTheLargestSize) {
+TEST_F(LngFiles, FilesAreReadUpToTheLargestSize) {
     const QString path = programPath(QStringLiteral("x.lng"));
     const QByteArray start("[S]\n1=x\n");
-    writeFile(path, start.leftJustified(ProfileFile::largestSize, '\n'));
-    const ProfileFile largest(path);
-    EXPECT_EQ(largest.ReadStatus(), ProfileFile::Status::Read);
+    writeFile(path, start.leftJustified(LngFile::largestSize, '\n'));
+    const LngFile largest(path);
+    EXPECT_EQ(largest.ReadStatus(), LngFile::Status::Read);
     EXPECT_EQ(largest.GetPrivateProfileString("S", "1", bufferSize), "x");
-    writeFile(path, start.leftJustified(ProfileFile::largestSize + 1, '\n'));
-    const ProfileFile tooLarge(path);
-    EXPECT_EQ(tooLarge.ReadStatus(), ProfileFile::Status::TooLarge);
+    writeFile(path, start.leftJustified(LngFile::largestSize + 1, '\n'));
+    const LngFile tooLarge(path);
+    EXPECT_EQ(tooLarge.ReadStatus(), LngFile::Status::TooLarge);
     EXPECT_EQ(tooLarge.GetPrivateProfileString("S", "1", bufferSize), "");
 }
 
 // A search through the whole file for each entry would take a minute.
-TEST_F(Profile, ManyEntriesOfALargeFileAreFoundAtOnce) {
+TEST_F(LngFiles, ManyEntriesOfALargeFileAreFoundAtOnce) {
     QByteArray lines("[S]\n");
-    for (int i = 0; lines.size() < ProfileFile::largestSize - 20; ++i)
+    for (int i = 0; lines.size() < LngFile::largestSize - 20; ++i)
         lines += QByteArray::number(i) + "=x\n";
-    const ProfileFile file(lines);
+    const LngFile file(lines);
     QElapsedTimer watch;
     watch.start();
     for (int i = 0; i < 10000; ++i)
@@ -241,23 +241,23 @@ TEST_F(Profile, ManyEntriesOfALargeFileAreFoundAtOnce) {
     EXPECT_LT(watch.elapsed(), 5000);
 }
 
-TEST_F(Profile, WhatIsNoFileCannotBeRead) {
+TEST_F(LngFiles, WhatIsNoFileCannotBeRead) {
     const QString folder = programPath(QStringLiteral("folder.lng"));
     const QString link = programPath(QStringLiteral("link.lng"));
     ASSERT_TRUE(QDir().mkpath(folder));
     ASSERT_TRUE(QFile::link(programPath(QStringLiteral("nowhere")), link));
     for (const QString& path : {folder, link, programPath(QStringLiteral("missing.lng"))}) {
-        const ProfileFile file(path);
-        EXPECT_EQ(file.ReadStatus(), ProfileFile::Status::Unreadable);
+        const LngFile file(path);
+        EXPECT_EQ(file.ReadStatus(), LngFile::Status::Unreadable);
         EXPECT_EQ(file.GetPrivateProfileString("S", "1", bufferSize), "");
     }
 }
 
-TEST_F(Profile, LinksToFilesAreRead) {
+TEST_F(LngFiles, LinksToFilesAreRead) {
     writeFile(programPath(QStringLiteral("x.lng")), "[S]\n1=x\n");
     const QString link = programPath(QStringLiteral("link.lng"));
     ASSERT_TRUE(QFile::link(programPath(QStringLiteral("x.lng")), link));
-    EXPECT_EQ(ProfileFile(link).GetPrivateProfileString("S", "1", bufferSize), "x");
+    EXPECT_EQ(LngFile(link).GetPrivateProfileString("S", "1", bufferSize), "x");
 }
 
 } // namespace
