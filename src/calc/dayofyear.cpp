@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "calc/conversions.h"
+#include "calc/dayofyear.h"
 
 #include "calc/calc.h"
 #include "calc/state.h"
