@@ -3,7 +3,7 @@
 
 #include "platform/inifile.h"
 #include "platform/program.h"
-#include "platform/settingvalue.h"
+#include "platform/settingtext.h"
 #include "platform/system.h"
 
 #include <QDir>

@@ -8,6 +8,10 @@
 // What every system does in its own way. There is a source for each, system_posix.cpp
 // and system_windows.cpp, and the build takes one of them.
 
+/// Before the application is made: takes the one in which windows know their places
+/// where the user has several.
+void ChooseWindowSystem();
+
 /// Brings what was written to a file to the disk; false when it is not known to be
 /// there.
 bool BringToDisk(QFileDevice& file);

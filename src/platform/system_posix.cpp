@@ -9,6 +9,16 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+// Only X11 lets a program say and know where its windows stand; a choice made outside is
+// left alone.
+void ChooseWindowSystem() {
+    const bool isWayland =
+        qEnvironmentVariableIsSet("WAYLAND_DISPLAY") || qgetenv("XDG_SESSION_TYPE") == "wayland";
+    if (isWayland && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM") &&
+        qEnvironmentVariableIsSet("DISPLAY"))
+        qputenv("QT_QPA_PLATFORM", "xcb;wayland");
+}
+
 bool BringToDisk(QFileDevice& file) {
     return file.flush() && fsync(file.handle()) == 0;
 }

@@ -6,6 +6,8 @@
 #include <qt_windows.h>
 #include <string>
 
+void ChooseWindowSystem() {} // there is one
+
 bool BringToDisk(QFileDevice& file) {
     return file.flush() && _commit(file.handle()) == 0;
 }

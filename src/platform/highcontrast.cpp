@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/outlines.h"
+#include "platform/highcontrast.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -61,6 +61,6 @@ private:
 
 } // namespace
 
-void InstallOutlines() {
+void InstallHighContrast() {
     qApp->installEventFilter(new Outlines(qApp));
 }

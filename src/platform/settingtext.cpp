@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/settingvalue.h"
+#include "platform/settingtext.h"
 
 #include <algorithm>
 #include <cctype>
