@@ -4,6 +4,7 @@
 #include "calc/range.h"
 #include "calc/state.h"
 #include "changecals/changecals.h"
+#include "changecals/moonage.h"
 #include "platform/text.h"
 #include "shared/settings.h"
 #include "shared/texts.h"
