@@ -13,11 +13,28 @@ namespace {
 
 constexpr int discMargin = 2; // pixels
 
+// What is not lit: the sky, and the moon's shadow that cannot be told from it.
+constexpr int skyColor = 0x000000;
+
 // The toolkit would tell a widget that paints itself as a mere filler.
 QAccessibleInterface* newInterface(const QString& className, QObject* object) {
     if (className != QLatin1String("MoonPicture"))
         return nullptr;
     return new QAccessibleWidget(qobject_cast<MoonPicture*>(object), QAccessible::Graphic);
+}
+
+// A shadow of less than a pixel covers nothing.
+void paintShadow(QPainter& painter, const Shadow& shadow) {
+    const QRectF shape(QPointF(shadow.left, shadow.top) / twipsPerPixel,
+                       QSizeF(shadow.width, shadow.height) / twipsPerPixel);
+    if (shape.width() < 1 && shape.height() < 1)
+        return;
+    painter.setPen(QPen(ToColor(skyColor), shadow.border));
+    painter.setBrush(shadow.solid ? QBrush(ToColor(skyColor)) : QBrush());
+    if (shadow.shape == Shadow::Shape::Circle)
+        painter.drawEllipse(shape);
+    else
+        painter.drawRect(shape);
 }
 
 } // namespace
@@ -48,7 +65,7 @@ void MoonPicture::paintEvent(QPaintEvent*) {
     else
         paintMoon(painter);
     if (m_shadow)
-        PaintShadow(painter, *m_shadow);
+        paintShadow(painter, *m_shadow);
 }
 
 void MoonPicture::mouseDoubleClickEvent(QMouseEvent* event) {

@@ -2,10 +2,7 @@
 #include "moon/shadow.h"
 
 #include "changecals/moonage.h"
-#include "platform/color.h"
 #include "platform/numbers.h"
-
-#include <QPainter>
 
 namespace {
 
@@ -84,17 +81,4 @@ Shadow ShadowOf(float age, Twips width, Twips height) {
     if (age <= 4 * quarter - nearPhase)
         return mirrored(area, waxingCrescent(area, 4 * quarter - age));
     return newMoon(area);
-}
-
-void PaintShadow(QPainter& painter, const Shadow& shadow) {
-    const QRectF shape(QPointF(shadow.left, shadow.top) / twipsPerPixel,
-                       QSizeF(shadow.width, shadow.height) / twipsPerPixel);
-    if (shape.width() < 1 && shape.height() < 1)
-        return;
-    painter.setPen(QPen(ToColor(skyColor), shadow.border));
-    painter.setBrush(shadow.solid ? QBrush(ToColor(skyColor)) : QBrush());
-    if (shadow.shape == Shadow::Shape::Circle)
-        painter.drawEllipse(shape);
-    else
-        painter.drawRect(shape);
 }

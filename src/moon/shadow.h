@@ -3,11 +3,6 @@
 
 #include "platform/twips.h"
 
-class QPainter;
-
-/// What is not lit: the sky, and the moon's shadow that cannot be told from it.
-inline constexpr int skyColor = 0x000000;
-
 /// The one shape that covers the unlit part of the moon's picture. Positions and
 /// sizes are in twips from the picture's upper left corner; a circle's height is
 /// its diameter. Only the crescents' and halves' shapes are filled: the gibbous
@@ -27,7 +22,3 @@ struct Shadow {
 /// The shadow at a moon age in days over a picture of the given size.
 /// An age that no lunation has (negative, or near its end) is new moon.
 Shadow ShadowOf(float age, Twips width, Twips height);
-
-/// Paints it where the picture's upper left corner is the painter's origin. A
-/// shadow of less than a pixel covers nothing.
-void PaintShadow(QPainter& painter, const Shadow& shadow);
