@@ -18,8 +18,6 @@ namespace {
 // rectangle that holds them all.
 constexpr std::size_t fewCells = 8;
 
-constexpr QColor frameColor(120, 128, 152);
-
 bool movesCurrentCell(int key) {
     return (key >= Qt::Key_Home && key <= Qt::Key_PageDown);
 }
@@ -154,22 +152,8 @@ void MSFlexGrid::keyPressEvent(QKeyEvent* event) {
 bool MSFlexGrid::event(QEvent* event) {
     if (event->type() != QEvent::Paint)
         return QTableView::event(event);
-    paintFrame();
+    GridPainter::PaintFrame(*this);
     return true;
-}
-
-// Whole pixels of the screen, close around the cells: at a fractional scale the
-// toolkit would round each side by itself. With the focus it is in the colour of the
-// theme's texts, otherwise the same on every theme; the toolkit repaints the grid when
-// the focus comes or goes.
-void MSFlexGrid::paintFrame() {
-    QPainter painter(this);
-    const QTransform toScreen = painter.deviceTransform();
-    const double line = std::floor(toScreen.m11());
-    const QRectF cells = toScreen.mapRect(QRectF(viewport()->geometry()));
-    const QRectF whole(cells.topLeft().toPoint(), cells.bottomRight().toPoint());
-    painter.fillRect(toScreen.inverted().mapRect(whole.adjusted(-line, -line, line, line)),
-                     hasFocus() ? palette().color(QPalette::WindowText) : frameColor);
 }
 
 // The toolkit tells that the grid has the focus when this is done; the cell comes

@@ -132,7 +132,6 @@ private:
 
     void changeCell(int row, int column, const GridCell& cell);
     void announceChanges();
-    void paintFrame();
     void repaintCells(const std::vector<QPoint>& cells);
     void showSelected();
     void moveCurrent(const QModelIndex& index);

@@ -5,6 +5,7 @@
 #include "platform/gridmodel.h"
 #include "platform/text.h"
 
+#include <QAbstractScrollArea>
 #include <QPainter>
 #include <QRegion>
 #include <QStyleOptionViewItem>
@@ -17,6 +18,8 @@ namespace {
 constexpr std::size_t mostTexts = 500;
 
 constexpr double fadedOpacity = 0.5;
+
+constexpr QColor frameColor(120, 128, 152);
 
 // Told from the pale cells and from a red one, and from what lies around either.
 constexpr QColor outlineColor(0, 0, 128);
@@ -35,6 +38,18 @@ void outline(QPainter* painter, const QRect& cell) {
 
 GridPainter::GridPainter(const GridModel* model, QObject* parent)
     : QAbstractItemDelegate(parent), m_model(model) {}
+
+// Whole pixels of the screen, close around the cells: at a fractional scale the
+// toolkit would round each side by itself.
+void GridPainter::PaintFrame(QAbstractScrollArea& grid) {
+    QPainter painter(&grid);
+    const QTransform toScreen = painter.deviceTransform();
+    const double line = std::floor(toScreen.m11());
+    const QRectF cells = toScreen.mapRect(QRectF(grid.viewport()->geometry()));
+    const QRectF whole(cells.topLeft().toPoint(), cells.bottomRight().toPoint());
+    painter.fillRect(toScreen.inverted().mapRect(whole.adjusted(-line, -line, line, line)),
+                     grid.hasFocus() ? grid.palette().color(QPalette::WindowText) : frameColor);
+}
 
 void GridPainter::SetFonts(const QFont& plain) {
     m_fonts[0] = m_fonts[1] = plain;

@@ -7,18 +7,23 @@
 #include <unordered_map>
 
 class GridModel;
+class QAbstractScrollArea;
 struct GridCell;
 
-/// Paints a grid cell: its ground, its text, and nothing of the desktop's theme.
-/// A text too wide for its cell is shown in a smaller font, and shortened where
-/// the smallest is too wide; in the first column it stays clear of the grid's
-/// frame. The current cell of the grid that has the focus is outlined in navy; the
-/// texts of a disabled grid are faded to half.
+/// Paints a grid's frame and its cells: a cell's ground, its text, and nothing of the desktop's
+/// theme. A text too wide for its cell is shown in a smaller font, and shortened where the smallest
+/// is too wide; in the first column it stays clear of the grid's frame. The current cell of the
+/// grid that has the focus is outlined in navy; the texts of a disabled grid are faded to half.
 class GridPainter : public QAbstractItemDelegate {
     Q_OBJECT
 
 public:
     GridPainter(const GridModel* model, QObject* parent);
+
+    /// Paints the line around the cells. With the focus it is in the colour of the
+    /// theme's texts, otherwise the same on every theme; the toolkit repaints the grid
+    /// when the focus comes or goes.
+    static void PaintFrame(QAbstractScrollArea& grid);
 
     void SetFonts(const QFont& plain);
     int PaintedCells() const { return m_paintedCells; }
