@@ -9,6 +9,7 @@
 #include "platform/numbers.h"
 #include "platform/spokenanswer.h"
 #include "shared/flags.h"
+#include "shared/mainwindows.h"
 #include "shared/settings.h"
 
 namespace {

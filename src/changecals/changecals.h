@@ -2,6 +2,7 @@
 #pragma once
 
 #include "calc/state.h"
+#include "shared/mainwindows.h"
 #include "shared/settings.h"
 
 /// Carries a change of the chosen day to all calendars and then to all windows.

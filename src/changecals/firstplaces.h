@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "shared/settings.h"
+#include "shared/mainwindows.h"
 #include "shared/table.h"
 
 #include <QPoint>

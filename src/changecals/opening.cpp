@@ -4,6 +4,7 @@
 #include "changecals/changecals.h"
 #include "changecals/windows.h"
 #include "shared/calendars.h"
+#include "shared/mainwindows.h"
 #include "shared/settings.h"
 
 void ChangeCals::OpenYearWindow(int c) {

@@ -5,6 +5,7 @@
 #include "changecals/windows.h"
 #include "platform/numbers.h"
 #include "platform/program.h"
+#include "shared/settings.h"
 
 #include <QGuiApplication>
 #include <QScreen>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "platform/twips.h"
-#include "shared/settings.h"
+#include "shared/mainwindows.h"
 
 class Form;
 class MainWindow;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "changecals/windows.h"
+#include "shared/mainwindows.h"
 
 #include "shared/settings.h"
 #include "shared/table.h"

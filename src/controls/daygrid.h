@@ -2,7 +2,7 @@
 #pragma once
 
 #include "platform/flexgrid.h"
-#include "shared/settings.h"
+#include "shared/mainwindows.h"
 
 /// A grid of the days of one calendar's current year or of a part of it. It is
 /// made of bands of seven weekday rows, each under a number of title rows; column

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "platform/combobox.h"
-#include "shared/settings.h"
+#include "shared/mainwindows.h"
 
 /// A list of all years that a calendar can show, in rising order.
 namespace Controls {

@@ -16,6 +16,7 @@
 #include "platform/text.h"
 #include "settings/usersettings.h"
 #include "shared/flags.h"
+#include "shared/mainwindows.h"
 #include "shared/settings.h"
 #include "shared/texts.h"
 

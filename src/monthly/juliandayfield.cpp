@@ -11,7 +11,7 @@
 #include "platform/numbers.h"
 #include "platform/text.h"
 #include "shared/flags.h"
-#include "shared/settings.h"
+#include "shared/mainwindows.h"
 #include "shared/texts.h"
 
 #include <QApplication>

@@ -7,6 +7,7 @@
 #include "changecals/changecals.h"
 #include "changecals/opening.h"
 #include "shared/flags.h"
+#include "shared/mainwindows.h"
 #include "shared/settings.h"
 
 namespace {

@@ -13,6 +13,7 @@
 #include "platform/numbers.h"
 #include "platform/text.h"
 #include "shared/flags.h"
+#include "shared/mainwindows.h"
 #include "shared/settings.h"
 #include "shared/texts.h"
 

@@ -11,7 +11,7 @@
 #include "platform/numbers.h"
 #include "platform/program.h"
 #include "platform/text.h"
-#include "shared/settings.h"
+#include "shared/mainwindows.h"
 #include "shared/texts.h"
 
 #include <QKeyEvent>

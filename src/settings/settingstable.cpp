@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "settings/settingstable.h"
 
+#include "shared/english.h"
+#include "shared/mainwindows.h"
 #include "shared/settings.h"
 
 namespace {

@@ -2,9 +2,9 @@
 #pragma once
 
 #include "shared/calendars.h"
+#include "shared/mainwindows.h"
 #include "shared/table.h"
 
-#include <array>
 #include <string>
 
 // The user's stored choices as the running program holds them. Numbers fit in
@@ -23,20 +23,6 @@ inline Table<int, paneCount> CalendarOrder;
 /// it through Calc::WeekStart, which makes a weekday of any stored number.
 inline Table<int, calendarCount> FirstWeekDay;
 
-/// The six main windows; 1..4 are the year windows by calendar number. Only
-/// StartupWindow and CurrentWindow number windows otherwise.
-enum MainWindowNumber : int { MonthlyWindowNumber = 5, MoonWindowNumber = 6 };
-inline constexpr int mainWindowCount = 6;
-
-constexpr MainWindowNumber YearWindowNumber(int c) {
-    return static_cast<MainWindowNumber>(c);
-}
-
-/// All of them in the order of their stored positions.
-inline constexpr std::array<MainWindowNumber, mainWindowCount> mainWindows{
-    YearWindowNumber(Julian), YearWindowNumber(Gregorian), YearWindowNumber(Jewish),
-    YearWindowNumber(Moslem), MonthlyWindowNumber,         MoonWindowNumber};
-
 /// A position that means "none stored".
 inline constexpr int noPosition = 32737;
 
@@ -52,8 +38,6 @@ inline int MoslemType = 0;
 /// 0 the monthly window, 1..4 the year window of that calendar; any other value
 /// opens no window.
 inline int StartupWindow = 0;
-
-inline const std::string englishLanguage = "English (Default)";
 
 /// The base name of a language file in the program's folder, or englishLanguage.
 inline std::string LanguageName;

@@ -10,6 +10,7 @@
 #include "printing/print.h"
 #include "settings/usersettings.h"
 #include "shared/flags.h"
+#include "shared/mainwindows.h"
 #include "shared/settings.h"
 #include "start/frmabout.h"
 #include "start/frmoptions.h"

@@ -3,6 +3,7 @@
 
 #include "endurance/reckoning.h"
 #include "shared/calendars.h"
+#include "shared/mainwindows.h"
 #include "shared/settings.h"
 #include "shared/table.h"
 

@@ -7,7 +7,7 @@
 #include "changecals/windows.h"
 #include "platform/combobox.h"
 #include "platform/flexgrid.h"
-#include "shared/settings.h"
+#include "shared/mainwindows.h"
 #include "support/platform_test.h"
 
 #include <QPixmapCache>

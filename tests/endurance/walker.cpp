@@ -3,7 +3,7 @@
 
 #include "changecals/windows.h"
 #include "endurance/expected.h"
-#include "shared/settings.h"
+#include "shared/mainwindows.h"
 
 #include <vector>
 

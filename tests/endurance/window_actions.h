@@ -2,7 +2,7 @@
 #pragma once
 
 #include "endurance/hand.h"
-#include "shared/settings.h"
+#include "shared/mainwindows.h"
 #include "shared/table.h"
 
 /// What a user does with windows as such: opens, closes, minimises and restores

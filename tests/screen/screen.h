@@ -6,7 +6,7 @@
 #include "platform/form.h"
 #include "platform/twips.h"
 #include "screen/windowmanager.h"
-#include "shared/settings.h"
+#include "shared/mainwindows.h"
 #include "start/start.h"
 #include "support/screenjudge.h"
 #include "support/widget_test.h"

@@ -2,6 +2,7 @@
 #include "start/frmoptions_test.h"
 
 #include "platform/settingsfile.h"
+#include "shared/english.h"
 
 #include <QAccessible>
 #include <QCheckBox>

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "shared/english.h"
 #include "start/frmoptions_test.h"
 
 #include <QDir>

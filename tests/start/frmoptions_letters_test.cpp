@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The options in the letters of several desktops, from small to large.
+#include "shared/english.h"
 #include "shared/texts.h"
 #include "start/frmoptions_test.h"
 #include "start/language.h"

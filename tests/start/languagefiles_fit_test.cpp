@@ -6,6 +6,7 @@
 #include "monthly/frmmonthlycal.h"
 #include "moon/frmmoon.h"
 #include "platform/flexgrid.h"
+#include "shared/english.h"
 #include "start/frmabout.h"
 #include "start/frmoptions.h"
 #include "start/language.h"

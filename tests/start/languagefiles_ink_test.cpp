@@ -7,6 +7,7 @@
 #include "moon/frmmoon.h"
 #include "platform/combobox.h"
 #include "platform/text.h"
+#include "shared/english.h"
 #include "start/frmabout.h"
 #include "start/frmoptions.h"
 #include "start/language.h"

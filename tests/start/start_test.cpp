@@ -6,6 +6,7 @@
 #include "platform/clock.h"
 #include "platform/commandbutton.h"
 #include "platform/flexgrid.h"
+#include "shared/english.h"
 #include "start/splashwatch.h"
 #include "support/texttables.h"
 #include "support/widget_test.h"

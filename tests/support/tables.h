@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "shared/english.h"
+#include "shared/mainwindows.h"
 #include "shared/settings.h"
 #include "shared/table.h"
 
