@@ -6,7 +6,7 @@
 #include "controls/moonbuttons.h"
 #include "shared/calendars.h"
 #include "shared/table.h"
-#include "yearcals/yearcals.h"
+#include "yearcals/yearcontrols.h"
 
 class ComboBox;
 class CommandButton;

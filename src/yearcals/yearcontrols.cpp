@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "yearcals/yearcals.h"
+#include "yearcals/yearcontrols.h"
 
 #include "calc/range.h"
 #include "calc/state.h"
