@@ -16,6 +16,20 @@ void setYearEnds(int c, int newYear) {
 
 } // namespace
 
+int Calc::DayOfYear(int c, int month, int day) {
+    for (int before = 1; before < month; ++before)
+        day += MonthDays(c, before);
+    return day;
+}
+
+void Calc::DayToMonth(int c, int& month, int& day) {
+    month = 1;
+    while (month <= monthLimit && day - MonthDays(c, month) >= 1) {
+        day -= MonthDays(c, month);
+        ++month;
+    }
+}
+
 void Calc::DateToJD(int c, int newYear) {
     int& day = CurDate(c, Day);
     const int month = CurDate(c, Month);

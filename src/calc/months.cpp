@@ -26,20 +26,6 @@ void Calc::FillConstantRows() {
         MoslemCycle(longYear) = 355;
 }
 
-int Calc::DayOfYear(int c, int month, int day) {
-    for (int before = 1; before < month; ++before)
-        day += MonthDays(c, before);
-    return day;
-}
-
-void Calc::DayToMonth(int c, int& month, int& day) {
-    month = 1;
-    while (month <= monthLimit && day - MonthDays(c, month) >= 1) {
-        day -= MonthDays(c, month);
-        ++month;
-    }
-}
-
 int Calc::MonthsInYear(int c) {
     return c == Jewish && JewishLeap ? monthLimit : 12;
 }
