@@ -118,11 +118,6 @@ void frmYearCal::Combo1_Click() {
     Controls::ChooseYearOf(*m_combo1, m_calendar, YearWindowNumber(m_calendar));
 }
 
-void frmYearCal::MSFlexGrid1_MouseDown(Qt::MouseButton button) {
-    if (button == Qt::LeftButton)
-        m_grid->PickYearCell();
-}
-
 void frmYearCal::Command1_Click(int index) {
     if (index == PreviousYear)
         StepYear(-1);
@@ -157,7 +152,6 @@ void frmYearCal::createControls() {
     m_combo1->SetFiller([c = m_calendar] { return Controls::YearEntries(c); });
     m_combo1->SetOrigin([] { return CurJD; });
     connect(m_combo1, &ComboBox::Click, this, &frmYearCal::Combo1_Click);
-    connect(m_grid, &MSFlexGrid::MouseDown, this, &frmYearCal::MSFlexGrid1_MouseDown);
     connect(m_grid, &MSFlexGrid::DblClick, this, &ChangeCals::ShowMonthlyWindow);
     connect(m_grid, &DayGrid::Paged, this, &frmYearCal::StepYear);
     connect(m_grid, &YearGrid::Fitted, this, &frmYearCal::Form_Resize);

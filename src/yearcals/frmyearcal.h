@@ -50,7 +50,6 @@ private:
     static constexpr int buttonCount = FirstOtherCalendar + otherCount - 1;
 
     void Combo1_Click();
-    void MSFlexGrid1_MouseDown(Qt::MouseButton button);
     void Command1_Click(int index);
     void Command1_MouseDown(int index, Qt::MouseButton button);
     void Form_Resize();

@@ -58,6 +58,7 @@ Twips gridHeight() {
 YearGrid::YearGrid(int c, QWidget* parent)
     : DayGrid(QStringLiteral("MSFlexGrid1"), bands, titleRows, columnsOf(c), YearWindowNumber(c),
               parent) {
+    connect(this, &MSFlexGrid::MouseDown, this, &YearGrid::PickYearCell);
     InitYearGrid(c);
 }
 
@@ -78,6 +79,11 @@ int YearGrid::NarrowestWidth() {
 
 QSize YearGrid::LargestSize(int c) {
     return {ToPixels(gridWidth(columnsOf(c) - 1)), ToPixels(gridHeight())};
+}
+
+void YearGrid::PickYearCell(Qt::MouseButton button) {
+    if (button == Qt::LeftButton)
+        ChoosePressedDay();
 }
 
 void YearGrid::fitYear() {

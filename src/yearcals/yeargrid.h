@@ -18,8 +18,6 @@ public:
     /// The next ShowYear refills the grid.
     void ForgetYear();
 
-    void PickYearCell() { ChoosePressedDay(); }
-
     /// Of a year without a thirteenth month, in pixels.
     static int NarrowestWidth();
 
@@ -37,6 +35,7 @@ protected:
     int LastMonth() const override;
 
 private:
+    void PickYearCell(Qt::MouseButton button);
     void InitYearGrid(int c);
     void BuildYearGrid();
     void fitYear();
