@@ -89,8 +89,8 @@ void frmMoon::Form_Load() {
     setBackground(this, QColor(24, 26, 36));
     setBackground(m_label2, QColor(70, 76, 96));
     setColor(m_label1, QPalette::WindowText, QColor(255, 236, 170));
-    loadPicture();
     placeControls();
+    loadPicture();
     ChangeCals::PlaceForm(*this, MoonWindowNumber);
 }
 
@@ -101,7 +101,7 @@ void frmMoon::loadPicture() {
         MsgBox(WithEmptyLine(path, QStringLiteral("The picture is too large.")));
     else if (file.picture.isNull())
         MsgBox(WithEmptyLine(path, Text(StringTexts(FileNotFoundText))));
-    m_picture1->SetPicture(file.picture);
+    m_picture1->SetPicture(file.picture, [path] { return LoadMoonPicture(path).picture; });
 }
 
 void frmMoon::placeControls() {

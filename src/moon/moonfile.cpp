@@ -71,5 +71,5 @@ MoonFile LoadMoonPicture(const QString& path) {
         return {};
     if (info.size() > largestFile)
         return {.isTooLarge = true};
-    return loadFrom(file.read(largestFile));
+    return loadFrom(file.read(info.size()));
 }

@@ -8,6 +8,7 @@
 #include <QAccessibleWidget>
 #include <QMouseEvent>
 #include <QPainter>
+#include <utility>
 
 namespace {
 
@@ -46,9 +47,9 @@ MoonPicture::MoonPicture(const QString& name, QWidget* parent) : QWidget(parent)
     setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
-void MoonPicture::SetPicture(const QImage& picture) {
-    m_picture = picture;
-    m_scaled = {};
+void MoonPicture::SetPicture(const QImage& picture, std::function<QImage()> again) {
+    m_again = std::move(again);
+    m_scaled = scaled(picture);
 }
 
 void MoonPicture::SetShadow(const Shadow& shadow) {
@@ -60,7 +61,7 @@ void MoonPicture::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), ToColor(skyColor));
     painter.setRenderHint(QPainter::Antialiasing);
-    if (m_picture.isNull())
+    if (m_scaled.isNull())
         paintSubstitute(painter);
     else
         paintMoon(painter);
@@ -73,14 +74,24 @@ void MoonPicture::mouseDoubleClickEvent(QMouseEvent* event) {
         Q_EMIT DblClick();
 }
 
+QSize MoonPicture::pixels() const {
+    return size() * devicePixelRatio();
+}
+
+QPixmap MoonPicture::scaled(const QImage& picture) const {
+    return picture.isNull() ? QPixmap()
+                            : QPixmap::fromImage(picture.scaled(pixels(), Qt::IgnoreAspectRatio,
+                                                                Qt::SmoothTransformation));
+}
+
+// A picture that is gone since is shown as sharp as it was.
 void MoonPicture::paintMoon(QPainter& painter) {
-    const QSize size = this->size() * devicePixelRatio();
-    if (m_scaled.size() != size) {
-        m_scaled = QPixmap::fromImage(
-            m_picture.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
-        m_scaled.setDevicePixelRatio(devicePixelRatio());
+    if (m_again && m_scaled.size() != pixels()) {
+        const QImage picture = m_again();
+        if (!picture.isNull())
+            m_scaled = scaled(picture);
     }
-    painter.drawPixmap(0, 0, m_scaled);
+    painter.drawPixmap(rect(), m_scaled);
 }
 
 void MoonPicture::paintSubstitute(QPainter& painter) const {

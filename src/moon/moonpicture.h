@@ -7,6 +7,7 @@
 #include <QImage>
 #include <QPixmap>
 #include <QWidget>
+#include <functional>
 #include <optional>
 
 /// The moon's picture with its shadow (Picture1 with Shape1 and Shape2). It
@@ -18,8 +19,10 @@ class MoonPicture : public QWidget {
 public:
     MoonPicture(const QString& name, QWidget* parent);
 
-    /// The picture of the full moon; a null image asks for the substitute disc.
-    void SetPicture(const QImage& picture);
+    /// The picture of the full moon; a null image asks for the substitute disc. Of the
+    /// picture, which is many times as large, only what is shown is kept: `again` gives
+    /// it anew where it is to be shown in another size.
+    void SetPicture(const QImage& picture, std::function<QImage()> again = {});
 
     void SetShadow(const Shadow& shadow);
 
@@ -34,10 +37,12 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent* event) override;
 
 private:
+    QSize pixels() const;
+    QPixmap scaled(const QImage& picture) const;
     void paintMoon(QPainter& painter);
     void paintSubstitute(QPainter& painter) const;
 
-    QImage m_picture;
+    std::function<QImage()> m_again;
     QPixmap m_scaled;
     std::optional<Shadow> m_shadow;
 };

@@ -1,6 +1,9 @@
 # SPDX-License-Identifier: MIT
 """The moon window."""
 
+import pathlib
+import re
+
 from testcase import EndToEndTest
 
 
@@ -44,6 +47,12 @@ class MoonWindow(EndToEndTest):
         moon = self._open(lambda: julian.press("moon"))
         moon.double_click(moon.middle())
         self.program.monthly_window().wait_until_in_front()
+
+    def test_its_picture_is_read_without_asking_for_memory_by_the_hundred_megabytes(self):
+        self.start_monthly()
+        status = pathlib.Path(f"/proc/{self.program.pid()}/status").read_text()
+        kilobytes = {name: int(count) for name, count in re.findall(r"(\w+):\s+(\d+) kB", status)}
+        self.assertLess(kilobytes["VmPeak"] - kilobytes["VmSize"], 100_000)
 
     def _open(self, press):
         press()

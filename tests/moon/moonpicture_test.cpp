@@ -81,6 +81,22 @@ TEST_F(MoonPictures, AnotherPictureOfTheSameSizeTakesTheFormersPlace) {
     }
 }
 
+TEST_F(MoonPictures, AreAskedForAgainWhereTheirSizeIsAnother) {
+    MoonPicture alone(QStringLiteral("Picture1"), nullptr);
+    alone.resize(side, side);
+    QImage now(16, 16, QImage::Format_RGB32);
+    now.fill(red);
+    QImage later = now;
+    later.fill(blue);
+    alone.SetPicture(now, [&later] { return later; });
+    EXPECT_EQ(alone.grab().toImage().pixelColor(side / 2, side / 2), red);
+    alone.resize(side + 1, side + 1);
+    EXPECT_EQ(alone.grab().toImage().pixelColor(side, side), blue);
+    later = {}; // the file is gone
+    alone.resize(side + 2, side + 2);
+    EXPECT_EQ(alone.grab().toImage().pixelColor(side + 1, side + 1), blue);
+}
+
 TEST_F(MoonPictures, StandTheRightWayRoundAndFillTheFieldWhateverTheirSize) {
     for (const int size : {64, 280, 560}) {
         store(quarters(size));
