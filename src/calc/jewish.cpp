@@ -72,7 +72,6 @@ int postponement(int newYear, int place, int timeOfMoon) {
 void moveLengthsToCommonLayout() {
     for (int month = AdarTwo; month < lastMonth; ++month)
         MonthDays(Jewish, month) = MonthDays(Jewish, month + 1);
-    MonthDays(Jewish, lastMonth) = 0;
 }
 
 void enterCommonLayout() {
@@ -162,6 +161,5 @@ void Calc::ArrangeJewishNames() {
     if (JewishLeap)
         moveLengthsToCommonLayout();
     JewishLeap = false;
-    MonthNames(Jewish, lastMonth).clear();
     SetJewishMonths();
 }
