@@ -7,8 +7,9 @@
 #include "changecals/windows.h"
 #include "platform/combobox.h"
 #include "platform/program.h"
+#include "shared/english.h"
 #include "shared/flags.h"
-#include "shared/settings.h"
+#include "shared/mainwindows.h"
 #include "start/language.h"
 #include "start/start.h"
 
