@@ -75,6 +75,10 @@ class Started:
     def peak_kilobytes(self):
         return status(self.process.pid, "VmHWM")
 
+    def own_kilobytes(self):
+        """What it shares with no file."""
+        return status(self.process.pid, "RssAnon")
+
     def idle_wake_ups(self):
         before = wake_ups(self.process.pid)
         time.sleep(IDLE_SECONDS)
@@ -86,8 +90,8 @@ class Started:
         self.process.wait()
 
 
-def measured(program, windows, idle):
-    """Times to the first windows, the peak of memory, and wake-ups while idle."""
+def measured(program, windows, idle=False):
+    """Times to the first windows, memory at its peak and at rest, and wake-ups while idle."""
     with tempfile.TemporaryDirectory() as folder:
         desktop = Desktop(folder)
         desktop.start()
@@ -96,6 +100,7 @@ def measured(program, windows, idle):
             result = {"milliseconds": started.milliseconds_to_windows(windows)}
             time.sleep(SETTLED_SECONDS)
             result["kilobytes"] = started.peak_kilobytes()
+            result["own_kilobytes"] = started.own_kilobytes()
             if idle:
                 result["idle_seconds"] = IDLE_SECONDS
                 result["wake_ups"] = started.idle_wake_ups()
