@@ -84,6 +84,12 @@ protected:
     std::vector<std::pair<QPoint, Qt::MouseButton>> presses;
 };
 
+TEST_F(AccessibleGrid, ACellHasANameAndNoOtherText) {
+    ASSERT_NE(cell(1, 0).text(QAccessible::Name), QString());
+    for (const auto kind : {QAccessible::Description, QAccessible::Value, QAccessible::Help})
+        EXPECT_EQ(cell(1, 0).text(kind), QString()) << kind;
+}
+
 TEST_F(AccessibleGrid, IsAListOfTheCellsThatSaySomething) {
     QAccessibleInterface& list = accessible(*grid);
     EXPECT_EQ(list.role(), QAccessible::List);
