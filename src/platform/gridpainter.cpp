@@ -103,7 +103,7 @@ void GridPainter::paintText(QPainter* painter, const GridCell& cell, const QRect
     const double digitShift = isSingleDigit(cell.text) ? entry.advance / 2 : 0;
     const double indent = std::floor((rect.width() - entry.advance) / 2 + digitShift);
     const QPointF at(rect.x() + std::max(0.0, indent),
-                     rect.y() + std::round((rect.height() - entry.text.size().height()) / 2));
+                     rect.y() + (rect.height() - entry.text.size().height()) / 2);
     painter->setPen(ToColor(cell.fore));
     painter->setFont(entry.font);
     painter->drawStaticText(at, entry.text);
