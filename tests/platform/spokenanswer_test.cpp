@@ -88,7 +88,6 @@ TEST_F(Answers, AFocusThatMovesIsAnswerEnough) {
 // A tool passes over what has no place, and tells no entry twice.
 TEST_F(Answers, AreAnEntryOfTheWindowEachAnother) {
     AccessibleWatch watch;
-    std::vector<QAccessible::Id> told;
     QAccessible::installUpdateHandler(nullptr);
     static std::vector<QAccessibleInterface*> entries;
     entries.clear();
@@ -107,6 +106,26 @@ TEST_F(Answers, AreAnEntryOfTheWindowEachAnother) {
     EXPECT_EQ(entries[1]->parent(), &accessible(window));
     EXPECT_GE(accessible(window).indexOfChild(entries[1]), 0);
     QAccessible::installUpdateHandler(nullptr);
+}
+
+TEST_F(Answers, TheLastAndTheOneBeforeAreKept) {
+    AccessibleWatch watch;
+    static std::vector<QAccessible::Id> told;
+    told.clear();
+    QAccessible::installUpdateHandler([](QAccessibleEvent* event) {
+        if (event->type() == QAccessible::Focus)
+            told.push_back(event->uniqueId());
+    });
+    for (int times = 0; times < 4; ++times) {
+        AnswerUser();
+        processEvents();
+    }
+    QAccessible::installUpdateHandler(nullptr);
+    ASSERT_EQ(told.size(), 4U);
+    EXPECT_EQ(QAccessible::accessibleInterface(told[0]), nullptr);
+    EXPECT_EQ(QAccessible::accessibleInterface(told[1]), nullptr);
+    EXPECT_NE(QAccessible::accessibleInterface(told[2]), nullptr);
+    EXPECT_NE(QAccessible::accessibleInterface(told[3]), nullptr);
 }
 
 } // namespace
