@@ -96,7 +96,9 @@ TEST_F(Updates, AChosenDateIsCarriedAndItsWindowComesFirst) {
 
 TEST_F(Updates, NoChangeOfAListIsTakenForTheUsersWhileTheDayIsCarried) {
     class Watching : public RecordingMonthly {
-        void SetCommonInfo() override { ::record(Updating ? "updating" : "free"); }
+        void SetCommonInfo() override {
+            ::record((Updating ? "updating, asked by " : "free, ") + std::to_string(CurrentWindow));
+        }
     };
     auto factories = recordingFactories();
     factories.monthly = [] { return new Watching; };
@@ -104,7 +106,7 @@ TEST_F(Updates, NoChangeOfAListIsTakenForTheUsersWhileTheDayIsCarried) {
     ChangeCals::LoadMonthly().Show();
     ChangeCals::ChooseDate(Gregorian, {1, 1, 2000}, MonthlyWindowNumber);
     ChangeCals::ChooseJulianDay(2451546, MonthlyWindowNumber);
-    EXPECT_EQ(std::ranges::count(calls, "updating"), 2);
+    EXPECT_EQ(std::ranges::count(calls, "updating, asked by 0"), 2);
     EXPECT_FALSE(Updating);
 }
 
