@@ -20,6 +20,17 @@ TEST_F(SpokenDays, AreWholeDatesInTheirCalendar) {
               QStringLiteral("Monday, 7 Ramadan 1448, Moslem calendar"));
 }
 
+TEST_F(SpokenDays, TheChosenOneIsSaidWhereACalendarHasIt) {
+    EXPECT_EQ(SpokenChosenDay(Gregorian),
+              QStringLiteral("Friday, 20 November 2026, Gregorian calendar"));
+    CurJD = 1948438; // the day before the Moslem era
+    ChangeCals::ChangeJD();
+    EXPECT_EQ(SpokenChosenDay(Moslem), QString());
+    EXPECT_EQ(SpokenChosenDay(Julian), QStringLiteral("Wednesday, 14 July 622, Julian calendar"));
+    for (const int noCalendar : {0, 5})
+        EXPECT_EQ(SpokenChosenDay(noCalendar), QString());
+}
+
 TEST_F(SpokenDays, KeepNamesFromTheRightApartFromNumbersWhereTheyAreSeen) {
     MonthNames(Gregorian, 11) = "\u05D0\u05D1";
     EXPECT_EQ(ChosenDayInWords().split(u'\n').at(1),

@@ -39,6 +39,14 @@ TEST_F(MonthlyWindowTest, TodayReturnsToTodayAndDoesNothingWhenItIsToday) {
     expectPanesShowTheState();
 }
 
+TEST_F(MonthlyWindowTest, AnswersWithTheDayOfTheFirstPaneThatHasIt) {
+    CalendarOrder = {Jewish, Moslem, Gregorian, Julian};
+    EXPECT_EQ(window().Answer(), QStringLiteral("Friday, 10 Kislev 5787, Jewish calendar"));
+    CalendarOrder = {9, Moslem, Julian, Jewish};
+    goTo(1948438); // the day before the Moslem era
+    EXPECT_EQ(window().Answer(), QStringLiteral("Wednesday, 14 July 622, Julian calendar"));
+}
+
 TEST_F(MonthlyWindowTest, CommandsOpenTheOtherWindows) {
     CalendarOrder = {Jewish, Gregorian, Julian, Moslem};
     window().ReSetForm();

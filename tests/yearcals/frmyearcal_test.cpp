@@ -31,6 +31,11 @@ TEST_F(YearWindows, LoadingFillsNoGrid) {
     EXPECT_EQ(selector(Julian).ListCount(), 0);
 }
 
+TEST_F(YearWindows, AnswerWithTheDayInTheirCalendar) {
+    EXPECT_EQ(year(Jewish).Answer(), QStringLiteral("Friday, 10 Kislev 5787, Jewish calendar"));
+    EXPECT_EQ(year(Julian).Answer(), QStringLiteral("Friday, 7 November 2026, Julian calendar"));
+}
+
 // Ranges
 
 TEST_F(YearWindows, BeforeTheRangeTheGridDisappearsAfterItIsDisabled) {
