@@ -113,6 +113,24 @@ TEST_F(MonthlyLayout, LargeListsKeepTheirDistanceFromTheLine) {
         << "an odd height is not halved evenly";
 }
 
+// The names that are tried differ by single pixels.
+TEST_F(MonthlyLayout, CommandsStandBesideTheListsWhereAMarginIsLeftBetweenThem) {
+    constexpr int margin = 20;
+    bool hadJustThat = false;
+    for (int wide = 8; wide <= 18; ++wide) {
+        for (int others = 0; others < 7 * 3 * 3; ++others) {
+            WeekDayNames(3) = std::string(wide, 'W') + std::string(others % 7, 'i') +
+                              std::string(others / 7 % 3, 't') + std::string(others / 21, 'n');
+            window().SetTexts();
+            const int between = command(1).x() - rightOf(combo(8));
+            const bool areBeside = command(1).y() < combo(6).y() + combo(6).height();
+            ASSERT_EQ(areBeside, between >= margin) << WeekDayNames(3);
+            hadJustThat = hadJustThat || between == margin;
+        }
+    }
+    EXPECT_TRUE(hadJustThat);
+}
+
 TEST_F(MonthlyLayout, ButtonsAreAsHighAsTheListsBesideThemButNeverSmall) {
     EXPECT_EQ(command(1).size(), QSize(30, 30));
     EXPECT_EQ(moonButton(3).size(), QSize(30, 30));
