@@ -37,7 +37,6 @@ bool leavesField(Qt::FocusReason reason) {
 JulianDayField::JulianDayField(const QString& name, QWidget* parent) : ComboBox(name, parent) {
     setEditable(true);
     setCompleter(nullptr);
-    setInsertPolicy(QComboBox::NoInsert);
     connect(lineEdit(), &QLineEdit::textEdited, this, &JulianDayField::Combo8_Change);
     connect(this, &ComboBox::Click, this, &JulianDayField::Combo8_Click);
     connect(qApp, &QGuiApplication::focusWindowChanged, this, &JulianDayField::focusWindowChanged);
