@@ -44,10 +44,13 @@ class Room:
 
 
 def coverage(source, build):
+    """By room; the build names sources as they lie in the project, whose folder it hides."""
     rooms = collections.defaultdict(Room)
     for file in records(build):
-        path = pathlib.Path(build, file["file"]).resolve()
+        path = pathlib.Path(source.parent, file["file"]).resolve()
         if source in path.parents and path.parent != source:
             for line in file["lines"]:
                 rooms[path.parent.name].add(path.name, line)
+    if not rooms:
+        raise SystemExit(f"gcov knows no source of {source}.")
     return {name: room.figures() for name, room in sorted(rooms.items())}
