@@ -10,8 +10,6 @@ namespace {
 
 constexpr qint64 largestFile = 256 << 20;   // bytes
 constexpr qint64 largestPicture = 64 << 20; // pixels
-constexpr qint64 mostPixels = 4 << 20;      // of a picture that is not scaled down
-constexpr QSize scaledSize(2048, 2048);
 
 /// A file's bytes, which notice when more is asked for than is there: the reader
 /// itself takes a bitmap whose last rows are missing for a whole one.
@@ -42,13 +40,6 @@ qreal pixelsOf(const QSize& size) {
     return size.width() * qAbs(qreal(size.height()));
 }
 
-QSize sizeFor(const QSize& size) {
-    const QSizeF upright(size.width(), qAbs(qreal(size.height())));
-    return pixelsOf(size) > mostPixels
-               ? upright.scaled(scaledSize, Qt::KeepAspectRatio).toSize().expandedTo({1, 1})
-               : QSize();
-}
-
 MoonFile loadFrom(QByteArray bytes) {
     WatchedBytes device(&bytes);
     device.open(QIODevice::ReadOnly);
@@ -56,7 +47,6 @@ MoonFile loadFrom(QByteArray bytes) {
     if (pixelsOf(reader.size()) > largestPicture)
         return {.isTooLarge = true};
     QImageReader::setAllocationLimit(0); // the toolkit's own is lower
-    reader.setScaledSize(sizeFor(reader.size()));
     const QImage picture = reader.read();
     // In full colours, which scaling would otherwise reduce to a few.
     return {device.IsWhole() ? picture.convertToFormat(QImage::Format_RGB32) : QImage()};
