@@ -174,6 +174,24 @@ TEST_F(MonthPage, SetsWeeksApart) {
     }
 }
 
+TEST_F(MonthPage, HasARuleBelowItsTitleItsHeadsAndItsLastRow) {
+    print(Printing::MonthPage(Gregorian));
+    const QImage page = picture();
+    std::vector<int> rules;
+    for (int y = 0; y < page.height(); ++y) {
+        int ink = 0;
+        for (int x = 0; x < page.width(); ++x)
+            ink += qGray(page.pixel(x, y)) < 128;
+        if (ink > page.width() * 3 / 4 && (rules.empty() || y > rules.back() + 20))
+            rules.push_back(y);
+    }
+    ASSERT_EQ(rules.size(), 3U);
+    const auto found = words();
+    const auto inPixels = [](double points) { return points * 300 / 72; };
+    EXPECT_LT(rules[1], inPixels(roomsOf(QStringLiteral("2461346"), found)[0].top()));
+    EXPECT_GT(rules[2], inPixels(roomsOf(QStringLiteral("2461375"), found)[0].bottom()) - 10);
+}
+
 // In a language from right to left the columns stand in that order.
 TEST_F(MonthPage, RunsAsItsLanguageDoes) {
     const auto leftOf = [this](const char* text) { return roomsOf(QLatin1String(text))[0].left(); };

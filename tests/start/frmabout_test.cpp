@@ -111,6 +111,18 @@ TEST_F(About, EverythingLiesInsideTheBox) {
     }
 }
 
+TEST_F(About, NothingLiesOverAnythingElseAndOkStandsInTheMiddle) {
+    load();
+    show();
+    const auto controls = box->findChildren<QWidget*>();
+    for (const QWidget* a : controls) {
+        for (const QWidget* b : controls)
+            EXPECT_FALSE(a != b && a->geometry().intersects(b->geometry()))
+                << a->objectName().toStdString() << ' ' << b->objectName().toStdString();
+    }
+    EXPECT_NEAR(ok()->geometry().center().x(), box->width() / 2, 1);
+}
+
 TEST_F(About, OkUnloads) {
     load();
     show();
