@@ -2,6 +2,7 @@
 // The splash of the start: its colour, its time, and that it is deaf.
 #include "start/splash.h"
 
+#include "shared/settings.h"
 #include "start/splashwatch.h"
 #include "start/start.h"
 #include "support/platform_input.h"
@@ -9,6 +10,7 @@
 #include "support/widget_test.h"
 
 #include <QImage>
+#include <utility>
 
 namespace {
 
@@ -45,6 +47,19 @@ TEST_F(Splash, IsInTheColourOfTheGregorianCalendarBeforeTheMonthlyWindow) {
 TEST_F(Splash, IsInTheColourOfTheCalendarWhoseYearIsShown) {
     start(4);
     EXPECT_EQ(watch.ground, QColor(192, 255, 192));
+}
+
+TEST_F(Splash, HasTheColourOfItsNumberOrElseOfTheGregorianCalendar) {
+    const QColor cyan(192, 255, 255);
+    const std::pair<int, QColor> rows[] = {
+        {-1, cyan}, {1, Qt::white}, {2, cyan}, {3, QColor(255, 255, 192)}, {5, QColor(255, 0, 0)},
+        {6, cyan}};
+    for (const auto& [window, color] : rows) {
+        StartupWindow = window;
+        ::Splash splash;
+        splash.Hide();
+        EXPECT_EQ(watch.ground, color) << window;
+    }
 }
 
 TEST_F(Splash, IsShownForItsWholeTimeAndTakesNoInputMeanwhile) {
