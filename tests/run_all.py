@@ -114,15 +114,18 @@ def formatting():
 
 
 def linting(target, database):
-    """The sources of a target as its tree builds them, several in one: the toolkit's
-    headers take longer than they do."""
-    sources = rf"/{target}\.dir/Unity/"
-    if not re.search(sources, (database / "compile_commands.json").read_text()):
+    """The sources of a target as its tree builds them, most trees several in one: the
+    toolkit's headers take longer than they do."""
+    entries = json.loads((database / "compile_commands.json").read_text())
+    sources = [entry["file"] for entry in entries
+               if f"/{target}.dir/" in entry["command"] and "_autogen/" not in entry["file"]]
+    if not sources:
         return Result(f"clang-tidy of {target}", 0, 1, "The tree has no such target.", 0)
     # The optimised build has options of the compiler that the linter does not know.
     return check(f"clang-tidy of {target}",
                  ["run-clang-tidy", "-quiet", "-j1", "-p", database,
-                  "-extra-arg=-Wno-ignored-optimization-argument", sources])
+                  "-extra-arg=-Wno-ignored-optimization-argument",
+                  f"^({'|'.join(map(re.escape, sources))})$"])
 
 
 def floors():
