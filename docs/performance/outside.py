@@ -47,8 +47,9 @@ def status(pid, name):
 
 
 def wake_ups(pid):
-    return sum(status(f"{pid}/task/{task.name}", "voluntary_ctxt_switches")
-               for task in pathlib.Path(f"/proc/{pid}/task").iterdir())
+    """Of each thread, some of which end."""
+    return {task.name: status(f"{pid}/task/{task.name}", "voluntary_ctxt_switches")
+            for task in pathlib.Path(f"/proc/{pid}/task").iterdir()}
 
 
 class Started:
@@ -82,7 +83,8 @@ class Started:
     def idle_wake_ups(self):
         before = wake_ups(self.process.pid)
         time.sleep(IDLE_SECONDS)
-        return wake_ups(self.process.pid) - before
+        return sum(count - before.get(thread, 0)
+                   for thread, count in wake_ups(self.process.pid).items())
 
     def end(self):
         self.windows.close()
