@@ -91,30 +91,48 @@ What the tests put the program through, and how often, without a wrong state, a 
 """
 
 
-def counts_by_room(changes):
+def counts_by_room(changes, when):
+    """What became of the changes, "first" or as a "result" in the end."""
     counts = collections.defaultdict(collections.Counter)
     for change in changes:
-        counts[change["file"].split("/")[1]][change["result"]] += 1
+        counts[room_of(change["file"])][change[when]] += 1
     return counts
+
+
+def room_of(file):
+    folders = file.split("/")
+    return folders[1] if len(folders) > 2 else "the program itself"
+
+
+def share_noticed(counts):
+    total = sum(counts.values(), collections.Counter())
+    judged = total["noticed"] + total["survived"]
+    return f"{number(total['noticed'])} of {number(judged)}, {percent(total['noticed'], judged)}"
 
 
 def mutations():
     run = read("mutations.json")
     if run is None:
         return ""
-    counts = counts_by_room(run["changes"])
-    total = sum(counts.values(), collections.Counter())
-    judged = total["noticed"] + total["survived"]
-    rows = [(room, counts[room]["noticed"], counts[room]["survived"], counts[room]["equivalent"])
-            for room in counts]
+    population = run["run"]["population"]
+    judged = [change for change in run["changes"] if change["result"] != "does not build"]
+    first = counts_by_room((one for one in judged if one["result"] != "without effect"), "first")
+    now = counts_by_room(judged, "result")
+    kinds = ("noticed", "no end", "without effect", "gone", "survived")
+    rows = [(room, number(population.get(room, population["main.cpp"])), now[room].total(),
+             first[room]["noticed"], *(now[room][kind] for kind in kinds)) for room in now]
     return f"""## Changes that tests must notice
 
-Of all changes of one operator, constant, pair of arguments or statement a sample was drawn with the seed
-{run["run"]["seed"]}. The tests of the changed room, of the rooms above and on several monitors noticed {number(total["noticed"])} of
-{number(judged)} changes, {percent(total["noticed"], judged)}. {total["equivalent"]} more change nothing that
-anybody could see; each has its reason in `tests/mutations/equivalents.json`.
+The sources of all rooms can be changed in {number(sum(population.values()))} ways by one thing: an operator, a constant, a
+pair of arguments, a call or a statement left out, two statements exchanged, a guard without its object, the
+enumerator beside, another signal. The seed {run["run"]["seed"]}, never used before, drew the sample below. Each was built and
+judged by the tests of its room, of the rooms above, on several monitors, by the walk through all windows and on a
+screen; the program's own file by the tests of its start. Of this sample the tests as they were noticed
+{share_noticed(first)}; since then, what lived got its test or is gone: {share_noticed(now)}.
+A change that makes the program run without end is not counted among either. One without effect was built and run like
+all others and noticed by none; its reason is in `tests/mutations/equivalents.json`.
 
-{table(("room", "noticed", "survived", "without effect"), rows)}
+{table(("room", "possible", "judged", "noticed at first", "noticed now", "without end", "without effect", "gone", "survived"), rows)}
 """
 
 

@@ -1,169 +1,223 @@
 # SPDX-License-Identifier: MIT
-"""Changes the program one operator, constant, pair of arguments or statement at a
-time and looks whether a test notices.
+"""Changes the program one thing at a time and looks whether a test notices.
 
-A seeded sample of all changes is judged by the tests of the changed room and of the
-rooms above it. Results are kept as they come; a run that was broken off goes on
-where it stopped, a first one where the published one did, and results of files that
-have changed since are taken again."""
+A seeded sample of all changes is judged by the tests of the changed room, of the
+rooms above it, on several monitors, by a random walk through all windows and on a
+screen. A change that none of them notices has survived, unless equivalents.json gives
+a reason why nobody could. Results are kept as they come: what was found is found
+again only where the changed file, or the tests that noticed, are no longer the same."""
 
 import argparse
 import collections
+import concurrent.futures
 import hashlib
 import json
+import os
 import pathlib
-import random
-import shutil
+import queue
+import threading
 
 from mutants import mutants_of
-from workshop import ROOT, Workshop, rooms_above
+from workshop import ROOT, Workshop, judges_of, rooms
 
-ROOMS = ["calc", "changecals", "controls", "yearcals", "monthly", "moon"]
 HERE = pathlib.Path(__file__).resolve().parent
+PROGRAM = "main.cpp"
 
 
 def digest(text):
     return hashlib.sha256(text.encode()).hexdigest()[:16]
 
 
+def room_of(path):
+    return pathlib.PurePath(path).parent.name if path != f"src/{PROGRAM}" else PROGRAM
+
+
+def changes_of(room):
+    """All changes of a room."""
+    paths = [ROOT / "src" / PROGRAM] if room == PROGRAM else sorted(
+        [*(ROOT / "src" / room).glob("*.cpp"), *(ROOT / "src" / room).glob("*.h")])
+    for path in paths:
+        name, source = path.relative_to(ROOT).as_posix(), path.read_text(encoding="utf-8")
+        alike = {}
+        for mutant in mutants_of(name, source):
+            same = (mutant.kind, mutant.before, mutant.after)
+            alike[same] = alike.get(same, 0) + 1
+            # Where the change stands in its file must not decide which are drawn.
+            mutant.name = digest(f"{name} {same} {alike[same]}")
+            yield mutant
+
+
 class Equivalents:
-    """Changes that change nothing that anybody could see, each with its reason."""
+    """Changes that nobody could see, each with its reason."""
 
     def __init__(self):
-        self._entries = json.loads((HERE / "equivalents.json").read_text())
+        self._reasons = {(entry["file"], entry["before"], entry["after"]): entry["reason"]
+                         for entry in json.loads((HERE / "equivalents.json").read_text())}
 
-    def reason(self, mutant):
-        for entry in self._entries:
-            if (entry["file"], entry["before"], entry["after"]) == \
-                    (mutant.path, mutant.before, mutant.after):
-                return entry["reason"]
-        return None
+    def reason(self, row):
+        return self._reasons.get((row["file"], row["before"], row["after"]))
+
+    def of_no_change(self, changes):
+        """Those whose line has been changed since."""
+        return set(self._reasons) - {(one.path, one.before, one.after) for one in changes}
 
 
 class Results:
-    def __init__(self, path, published):
-        self._path = path
-        former = next((one for one in (path, published) if one.exists()), None)
-        rows = json.loads(former.read_text())["changes"] if former else []
-        self._rows = {row["key"]: row for row in rows}
+    """What was found of the changes that a seed draws, by their names."""
 
-    @staticmethod
-    def key(mutant, source):
-        return digest(f"{mutant.path} {mutant.start} {mutant.end} {mutant.text} {digest(source)}")
+    def __init__(self, path, head):
+        self._path, self._head = path, head
+        self._lock = threading.Lock()
+        kept = json.loads(path.read_text()) if path.exists() else None
+        rows = kept["changes"] if kept and kept["run"]["seed"] == head["seed"] else []
+        self._rows = {row["name"]: row for row in rows}
 
-    def get(self, key):
-        return self._rows.get(key)
+    def get(self, name):
+        return self._rows.get(name)
 
     def keep(self, row):
-        self._rows[row["key"]] = row
+        """A change that was judged before keeps what was found of it at first."""
+        with self._lock:
+            former = self._rows.get(row["name"])
+            row["first"] = former["first"] if former else row["result"]
+            self._rows[row["name"]] = row
+            self._write()
 
-    def write(self, head):
+    def leave_others(self, room, drawn, possible):
+        """Those of a room that are drawn no longer are forgotten; what was found of a
+        line that is gone since stays."""
+        with self._lock:
+            for name, row in list(self._rows.items()):
+                if room_of(row["file"]) == room and name not in drawn:
+                    row["result"] = "gone"
+                    if name in possible:
+                        del self._rows[name]
+            self._write()
+
+    def _write(self):
         rows = sorted(self._rows.values(), key=lambda row: (row["file"], row["line"], row["after"]))
         lines = ",\n".join(json.dumps(row, ensure_ascii=False) for row in rows)
-        self._path.parent.mkdir(parents=True, exist_ok=True)
-        self._path.write_text(f'{{"run": {json.dumps(head)},\n"changes": [\n{lines}\n]}}\n')
-
-    def drop_others(self, room, keys):
-        """Forgets what was found of a room before it changed."""
-        self._rows = {key: row for key, row in self._rows.items()
-                      if key in keys or not row["file"].startswith(f"src/{room}/")}
+        self._path.write_text(f'{{"run": {json.dumps(self._head)},\n"changes": [\n{lines}\n]}}\n')
 
 
-def sources_of(room):
-    folder = ROOT / "src" / room
-    for path in sorted([*folder.glob("*.cpp"), *folder.glob("*.h")]):
-        yield path.relative_to(ROOT).as_posix(), path.read_text(encoding="utf-8")
+class Sample:
+    """The changes of each room in the order in which a seed draws them, and how many
+    of those that build are wanted."""
+
+    def __init__(self, seed, count):
+        self.changes = {room: sorted(changes_of(room), key=lambda one: digest(f"{seed} {one.name}"))
+                        for room in [*rooms(), PROGRAM]}
+        self.population = sum(map(len, self.changes.values()))
+        self.wanted = {room: -(-count * len(changes) // self.population)
+                       for room, changes in self.changes.items()}
+
+
+class Judge:
+    """Judges changes in a workshop of its own."""
+
+    def __init__(self, workshop, results, equivalents):
+        self._workshop, self._results, self._equivalents = workshop, results, equivalents
+
+    def row(self, mutant):
+        """What is found, or was when nothing that decides it has changed since."""
+        source = (ROOT / mutant.path).read_text(encoding="utf-8")
+        row = {"name": mutant.name, "file": mutant.path, "line": mutant.line, "kind": mutant.kind,
+               "before": mutant.before, "after": mutant.after, "source": digest(source)}
+        former = self._results.get(mutant.name)
+        if former and self._is_still_so(former, row["source"]):
+            return former
+        self._workshop.put(mutant.path, mutant.applied_to(source))
+        row |= self._verdict(row)
+        self._workshop.put(mutant.path, source)
+        self._results.keep(row)
+        return row
+
+    def _is_still_so(self, former, source):
+        if former["source"] != source:
+            return False
+        if former["result"] == "does not build":
+            return True
+        return former["result"] in ("noticed", "no end") and \
+            former["tests"] == self._workshop.digest_of_tests(former["judge"])
+
+    def _verdict(self, row):
+        for judge in judges_of(room_of(row["file"])):
+            if not self._workshop.builds(judge):
+                return {"result": "does not build"}
+            failed = self._workshop.first_failure(judge)
+            if failed:
+                return {"result": "no end" if failed == Workshop.NO_END else "noticed", "by": failed,
+                        "judge": judge, "tests": self._workshop.digest_of_tests(judge)}
+        reason = self._equivalents.reason(row)
+        return {"result": "without effect", "reason": reason} if reason else {"result": "survived"}
+
+
+def tell(row):
+    print(f"{row['result']}: {row['file']}:{row['line']} ({row['kind']})", flush=True)
+    if row["result"] in ("survived", "no end"):
+        print(f"  - {row['before']}\n  + {row['after']}", flush=True)
 
 
 class Run:
     def __init__(self, options):
-        self.options = options
-        self.results = Results(options.folder / "results.json", options.output)
-        self.equivalents = Equivalents()
-        self.above = rooms_above()
-        self.rooms = [room for room in options.rooms if room in self.above]
-        self.sources = {room: dict(sources_of(room)) for room in ROOMS if room in self.above}
-        self.workshop = None
-        self.counts = collections.Counter()
+        self._options = options
+        self._sample = Sample(options.seed, options.count)
+        self._results = Results(options.output, self._head())
+        self._equivalents = Equivalents()
+        self._free = queue.Queue()
+        old = self._equivalents.of_no_change(one for room in self._sample.changes.values() for one in room)
+        if old:
+            raise SystemExit(f"equivalents.json speaks of lines that are no more: {sorted(old)}")
 
-    def drawn(self, room):
-        """All changes of a room in the order in which the seed draws them."""
-        changes = [mutant for path, source in self.sources[room].items()
-                   for mutant in mutants_of(path, source)]
-        random.Random(f"{self.options.seed} {room}").shuffle(changes)
-        return changes
+    def _head(self):
+        return {"seed": self._options.seed, "count": self._options.count,
+                "population": {room: len(changes) for room, changes in self._sample.changes.items()}}
 
-    def share(self, room):
-        sizes = {name: len(self.drawn(name)) for name in self.sources}
-        return -(-self.options.count * sizes[room] // sum(sizes.values()))
-
-    def verdict(self, mutant, room):
-        reason = self.equivalents.reason(mutant)
-        if reason:
-            return {"result": "equivalent", "reason": reason}
-        for tested in [room, *self.above[room]]:
-            if not self.workshop.builds(tested):
-                return {"result": "does not build"}
-            failed = self.workshop.first_failure(tested)
-            if failed:
-                return {"result": "noticed", "by": f"{tested}: {failed}"}
-        return {"result": "survived"}
-
-    def judge(self, mutant, room):
-        source = self.sources[room][mutant.path]
-        key = self.results.key(mutant, source)
-        kept = self.results.get(key)
-        if kept and kept["result"] in ("noticed", "does not build"):
-            return kept
-        self.workshop.put(mutant.path, mutant.applied_to(source))
-        verdict = self.verdict(mutant, room)
-        self.workshop.put(mutant.path, source)
-        row = {"key": key, "file": mutant.path, "line": mutant.line, "kind": mutant.kind,
-               "before": mutant.before, "after": mutant.after, **verdict}
-        self.results.keep(row)
+    def _row_of(self, mutant):
+        workshop = self._free.get()
+        try:
+            row = Judge(workshop, self._results, self._equivalents).row(mutant)
+        finally:
+            self._free.put(workshop)
+        tell(row)
         return row
 
-    def judge_room(self, room):
-        wanted, waiting, keys = self.share(room), self.drawn(room), set()
+    def _judge_room(self, room, pool):
+        wanted, waiting, rows = self._sample.wanted[room], self._sample.changes[room], []
         while wanted and waiting:
             batch, waiting = waiting[:wanted], waiting[wanted:]
-            for mutant in sorted(batch, key=lambda one: (one.path, one.start)):
-                row = self.judge(mutant, room)
-                keys.add(row["key"])
-                self.tell(row)
-                wanted -= row["result"] != "does not build"
-        self.results.drop_others(room, keys)
-        self.write()
-
-    def write(self):
-        self.results.write({"seed": self.options.seed, "count": self.options.count})
-
-    def tell(self, row):
-        self.counts[row["result"]] += 1
-        self.write()
-        if row["result"] == "survived":
-            print(f"survived: {row['file']}:{row['line']}\n  - {row['before']}\n  + {row['after']}",
-                  flush=True)
-        elif sum(self.counts.values()) % 20 == 0:
-            print(dict(self.counts), flush=True)
+            # One file after the other, so that few are compiled.
+            batch.sort(key=lambda one: (one.path, one.start))
+            found = list(pool.map(self._row_of, batch))
+            wanted = sum(row["result"] == "does not build" for row in found)
+            rows += found
+        self._results.leave_others(room, {row["name"] for row in rows},
+                                   {one.name for one in self._sample.changes[room]})
+        return rows
 
     def everything(self):
-        self.workshop = Workshop(self.options.folder)
-        tested = [room for room in self.above if any(
-            room == changed or room in self.above[changed] for changed in self.rooms)]
-        self.workshop.measure(tested)
-        for room in self.rooms:
-            self.judge_room(room)
-        shutil.copyfile(self.options.folder / "results.json", self.options.output)
-        print(dict(self.counts))
-        return int(self.counts["survived"] > 0)
+        folders = [self._options.folder / str(i) for i in range(self._options.jobs)]
+        asked = [room for room in self._sample.changes if room in self._options.rooms]
+        with concurrent.futures.ThreadPoolExecutor(len(folders)) as pool:
+            judges = list(dict.fromkeys(judge for room in asked for judge in judges_of(room)))
+            for workshop in pool.map(lambda folder: Workshop(folder, judges), folders):
+                self._free.put(workshop)
+            rows = [row for room in asked for row in self._judge_room(room, pool)]
+        counts = collections.Counter(row["result"] for row in rows)
+        print(dict(counts))
+        untrue = [row for row in rows if row["result"] == "noticed" and self._equivalents.reason(row)]
+        for row in untrue:
+            print(f"{row['file']}:{row['line']} is said to be without effect, and {row['by']} noticed it")
+        return int(counts["survived"] + len(untrue) > 0)
 
 
 def main():
+    everywhere = [*rooms(), PROGRAM]
     parser = argparse.ArgumentParser(description=__doc__.split("\n\n")[0])
-    parser.add_argument("--seed", type=int, default=1582)
-    parser.add_argument("--count", type=int, default=420, help="changes in all rooms together")
-    parser.add_argument("--rooms", nargs="+", default=ROOMS, choices=ROOMS)
+    parser.add_argument("--seed", type=int, default=3141)
+    parser.add_argument("--count", type=int, default=160, help="changes in all rooms together")
+    parser.add_argument("--rooms", nargs="+", default=everywhere, choices=everywhere)
+    parser.add_argument("--jobs", type=int, default=os.cpu_count(), help="changes judged at a time")
     parser.add_argument("--folder", type=pathlib.Path, default=ROOT / "build/mutations")
     parser.add_argument("--output", type=pathlib.Path, help="where the results are published",
                         default=ROOT / "docs/verification/mutations.json")

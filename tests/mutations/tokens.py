@@ -3,6 +3,7 @@
 
 import re
 
+CONTROLS = {"if", "for", "while", "switch", "catch"}
 PATTERN = re.compile(
     r"""
     (?P<directive>^[ \t]*\#(?:[^\n]*\\\n)*[^\n]*)
@@ -42,3 +43,20 @@ def closing(tokens, opening):
             if depth == 0:
                 return i
     return len(tokens) - 1
+
+
+def arguments_of(source, tokens, opening):
+    """Start and end of each argument between the bracket at opening and its own."""
+    end = closing(tokens, opening)
+    found, depth, start = [], 0, opening + 1
+    for i in range(opening + 1, end + 1):
+        text = tokens[i].text
+        if depth == 0 and (text == "," or i == end):
+            if i > start:
+                found.append((tokens[start].start, tokens[i - 1].end))
+            start = i + 1
+        opens_template = text == "<" and not source[tokens[i].end].isspace()
+        closes_template = text == ">" and not source[tokens[i].start - 1].isspace()
+        depth += (text in ("(", "[", "{")) + opens_template
+        depth -= (text in (")", "]", "}")) + closes_template
+    return found
