@@ -36,6 +36,23 @@ protected:
         return {{QAccessible::Focus, &window, QLatin1String(text)}};
     }
 
+    /// Answers the user so often, and gives what was told.
+    static std::vector<QAccessible::Id> answer(int times) {
+        const AccessibleWatch active;
+        static std::vector<QAccessible::Id> told;
+        told.clear();
+        QAccessible::installUpdateHandler([](QAccessibleEvent* event) {
+            if (event->type() == QAccessible::Focus)
+                told.push_back(event->uniqueId());
+        });
+        for (int time = 0; time < times; ++time) {
+            AnswerUser();
+            processEvents();
+        }
+        QAccessible::installUpdateHandler(nullptr);
+        return told;
+    }
+
     TalkingForm window;
     ComboBox* list;
     QPushButton* button;
@@ -87,40 +104,18 @@ TEST_F(Answers, AFocusThatMovesIsAnswerEnough) {
 
 // A tool passes over what has no place, and tells no entry twice.
 TEST_F(Answers, AreAnEntryOfTheWindowEachAnother) {
-    AccessibleWatch watch;
-    QAccessible::installUpdateHandler(nullptr);
-    static std::vector<QAccessibleInterface*> entries;
-    entries.clear();
-    QAccessible::installUpdateHandler([](QAccessibleEvent* event) {
-        if (event->type() == QAccessible::Focus)
-            entries.push_back(event->accessibleInterface());
-    });
-    for (int times = 0; times < 2; ++times) {
-        AnswerUser();
-        processEvents();
-    }
-    ASSERT_EQ(entries.size(), 2U);
-    EXPECT_NE(entries[0], entries[1]);
-    EXPECT_EQ(entries[1]->role(), QAccessible::ListItem);
-    EXPECT_TRUE(entries[1]->state().focused);
-    EXPECT_EQ(entries[1]->parent(), &accessible(window));
-    EXPECT_GE(accessible(window).indexOfChild(entries[1]), 0);
-    QAccessible::installUpdateHandler(nullptr);
+    const auto told = answer(2);
+    ASSERT_EQ(told.size(), 2U);
+    EXPECT_NE(told[0], told[1]);
+    QAccessibleInterface* entry = QAccessible::accessibleInterface(told[1]);
+    EXPECT_EQ(entry->role(), QAccessible::ListItem);
+    EXPECT_TRUE(entry->state().focused);
+    EXPECT_EQ(entry->parent(), &accessible(window));
+    EXPECT_GE(accessible(window).indexOfChild(entry), 0);
 }
 
 TEST_F(Answers, TheLastAndTheOneBeforeAreKept) {
-    AccessibleWatch watch;
-    static std::vector<QAccessible::Id> told;
-    told.clear();
-    QAccessible::installUpdateHandler([](QAccessibleEvent* event) {
-        if (event->type() == QAccessible::Focus)
-            told.push_back(event->uniqueId());
-    });
-    for (int times = 0; times < 4; ++times) {
-        AnswerUser();
-        processEvents();
-    }
-    QAccessible::installUpdateHandler(nullptr);
+    const auto told = answer(4);
     ASSERT_EQ(told.size(), 4U);
     EXPECT_EQ(QAccessible::accessibleInterface(told[0]), nullptr);
     EXPECT_EQ(QAccessible::accessibleInterface(told[1]), nullptr);
