@@ -117,8 +117,8 @@ TEST_F(MonthlyLayout, LargeListsKeepTheirDistanceFromTheLine) {
 TEST_F(MonthlyLayout, CommandsStandBesideTheListsWhereAMarginIsLeftBetweenThem) {
     constexpr int margin = 20;
     bool hadJustThat = false;
-    for (int wide = 8; wide <= 18; ++wide) {
-        for (int others = 0; others < 7 * 3 * 3; ++others) {
+    for (std::size_t wide = 8; wide <= 18; ++wide) {
+        for (std::size_t others = 0; others < 7 * 3 * 3; ++others) {
             WeekDayNames(3) = std::string(wide, 'W') + std::string(others % 7, 'i') +
                               std::string(others / 7 % 3, 't') + std::string(others / 21, 'n');
             window().SetTexts();

@@ -209,7 +209,7 @@ TEST_F(MonthGrids, KeysMoveTheCurrentCellAndChooseIt) {
 }
 
 TEST_F(MonthGrids, CellsSayTheirDateAndTheChosenOneIsSelected) {
-    const auto cell = [this](int day) {
+    const auto cell = [](int day) {
         const QPoint place = cellOfDay(grid(2), day);
         return accessibleCell(grid(2), place.y(), place.x());
     };

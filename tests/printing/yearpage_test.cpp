@@ -25,15 +25,23 @@ std::ostream& operator<<(std::ostream& out, const Cell& cell) {
                << ", week " << cell.week;
 }
 
+constexpr double same = 0.3; // points
+
+/// The first of each group of values that are the same.
+std::vector<double> differentOf(std::vector<double> values) {
+    std::ranges::sort(values);
+    std::vector<double> different;
+    for (std::size_t at = 0; at < values.size(); ++at) {
+        if (at == 0 || values[at] - values[at - 1] > same)
+            different.push_back(values[at]);
+    }
+    return different;
+}
+
 /// The position of a value among those that differ from it.
-int rankOf(double value, const std::vector<double>& values) {
-    constexpr double same = 0.3;
-    std::vector<double> different = values;
-    std::ranges::sort(different);
-    int rank = 0;
-    for (std::size_t at = 1; at < different.size() && different[at] <= value + same; ++at)
-        rank += different[at] - different[at - 1] > same ? 1 : 0;
-    return rank;
+int rankOf(double value, const std::vector<double>& different) {
+    const auto above = std::ranges::upper_bound(different, value + same);
+    return static_cast<int>(above - different.begin()) - 1;
 }
 
 /// The numbers of a year's page that have letters of one size, in their cells.
@@ -90,6 +98,9 @@ private:
             rows.push_back(word.room.top());
             columns[blockOf(word)].push_back(placeOf(word));
         }
+        rows = differentOf(rows);
+        for (std::vector<double>& places : columns)
+            places = differentOf(places);
         std::map<Cell, Word> cells;
         for (const Word& word : words) {
             const int row = rankOf(word.room.top(), rows);

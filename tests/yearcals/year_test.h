@@ -71,19 +71,19 @@ protected:
 
     /// Checks each cell of a filled grid against the state.
     static void expectEveryCellRight(int c) {
+        const auto& cells = static_cast<const GridModel&>(*grid(c).model());
         const int columns = c == Jewish && JewishLeap ? 25 : 19;
         int marked = 0;
         for (int row = 0; row < 32; ++row) {
             for (int column = 0; column < columns; ++column)
-                marked += checkCell(c, {row, column}) ? 1 : 0;
+                marked += checkCell(c, {row, column}, cells.Cell(row, column)) ? 1 : 0;
         }
         ASSERT_EQ(marked, 1) << "marked cells in year " << CurDate(c, Year);
     }
 
 private:
     // Whether the cell is the marked one.
-    static bool checkCell(int c, GridPlace at) {
-        const GridCell& cell = cellAt(c, at.row, at.column);
+    static bool checkCell(int c, GridPlace at, const GridCell& cell) {
         EXPECT_EQ(cell.text, expectedText(c, at)) << at.row << " " << at.column;
         const bool chosen = cell.back == CalendarColors(ChosenDayBackground);
         if (chosen) {
