@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: MIT
 """Fails when a build for another machine does not compute the same picture of the
-moon, with a make_moon of its own as well as with one that it is given."""
+moon with a make_moon of its own, or takes another picture than that of one that it is
+given."""
 
 import pathlib
 import subprocess
@@ -22,9 +23,13 @@ def picture_of_build(*options):
 def main(programs):
     usual = (pathlib.Path(programs) / "Moon.bmp").read_bytes()
     own = picture_of_build()
-    given = picture_of_build(f"-DORVALEN_MAKE_MOON={programs}/make_moon")
-    same = own == usual and given == usual
-    print("the picture is the same" if same else "another picture")
+    with tempfile.TemporaryDirectory() as folder:
+        painter = pathlib.Path(folder) / "make_moon"
+        painter.write_text('#!/bin/sh\nprintf "a moon" > "$1"\n')
+        painter.chmod(0o755)
+        given = picture_of_build(f"-DORVALEN_MAKE_MOON={painter}")
+    same = own == usual and given == b"a moon"
+    print("the pictures are those expected" if same else "another picture")
     sys.exit(0 if same else 1)
 
 
