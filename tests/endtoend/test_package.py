@@ -10,6 +10,7 @@ import shutil
 import subprocess
 import sys
 import tempfile
+import unittest
 
 from picture import SUBSTITUTE_MOON
 from program import EXECUTABLE
@@ -43,7 +44,9 @@ def make_package(built, folder, umask=-1):
     dpkg-buildpackage does it but that nothing is compiled."""
     tree = sources.copy(folder / sources.AWKWARD_NAME)
     rules = ["make", "-C", tree, "-f", "debian/rules"]
-    options = {"umask": umask, "env": {**os.environ, "DEB_RULES_REQUIRES_ROOT": "no"}}
+    architecture = dict(line.split("=", 1) for line in output_of("dpkg-architecture").splitlines())
+    environment = {**os.environ, **architecture, "DEB_RULES_REQUIRES_ROOT": "no"}
+    options = {"umask": umask, "env": environment}
     output_of(*rules, "override_dh_auto_configure", **options)
     build, = tree.glob("obj-*")
     output_of("cmake", "--build", build, "--target", "icons", **options)
@@ -74,12 +77,14 @@ class Root:
                 if path.relative_to(self.folder).parts[0] != "var"}
 
 
+def setUpModule():  # noqa: N802, unittest's own name
+    folder = pathlib.Path(tempfile.mkdtemp(prefix="orvalen-package-"))
+    unittest.addModuleCleanup(shutil.rmtree, folder, ignore_errors=True)
+    PackageTest.package = make_package(EndToEndTest.built, folder)
+
+
 class PackageTest(EndToEndTest):
-    @classmethod
-    def setUpClass(cls):
-        folder = pathlib.Path(tempfile.mkdtemp(prefix="orvalen-package-"))
-        cls.addClassCleanup(shutil.rmtree, folder, ignore_errors=True)
-        cls.package = make_package(cls.built, folder)
+    package = None  # made once for all of them
 
 
 class ThePackage(PackageTest):

@@ -3,7 +3,7 @@
 
 import time
 
-POLL_SECONDS = 0.02
+POLL_SECONDS = 0.05
 USUAL_SECONDS = 10
 
 
