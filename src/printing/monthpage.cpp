@@ -190,6 +190,7 @@ double totalWidth(const std::vector<Place>& places) {
 // The columns share the width of the page.
 Measures measuresOf(const MonthOnPaper& month, const Sheet& sheet, double top) {
     std::vector<Place> places;
+    places.reserve(month.columns.size());
     for (const Column& column : month.columns)
         places.push_back(placeOf(column));
     const auto gaps = static_cast<double>(places.size() - 1);

@@ -1,12 +1,15 @@
 # SPDX-License-Identifier: MIT
 """The commands that compile a built tree, as tools built on clang can take them:
-without the headers that were compiled beforehand, which are GCC's own."""
+without the headers that were compiled beforehand, which only the compiler that
+compiled them can read."""
 
 import json
 import pathlib
 import re
 
-PRECOMPILED = re.compile(r' -Winvalid-pch -include ("[^"]*|\S+)/cmake_pch\.hxx\b"?')
+HEADER = r'("[^"]*|\S+)/cmake_pch\.hxx'
+PRECOMPILED = re.compile(f' -Winvalid-pch( -Xclang -include-pch -Xclang {HEADER}\\.pch"?)?'
+                         f'( -Xclang)? -include( -Xclang)? {HEADER}"?')
 
 
 def commands(tree):

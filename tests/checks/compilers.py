@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-"""Fails when the program does not build without a warning by another compiler, or
-with the flags of a distribution."""
+"""Fails when the tests do not build without a warning by the compiler of the program,
+or the program by the one of the tests or with the flags of a distribution."""
 
 import os
 import subprocess
@@ -17,10 +17,10 @@ def debian(flags):
                           stdout=subprocess.PIPE).stdout.strip()
 
 
-def builds(target, variables):
+def builds(target, variables, *options):
     with tempfile.TemporaryDirectory(prefix="orvalen-compiler-") as folder:
         for command in (["-G", "Ninja", "-S", sources.ROOT, "-B", folder,
-                         "-DCMAKE_COMPILE_WARNING_AS_ERROR=ON"],
+                         "-DCMAKE_COMPILE_WARNING_AS_ERROR=ON", *options],
                         ["--build", folder, "--target", target]):
             if subprocess.run(["cmake", *command], env={**os.environ, **variables},
                               check=False).returncode:
@@ -30,7 +30,8 @@ def builds(target, variables):
 
 def main():
     debians = {"CXXFLAGS": f"{debian('CXXFLAGS')} {debian('CPPFLAGS')}", "LDFLAGS": debian("LDFLAGS")}
-    environments = {"clang": (PROGRAM, {"CXX": "clang++"}), "Debian's flags": (PROGRAM, debians),
+    environments = {"tests by GCC": ("all", {"CXX": "g++"}, "-DORVALEN_TESTS=ON"),
+                    "clang": (PROGRAM, {"CXX": "clang++"}), "Debian's flags": (PROGRAM, debians),
                     # The same hardening at another level and in other words.
                     "another level": ("shared", {"CXXFLAGS": "-O2 -Wp,-D_FORTIFY_SOURCE=3"})}
     faults = [name for name, environment in environments.items() if not builds(*environment)]

@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
-"""Runs the end-to-end tests, or those whose name contains a text:
-python3 run.py <folder of the built program> [text]"""
+"""Runs the end-to-end tests on a desktop of their own."""
 
+import argparse
 import pathlib
 import signal
 import sys
@@ -48,11 +48,13 @@ class Result(unittest.TextTestResult):
             self.stream.writeln(f"no screenshot: {problem}")
 
 
-def load_tests(name):
+def load_tests(name, part, parts):
     folder = str(pathlib.Path(__file__).resolve().parent)
     loader = unittest.TestLoader()
     loader.testNamePatterns = [f"*{name}*"]
-    return loader.discover(folder, "test_*.py", folder)
+    files = sorted(loader.discover(folder, "test_*.py", folder),
+                   key=unittest.TestSuite.countTestCases)
+    return unittest.TestSuite(files[part - 1::parts])
 
 
 def run_tests(tests):
@@ -68,13 +70,17 @@ def run_tests(tests):
             testcase.EndToEndTest.desktop.stop()
 
 
-def main(arguments):
-    built = pathlib.Path(arguments[0]) if len(arguments) in (1, 2) else None
-    if built is None or not (built / program.EXECUTABLE).is_file():
-        print(__doc__, file=sys.stderr)
-        return 2
-    testcase.EndToEndTest.built = built.resolve()
-    result = run_tests(load_tests(arguments[1] if len(arguments) == 2 else ""))
+def main():
+    parser = argparse.ArgumentParser(description=__doc__)
+    parser.add_argument("built", type=pathlib.Path, help="folder of the built program")
+    parser.add_argument("name", nargs="?", default="", help="only tests whose name contains it")
+    parser.add_argument("--part", type=int, nargs=2, default=[1, 1], metavar=("NUMBER", "OF"),
+                        help="only this one of so many parts, which others run beside it")
+    arguments = parser.parse_args()
+    if not (arguments.built / program.EXECUTABLE).is_file():
+        parser.error(f"no program in {arguments.built}")
+    testcase.EndToEndTest.built = arguments.built.resolve()
+    result = run_tests(load_tests(arguments.name, *arguments.part))
     failed, skipped = len(result.failed), len(result.skipped)
     passed = result.testsRun - failed - skipped
     print(f"{passed} passed, {failed} failed, {skipped} skipped", flush=True)
@@ -82,4 +88,4 @@ def main(arguments):
 
 
 if __name__ == "__main__":
-    sys.exit(main(sys.argv[1:]))
+    sys.exit(main())
