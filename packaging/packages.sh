@@ -36,6 +36,6 @@ need_packages() {
 build_preset() {
     local preset=$1
     shift
-    [ "build/$preset/build.ninja" -nt CMakePresets.json ] || cmake --preset "$preset" >/dev/null
+    [ "build/$preset/build.ninja" -nt CMakePresets.json ] || cmake --fresh --preset "$preset" >/dev/null
     cmake --build --preset "$preset" "$@"
 }
