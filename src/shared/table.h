@@ -23,9 +23,11 @@ public:
 
     /// The entries in order, row after row; those not given are T{}.
     constexpr Table(std::initializer_list<T> values) {
-        std::size_t at = 0;
-        for (const T& value : values)
-            m_cells[at++] = value;
+        int at = 0;
+        for (const T& value : values) {
+            (*this)(at / Columns + 1, at % Columns + 1) = value;
+            ++at;
+        }
     }
 
     constexpr T& operator()(int row, int column = 1) {

@@ -42,6 +42,12 @@ TEST_F(TableTest, EntriesNotGivenAreEmpty) {
     EXPECT_EQ(table(2), "");
 }
 
+TEST_F(TableTest, TellsOfMoreEntriesThanItHasAndTakesNone) {
+    const Table<int, 1, 2> table{11, 12, 21};
+    EXPECT_EQ(table, (Table<int, 1, 2>{11, 12}));
+    EXPECT_EQ(reported, (std::vector<Access>{{2, 1}}));
+}
+
 TEST_F(TableTest, ReadsNothingOutsideAndTellsTheIndexAndTheExtent) {
     const Table<int, 2, 3> table{11, 12, 13, 21, 22, 23};
     EXPECT_EQ(table(0, 1), 0);
