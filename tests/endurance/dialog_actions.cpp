@@ -50,19 +50,19 @@ void DialogActions::UseAbout() {
 void DialogActions::chooseVariant() {
     const int type = 1 + m_hand.Below(2);
     pressSpace(QStringLiteral("Option1_%1").arg(type));
-    m_expected.options->moslemType = type;
+    m_expected.options.value().moslemType = type;
 }
 
 void DialogActions::chooseWeekday() {
     const int pane = 1 + m_hand.Below(paneCount);
-    const int c = m_expected.options->calendarOfPane(pane);
-    int position = m_expected.options->firstWeekDay(c) - 1;
+    const int c = m_expected.options.value().calendarOfPane(pane);
+    int position = m_expected.options.value().firstWeekDay(c) - 1;
     moveInList(QStringLiteral("Combo1_%1").arg(pane), daysInWeek, position);
-    m_expected.options->firstWeekDay(c) = position + 1;
+    m_expected.options.value().firstWeekDay(c) = position + 1;
 }
 
 void DialogActions::chooseLanguage() {
-    std::string& language = m_expected.options->language;
+    std::string& language = m_expected.options.value().language;
     const auto* now = std::find(languages.begin(), languages.end(), language);
     int position = static_cast<int>(now - languages.begin());
     moveInList(QStringLiteral("Combo2"), static_cast<int>(languages.size()), position);
@@ -70,12 +70,12 @@ void DialogActions::chooseLanguage() {
 }
 
 void DialogActions::chooseStartup() {
-    moveInList(QStringLiteral("Combo3"), 1 + calendarCount, m_expected.options->startup);
+    moveInList(QStringLiteral("Combo3"), 1 + calendarCount, m_expected.options.value().startup);
 }
 
 void DialogActions::switchTips() {
     pressSpace(QStringLiteral("Check1"));
-    m_expected.options->tips = !m_expected.options->tips;
+    m_expected.options.value().tips = !m_expected.options.value().tips;
 }
 
 void DialogActions::apply() {

@@ -57,11 +57,11 @@ void Expected::OpenOptions() {
 }
 
 void Expected::Apply() {
-    moslemType = options->moslemType;
-    firstWeekDay = options->firstWeekDay;
-    language = options->language;
-    startup = options->startup;
-    tips = options->tips;
+    moslemType = options.value().moslemType;
+    firstWeekDay = options.value().firstWeekDay;
+    language = options.value().language;
+    startup = options.value().startup;
+    tips = options.value().tips;
     options.reset();
     about = false;
 }

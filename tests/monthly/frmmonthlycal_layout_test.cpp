@@ -118,7 +118,7 @@ TEST_F(MonthlyLayout, CommandsStandBesideTheListsWhereAMarginIsLeftBetweenThem) 
     constexpr int margin = 20;
     bool hadJustThat = false;
     for (std::size_t wide = 8; wide <= 18; ++wide) {
-        for (std::size_t others = 0; others < 7 * 3 * 3; ++others) {
+        for (std::size_t others = 0; others < 63U; ++others) {
             WeekDayNames(3) = std::string(wide, 'W') + std::string(others % 7, 'i') +
                               std::string(others / 7 % 3, 't') + std::string(others / 21, 'n');
             window().SetTexts();

@@ -132,7 +132,8 @@ double terminator(const Shadow& shadow) {
 
 TEST(MoonShadow, TheTerminatorMovesSteadilyFromEdgeToEdge) {
     double before = width;
-    for (float age = 0.6F; age < 14.2F; age += 0.1F) {
+    for (int tenths = 6; tenths < 142; ++tenths) {
+        const float age = static_cast<float>(tenths) / 10;
         const Shadow shadow = ShadowOf(age, pictureSide, pictureSide);
         if (shadow.shape != Shadow::Shape::Circle)
             continue;
@@ -144,7 +145,8 @@ TEST(MoonShadow, TheTerminatorMovesSteadilyFromEdgeToEdge) {
 }
 
 TEST(MoonShadow, ThePhasesMirrorEachOther) {
-    for (float days = 8; days < 14; days += 0.5F) {
+    for (int halves = 16; halves < 28; ++halves) {
+        const float days = static_cast<float>(halves) / 2;
         const Shadow waxing = ShadowOf(days, pictureSide, pictureSide);
         const Shadow waning = ShadowOf(4 * quarter - days, pictureSide, pictureSide);
         EXPECT_NEAR(waxing.height, waning.height, 0.1) << days;

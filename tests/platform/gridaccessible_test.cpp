@@ -145,7 +145,7 @@ TEST_F(AccessibleGrid, TheCurrentCellHasTheFocusOfTheGrid) {
 
 TEST_F(AccessibleGrid, PressingACellDoesWhatReturnDoes) {
     show();
-    const QString press = QAccessibleActionInterface::pressAction();
+    const QString& press = QAccessibleActionInterface::pressAction();
     ASSERT_EQ(cell(2, 1).actionInterface()->actionNames().first(), press);
     cell(2, 1).actionInterface()->doAction(press);
     EXPECT_EQ(presses.size(), 1U);

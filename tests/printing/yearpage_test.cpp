@@ -337,7 +337,7 @@ TEST_F(YearPage, NamesItsWeekdaysInEveryBlock) {
         QString order;
         for (std::size_t at = 0; at < 7; ++at)
             order += all[at * 3].text + u' '; // three blocks in a band
-        EXPECT_EQ(order.toStdString(), week.mid((first - 1) * 3, 21).toStdString());
+        EXPECT_EQ(order.toStdString(), week.mid(qsizetype{3} * (first - 1), 21).toStdString());
     }
 }
 

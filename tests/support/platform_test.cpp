@@ -70,7 +70,7 @@ void turnWheel(QWidget& widget, bool up) {
 Desk::Desk() {
     EXPECT_TRUE(m_folder.isValid());
     qputenv("XDG_CONFIG_HOME", QFile::encodeName(m_folder.filePath(QStringLiteral("config"))));
-    const QString program = m_folder.filePath(QStringLiteral("program"));
+    QString program = m_folder.filePath(QStringLiteral("program"));
     EXPECT_TRUE(QDir().mkpath(program));
     ProgramFolder = [program] { return program; };
     EXPECT_TRUE(LoadSettings()); // as a run begins, not as the test before ended
