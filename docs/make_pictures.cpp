@@ -9,7 +9,7 @@
 #include "platform/clock.h"
 #include "printing/print.h"
 #include "shared/calendars.h"
-#include "shared/look.h"
+#include "shared/colors.h"
 #include "start/frmabout.h"
 #include "start/start.h"
 

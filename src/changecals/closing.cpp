@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "changecals/closing.h"
 
-#include "changecals/positions.h"
+#include "changecals/windowpositions.h"
 #include "changecals/windows.h"
 #include "platform/message.h"
 #include "platform/program.h"
@@ -13,6 +13,11 @@ void ChangeCals::CloseWindow(Form& form, int arg) {
         ExitProgram(arg);
     else
         form.Hide();
+}
+
+void ChangeCals::MouseDownOnClose(Qt::MouseButton button) {
+    if (button == Qt::RightButton)
+        ExitProgram();
 }
 
 void ChangeCals::ExitProgram(int) {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
+#include <QtCore/qnamespace.h>
 
 class Form;
 
@@ -11,6 +12,9 @@ namespace ChangeCals {
 /// A close button: hides the window, or ends the program when it is the last one
 /// open. `arg` is handed to ExitProgram, which has no use for it.
 void CloseWindow(Form& form, int arg = 0);
+
+/// A mouse button went down on a close button: the right one ends the program.
+void MouseDownOnClose(Qt::MouseButton button);
 
 /// Saves the six windows' positions and ends the program. A minimised window and
 /// one whose place cannot be known keep the position read at start. A position

@@ -74,11 +74,6 @@ void Commands::Run(Command command) const {
     }
 }
 
-void Commands::MouseDown(Command command, Qt::MouseButton button) const {
-    if (command == Command::Close && button == Qt::RightButton)
-        Run(Command::Exit);
-}
-
 QString Commands::PictureOf(Command command) {
     return QLatin1String(rowOf(command).picture);
 }

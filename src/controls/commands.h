@@ -35,10 +35,6 @@ public:
 
     void Run(Command command) const;
 
-    /// A mouse button went down on the command's button: the right one on Close
-    /// ends the program.
-    void MouseDown(Command command, Qt::MouseButton button) const;
-
     /// The picture of a command's button and the entry of StringTexts that names
     /// it; for the commands that have a button.
     static QString PictureOf(Command command);

@@ -6,7 +6,7 @@
 #include "changecals/changecals.h"
 #include "controls/dayinwords.h"
 #include "platform/text.h"
-#include "shared/look.h"
+#include "shared/colors.h"
 #include "shared/texts.h"
 
 #include <QKeyEvent>

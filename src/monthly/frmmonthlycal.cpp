@@ -2,7 +2,7 @@
 #include "monthly/frmmonthlycal.h"
 
 #include "changecals/closing.h"
-#include "changecals/positions.h"
+#include "changecals/windowpositions.h"
 #include "controls/dayinwords.h"
 #include "controls/emblems.h"
 #include "controls/tips.h"
@@ -14,6 +14,7 @@
 #include "platform/image.h"
 #include "platform/line.h"
 #include "platform/text.h"
+#include "platform/twips.h"
 #include "settings/usersettings.h"
 #include "shared/flags.h"
 #include "shared/mainwindows.h"
@@ -37,6 +38,8 @@ constexpr int closeButton = frmMonthlyCal::commandCount;
 // Of Command1, by its index.
 const Table<Command, frmMonthlyCal::commandCount> commands{
     Command::YearCalendars, Command::Today, Command::Options, Command::About, Command::Close};
+
+const Table<Twips, paneCount> PaneLeft{{300}, {2640}, {4980}, {7320}};
 
 } // namespace
 
@@ -141,16 +144,15 @@ void frmMonthlyCal::createCommands() {
         m_command1(index) = button;
         connect(button, &CommandButton::clicked, this,
                 [this, command] { m_commands.Run(command); });
-        connect(button, &CommandButton::MouseDown, this, [this, command](Qt::MouseButton pressed) {
-            m_commands.MouseDown(command, pressed);
-        });
+        if (command == Command::Close)
+            connect(button, &CommandButton::MouseDown, this, &ChangeCals::MouseDownOnClose);
     }
 }
 
 void frmMonthlyCal::place() {
     int bottom = 0;
     for (int pane = 1; pane <= paneCount; ++pane)
-        bottom = m_panes(pane)->Place(emblemTop + emblemSide + gap);
+        bottom = m_panes(pane)->Place(ToPixels(PaneLeft(pane)), emblemTop + emblemSide + gap);
     const int right = ToPixels(PaneLeft(paneCount)) + Pane::width;
     m_line1->setGeometry(margin, bottom + gap, right - margin, 2 * gap);
     bottom = placeCommon(bottom + 3 * gap, right - margin);

@@ -102,8 +102,7 @@ Pane::Pane(int pane, QWidget* parent)
     connect(m_combo5, &ComboBox::Click, this, &Pane::Combo5_Click);
 }
 
-int Pane::Place(int top) {
-    const int left = ToPixels(PaneLeft(m_pane));
+int Pane::Place(int left, int top) {
     const auto placeNext = [&](ComboBox* combo, const QStringList& names = {}) {
         const int height = combo->HeightFor(names, width);
         combo->setGeometry(left, top, width, height);

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/twips.h"
 #include "shared/settings.h"
 #include "shared/table.h"
 
@@ -9,9 +8,6 @@
 
 class ComboBox;
 class MonthGrid;
-
-/// Left edges of the panes.
-inline const Table<Twips, paneCount> PaneLeft{{300}, {2640}, {4980}, {7320}};
 
 /// One of the four panes: the selectors of one calendar and its month grid. A
 /// list holds only the entry of the chosen day until it is used. What a choice
@@ -23,8 +19,8 @@ class Pane : public QObject {
 public:
     Pane(int pane, QWidget* parent);
 
-    /// Places the pane's controls; returns the y of its lower edge, in pixels.
-    int Place(int top);
+    /// Places the pane's controls; returns the y of its lower edge. In pixels.
+    int Place(int left, int top);
 
     /// Gives each row of lists of the panes one letter size.
     static void ShareLetterSizes(const Table<Pane*, paneCount>& panes);

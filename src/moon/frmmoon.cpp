@@ -3,7 +3,7 @@
 
 #include "calc/state.h"
 #include "changecals/opening.h"
-#include "changecals/positions.h"
+#include "changecals/windowpositions.h"
 #include "controls/tips.h"
 #include "moon/moonfile.h"
 #include "moon/moonpicture.h"

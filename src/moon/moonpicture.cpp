@@ -3,7 +3,7 @@
 
 #include "platform/color.h"
 #include "shared/calendars.h"
-#include "shared/look.h"
+#include "shared/colors.h"
 
 #include <QAccessibleWidget>
 #include <QMouseEvent>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "moon/shadow.h"
+#include "moon/phaseshadow.h"
 #include "platform/twips.h"
 
 #include <QImage>

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "start/frmabout.h"
 
-#include "changecals/positions.h"
+#include "changecals/windowpositions.h"
 #include "platform/color.h"
 #include "platform/image.h"
 #include "platform/line.h"
 #include "platform/message.h"
 #include "platform/text.h"
-#include "shared/look.h"
+#include "shared/colors.h"
 #include "shared/settings.h"
 #include "shared/texts.h"
 

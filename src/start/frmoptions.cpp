@@ -4,7 +4,7 @@
 #include "calc/calc.h"
 #include "changecals/changecals.h"
 #include "changecals/opening.h"
-#include "changecals/positions.h"
+#include "changecals/windowpositions.h"
 #include "changecals/windows.h"
 #include "controls/tips.h"
 #include "platform/combobox.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "start/splash.h"
 
-#include "shared/look.h"
+#include "shared/colors.h"
 #include "shared/settings.h"
 
 #include <QCoreApplication>

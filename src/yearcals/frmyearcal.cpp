@@ -6,7 +6,7 @@
 #include "changecals/changecals.h"
 #include "changecals/closing.h"
 #include "changecals/opening.h"
-#include "changecals/positions.h"
+#include "changecals/windowpositions.h"
 #include "controls/dayinwords.h"
 #include "controls/emblems.h"
 #include "controls/tips.h"
@@ -131,7 +131,7 @@ void frmYearCal::Command1_Click(int index) {
 
 void frmYearCal::Command1_MouseDown(int index, Qt::MouseButton button) {
     if (index == CloseButton)
-        m_commands.MouseDown(Command::Close, button);
+        ChangeCals::MouseDownOnClose(button);
 }
 
 // What a Jewish year asked for while the window was minimised it gets afterwards.

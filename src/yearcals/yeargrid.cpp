@@ -5,7 +5,7 @@
 #include "calc/state.h"
 #include "platform/pointer.h"
 #include "platform/text.h"
-#include "shared/look.h"
+#include "shared/colors.h"
 #include "shared/texts.h"
 
 namespace {

@@ -2,7 +2,7 @@
 #include "changecals/closing.h"
 
 #include "changecals/opening.h"
-#include "changecals/positions.h"
+#include "changecals/windowpositions.h"
 #include "support/recording_windows.h"
 #include "support/widget_test.h"
 
@@ -73,6 +73,15 @@ TEST_F(Closing, CloseButtonOfTheOnlyWindowSavesThePositionsAndEnds) {
     ChangeCals::CloseWindow(ChangeCals::LoadMonthly());
     EXPECT_EQ(m_exitStatus, 0);
     EXPECT_EQ(savedKeys().size(), 2 * mainWindowCount);
+}
+
+TEST_F(Closing, OnlyTheRightMouseButtonOnACloseButtonEnds) {
+    ChangeCals::LoadMonthly().Show();
+    for (const auto button : {Qt::LeftButton, Qt::MiddleButton})
+        ChangeCals::MouseDownOnClose(button);
+    EXPECT_EQ(m_exitStatus, std::nullopt);
+    ChangeCals::MouseDownOnClose(Qt::RightButton);
+    EXPECT_EQ(m_exitStatus, 0);
 }
 
 TEST_F(Closing, CloseButtonHidesWhileAnotherCalendarWindowIsOpen) {

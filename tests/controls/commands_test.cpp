@@ -92,14 +92,4 @@ TEST_F(CommandKeys, CtrlCCopiesTheChosenDay) {
         << copied.toStdString();
 }
 
-TEST_F(CommandKeys, TheRightButtonOnCloseAloneEndsTheProgram) {
-    for (const auto button : {Qt::LeftButton, Qt::MiddleButton})
-        m_commands->MouseDown(Command::Close, button);
-    for (const auto command : {Command::Today, Command::Options, Command::About})
-        m_commands->MouseDown(command, Qt::RightButton);
-    EXPECT_EQ(m_exitStatus, std::nullopt);
-    m_commands->MouseDown(Command::Close, Qt::RightButton);
-    EXPECT_EQ(m_exitStatus, 0);
-}
-
 } // namespace

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "controls/daygrid.h"
 
-#include "shared/look.h"
+#include "shared/colors.h"
 #include "support/recording_windows.h"
 #include "support/widget_test.h"
 

@@ -2,7 +2,7 @@
 // A desktop of two monitors, the primary one standing right of the other and
 // lower: x 1280 to 2304, y 100 to 900, beside x 0 to 1280, y 0 to 1000, which is
 // scaled by 125 %.
-#include "changecals/positions.h"
+#include "changecals/windowpositions.h"
 #include "start/frmabout.h"
 #include "start/frmoptions.h"
 #include "support/recording_windows.h"

@@ -7,7 +7,7 @@
 #include "platform/combobox.h"
 #include "platform/commandbutton.h"
 #include "platform/flexgrid.h"
-#include "shared/look.h"
+#include "shared/colors.h"
 #include "support/recording_windows.h"
 #include "support/widget_test.h"
 

@@ -4,7 +4,7 @@
 #include "platform/color.h"
 #include "platform/numbers.h"
 #include "platform/twips.h"
-#include "shared/look.h"
+#include "shared/colors.h"
 #include "support/widget_test.h"
 
 #include <QFrame>

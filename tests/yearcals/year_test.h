@@ -7,7 +7,7 @@
 #include "platform/commandbutton.h"
 #include "platform/flexgrid.h"
 #include "platform/text.h"
-#include "shared/look.h"
+#include "shared/colors.h"
 #include "support/recording_windows.h"
 #include "support/widget_test.h"
 #include "support/yearsheet.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "changecals/positions.h"
+#include "changecals/windowpositions.h"
 
 #include "changecals/firstplaces.h"
 #include "changecals/windows.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "moon/shadow.h"
+#include "moon/phaseshadow.h"
 
 #include "changecals/moonage.h"
 #include "platform/numbers.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "moon/shadow.h"
+#include "moon/phaseshadow.h"
 
 #include <cmath>
 #include <gtest/gtest.h>
