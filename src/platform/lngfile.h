@@ -13,6 +13,9 @@ public:
     /// Files beyond this size in bytes are not read.
     static constexpr qint64 largestSize = 1 << 20;
 
+    /// Bytes of the longest text, a final NUL included.
+    static constexpr int bufferSize = 255;
+
     enum class Status { Read, Unreadable, TooLarge };
 
     /// Reads a file whole.

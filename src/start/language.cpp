@@ -16,8 +16,6 @@
 
 namespace {
 
-constexpr int bufferSize = 255; // bytes of an entry, a final NUL included
-
 QString suffix() {
     return QStringLiteral(".lng");
 }
@@ -103,7 +101,7 @@ void LoadLanguage(std::string& name) {
 std::string ReadLngString(const LngFile& file, const char* section, int key,
                           const std::string& whenAbsent) {
     const QByteArray bytes =
-        file.GetPrivateProfileString(section, QByteArray::number(key), bufferSize);
+        file.GetPrivateProfileString(section, QByteArray::number(key), LngFile::bufferSize);
     if (bytes.isEmpty())
         return whenAbsent;
     QString text = file.Decode(bytes);
