@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "changecals/windows.h"
 #include "platform/assistive.h"
-#include "platform/highcontrast.h"
+#include "platform/controloutlines.h"
 #include "platform/pictures.h"
 #include "platform/program.h"
 #include "platform/system.h"
@@ -14,7 +14,7 @@ int main(int argc, char* argv[]) {
     QApplication app(argc, argv);
     QApplication::setApplicationName(ProgramTitle());
     InstallAssistiveInterfaces();
-    InstallHighContrast();
+    InstallControlOutlines();
     QApplication::setWindowIcon(Picture(QStringLiteral("icon"))); // of every window
     QApplication::setDesktopFileName(QStringLiteral("orvalen-years-calendar"));
     const int status = Start::Main() ? QApplication::exec() : 1;

@@ -71,7 +71,7 @@ def room_tests(room, options, more_environment=None):
         environment = {
             "QT_QPA_PLATFORM": "offscreen",
             "XDG_RUNTIME_DIR": folder,
-            "ASAN_OPTIONS": "malloc_context_size=8",  # the usual 30 calls take longer to note
+            "ASAN_OPTIONS": "malloc_context_size=2",  # the usual 30 calls take longer to note
             "LSAN_OPTIONS": f"suppressions='{ROOT}/tests/support/lsan.supp':print_suppressions=0",
             "GTEST_OUTPUT": f"json:{report}",
         }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/assistive.h"
-#include "platform/highcontrast.h"
+#include "platform/controloutlines.h"
 #include "platform/pictures.h"
 
 #include <QApplication>
@@ -30,7 +30,7 @@ int main(int argc, char* argv[]) {
     useFontsOfTheTests();
     QApplication app(argc, argv);
     InstallAssistiveInterfaces();
-    InstallHighContrast();
+    InstallControlOutlines();
     QApplication::setWindowIcon(Picture(QStringLiteral("icon")));
     QApplication::setQuitOnLastWindowClosed(false);
     QLocale::setDefault(QLocale::c());

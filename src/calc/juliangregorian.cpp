@@ -29,7 +29,7 @@ int gregorianDays(int year) {
     return isDroppedCentury(year) ? commonYear : julianDays(year);
 }
 
-void setRomanLengths(int c, int yearDays) {
+void setLengths(int c, int yearDays) {
     MonthDays(c, february) = yearDays == leapYear ? 29 : 28;
     YearDays(c, DaysInYear) = yearDays;
 }
@@ -54,7 +54,7 @@ int Calc::JulianJD(int day, int month, int year) {
 
 void Calc::JulianToJD() {
     const int year = CurDate(Julian, Year);
-    setRomanLengths(Julian, julianDays(year));
+    setLengths(Julian, julianDays(year));
     DateToJD(Julian, JulianJD(1, 1, year));
 }
 
@@ -72,13 +72,13 @@ void Calc::JDToJulian() {
         ++year;
 
     CurDate(Julian, Year) = year;
-    setRomanLengths(Julian, julianDays(year));
+    setLengths(Julian, julianDays(year));
     DateFromDayNumber(Julian, JulianJD(1, 1, year), dayNumber);
 }
 
 void Calc::GregorianToJD() {
     const int year = CurDate(Gregorian, Year);
-    setRomanLengths(Gregorian, gregorianDays(year));
+    setLengths(Gregorian, gregorianDays(year));
     DateToJD(Gregorian, JulianJD(1 - gregorianLead(year), 1, year));
 }
 
@@ -94,6 +94,6 @@ void Calc::JulianToGregorian() {
         ++year;
     }
     CurDate(Gregorian, Year) = year;
-    setRomanLengths(Gregorian, gregorianDays(year));
+    setLengths(Gregorian, gregorianDays(year));
     DateFromDayNumber(Gregorian, CurJD - dayNumber + 1, dayNumber);
 }

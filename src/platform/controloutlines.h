@@ -5,4 +5,4 @@
 /// also in a theme that forces black or white windows. Nothing changes in other themes,
 /// nor in styles that do not take outlines from the colour of the window. Called once,
 /// after the application has been made.
-void InstallHighContrast();
+void InstallControlOutlines();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/highcontrast.h"
+#include "platform/controloutlines.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -61,6 +61,6 @@ private:
 
 } // namespace
 
-void InstallHighContrast() {
+void InstallControlOutlines() {
     qApp->installEventFilter(new Outlines(qApp));
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // A control is seen in a theme that forces black or white windows when a line across
 // its edge meets a colour that stands out from the window.
-#include "platform/highcontrast.h"
+#include "platform/controloutlines.h"
 
 #include "platform/combobox.h"
 #include "platform/commandbutton.h"
