@@ -53,15 +53,6 @@ void ChangeCals::PlaceForm(Form& form, MainWindowNumber window) {
     form.Move(place.left, place.top);
 }
 
-void ChangeCals::PlaceDialog(Form& dialog) {
-    const QRect screen = QGuiApplication::primaryScreen()->geometry();
-    const auto between = [](int start, int room, double parts) {
-        return Twips{CLng(ToTwips(start).count + ToTwips(room).count / parts).value_or(0)};
-    };
-    dialog.Move(between(screen.x(), screen.width() - dialog.width(), 2),
-                between(screen.y(), screen.height() - dialog.height(), 3));
-}
-
 const MainWindow* ChangeCals::ReadPositions() {
     if (!HasWindowPositions())
         return nullptr;

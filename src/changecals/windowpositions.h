@@ -7,8 +7,8 @@
 class Form;
 class MainWindow;
 
-/// Where the windows stand: the main ones are placed as they are loaded and read
-/// back to be stored at the end, the dialogs have a fixed place.
+/// Where the main windows stand: they are placed as they are loaded and read back to be
+/// stored at the end.
 namespace ChangeCals {
 
 /// Of a window's frame on the desktop.
@@ -24,10 +24,6 @@ Position PlaceOf(MainWindowNumber window);
 
 /// Puts a window that is being loaded there.
 void PlaceForm(Form& form, MainWindowNumber window);
-
-/// Puts a dialog, or the splash, in the middle of the primary monitor's width and
-/// at a third of the height that it leaves free.
-void PlaceDialog(Form& dialog);
 
 /// Reads where the six windows stand into FormTop and FormLeft. A minimised
 /// window and one whose place cannot be known keep the position read at start.

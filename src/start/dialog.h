@@ -7,7 +7,7 @@
 #include <QStyle>
 
 /// A small window over the others: the options and the about box. Modeless;
-/// Return accepts it, Esc closes it.
+/// Return accepts it, Esc closes it. It has a fixed place.
 class Dialog : public Form {
     Q_OBJECT
 
@@ -15,6 +15,10 @@ public:
     explicit Dialog(const QString& name);
 
 protected:
+    /// Puts it in the middle of the primary monitor's width and at a third of the height
+    /// that it leaves free.
+    void Place();
+
     /// A measure of the style in use, in pixels.
     int Metric(QStyle::PixelMetric which) const;
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "start/frmabout.h"
 
-#include "changecals/windowpositions.h"
 #include "platform/color.h"
 #include "platform/image.h"
 #include "platform/line.h"
@@ -78,7 +77,7 @@ void frmAbout::Form_Load() {
     placeControls();
     if (ShowTips != 0)
         m_cmdOK->setToolTip(PlainTip(Text(StringTexts(CloseText))));
-    ChangeCals::PlaceDialog(*this);
+    Place();
 }
 
 void frmAbout::createControls() {

@@ -4,7 +4,6 @@
 #include "calc/calc.h"
 #include "changecals/changecals.h"
 #include "changecals/opening.h"
-#include "changecals/windowpositions.h"
 #include "changecals/windows.h"
 #include "controls/tips.h"
 #include "platform/combobox.h"
@@ -106,7 +105,7 @@ void frmOptions::Form_Load() {
     rows->addLayout(commands);
     scrollWhereTooHigh(frames, *rows);
     adjustSize();
-    ChangeCals::PlaceDialog(*this);
+    Place();
 }
 
 // A scroll bar where the dialog would be higher than the screen, so that the buttons stay

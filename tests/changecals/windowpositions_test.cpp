@@ -55,15 +55,6 @@ TEST_F(PositionsOfWindows, AreReadBackFromTheWindows) {
     EXPECT_EQ(FormTop(MoonWindowNumber), -300);
 }
 
-TEST_F(PositionsOfWindows, ADialogIsInTheMiddleAndAThirdDown) {
-    ASSERT_EQ(QGuiApplication::primaryScreen()->geometry(), QRect(0, 0, 800, 800));
-    Form dialog(QStringLiteral("frmTest"));
-    dialog.resize(301, 200);
-    ChangeCals::PlaceDialog(dialog);
-    EXPECT_EQ(dialog.pos(), QPoint(249, 200));
-    EXPECT_EQ(dialog.Top(), Twips{3000});
-}
-
 TEST_F(PositionsOfWindows, AreLeftAsTheyWereStoredWhereTheDesktopDoesNotTellThem) {
     HasWindowPositions = [] { return false; };
     ChangeCals::LoadYear(Moslem).move(2185, 10);
