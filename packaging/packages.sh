@@ -5,10 +5,10 @@
 build_packages=(cmake ninja-build g++ qt6-base-dev qt6-svg-dev librsvg2-bin)
 run_packages=(libqt6widgets6 libqt6svg6 libqt6printsupport6 fonts-dejavu-core)
 screen_packages=(xvfb openbox xdotool x11-utils xclip imagemagick libfaketime)
-test_packages=(adwaita-qt6 fonts-noto-core libgtest-dev libbenchmark-dev libicu-dev qt6-base-private-dev clang-format
-    clang-tidy-22 clang-tools lld iwyu python3 python3-gi git appstream desktop-file-utils man-db lintian fakeroot
-    dpkg-dev debhelper file clang autopkgtest at-spi2-core dbus-daemon gir1.2-atspi-2.0
-    poppler-utils weston xwayland qt6-wayland orca python3-pyatspi)
+test_packages=(adwaita-qt6 fonts-noto-core libgtest-dev libbenchmark-dev libicu-dev qt6-base-private-dev
+    clang-22 libclang-rt-22-dev lld-22 clang-tidy-22 clang-format iwyu python3 python3-gi git appstream
+    desktop-file-utils man-db lintian fakeroot dpkg-dev debhelper file autopkgtest at-spi2-core
+    dbus-daemon gir1.2-atspi-2.0 poppler-utils weston xwayland qt6-wayland orca python3-pyatspi)
 windows_packages=(g++-mingw-w64-x86-64-posix dpkg-dev python3 git) # for packaging/windows
 
 is_installed() {

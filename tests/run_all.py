@@ -130,12 +130,10 @@ def linting(target, database, *options):
                if f"/{target}.dir/" in entry["command"] and "_autogen/" not in entry["file"]]
     if not sources:
         return Result(f"clang-tidy of {target}", 0, 1, "The tree has no such target.", 0)
-    # The optimised build has options of the compiler that the linter does not know, and
-    # the library's own sorting calls what newer compilers find deprecated.
+    # The optimised build has options of the compiler that the linter does not know.
     return check(f"clang-tidy of {target}",
                  ["run-clang-tidy-22", "-quiet", "-j1", "-p", database, *options,
                   "-extra-arg=-Wno-ignored-optimization-argument",
-                  "-extra-arg=-Wno-deprecated-declarations",
                   f"^({'|'.join(map(re.escape, sources))})$"])
 
 

@@ -7,7 +7,7 @@
 #include "platform/text.h"
 #include "shared/settings.h"
 
-#include <algorithm>
+#include <map>
 #include <set>
 
 namespace {
@@ -57,10 +57,13 @@ QString asText(const int* value) {
     return QString::number(*value);
 }
 
-std::vector<Setting> rowsOf(SettingGroup group) {
-    std::vector<Setting> rows = Settings();
-    std::erase_if(rows, [group](const Setting& row) { return row.group != group; });
-    std::ranges::stable_sort(rows, {}, &Setting::turn);
+// By their turns; those of the same turn are saved as they are read.
+std::multimap<int, Setting> rowsOf(SettingGroup group) {
+    std::multimap<int, Setting> rows;
+    for (const Setting& row : Settings()) {
+        if (row.group == group)
+            rows.emplace(row.turn, row);
+    }
     return rows;
 }
 
@@ -79,7 +82,7 @@ bool ReadSettings() {
 }
 
 void SaveSettings(SettingGroup group) {
-    for (const Setting& row : rowsOf(group))
+    for (const auto& [turn, row] : rowsOf(group))
         SaveSetting(row.section, row.key,
                     std::visit([](auto* value) { return asText(value); }, row.value));
     if (FlushSettings() || failureIsTold)

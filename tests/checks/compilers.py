@@ -31,7 +31,7 @@ def builds(target, variables, *options):
 def main():
     debians = {"CXXFLAGS": f"{debian('CXXFLAGS')} {debian('CPPFLAGS')}", "LDFLAGS": debian("LDFLAGS")}
     environments = {"tests by GCC": ("all", {"CXX": "g++"}, "-DORVALEN_TESTS=ON"),
-                    "clang": (PROGRAM, {"CXX": "clang++"}), "Debian's flags": (PROGRAM, debians),
+                    "clang": (PROGRAM, {"CXX": "clang++-22"}), "Debian's flags": (PROGRAM, debians),
                     # The same hardening at another level and in other words.
                     "another level": ("shared", {"CXXFLAGS": "-O2 -Wp,-D_FORTIFY_SOURCE=3"})}
     faults = [name for name, environment in environments.items() if not builds(*environment)]

@@ -237,7 +237,7 @@ protected:
         std::erase_if(words, [&](const Word& word) {
             return !place.contains(word.room.center()) || word.text == QStringLiteral("·");
         });
-        std::ranges::stable_sort(words, {}, [](const Word& word) {
+        std::ranges::sort(words, {}, [](const Word& word) {
             return std::pair(qRound(word.room.bottom()), word.room.left());
         });
         QStringList texts;
@@ -332,7 +332,8 @@ TEST_F(YearPage, NamesItsWeekdaysInEveryBlock) {
         print(Printing::YearPage(Jewish));
         auto all = words();
         std::erase_if(all, [&week](const Word& word) { return !week.contains(word.text + u' '); });
-        std::ranges::stable_sort(all, {}, [](const Word& word) { return word.room.top(); });
+        std::ranges::sort(
+            all, {}, [](const Word& word) { return std::pair(word.room.top(), word.room.left()); });
         ASSERT_EQ(all.size(), 13U * 7);
         QString order;
         for (std::size_t at = 0; at < 7; ++at)
