@@ -6,6 +6,7 @@
 #include "platform/combobox.h"
 #include "platform/flexgrid.h"
 #include "platform/form.h"
+#include "support/platform_input.h"
 #include "support/platform_test.h"
 
 #include <QAbstractItemView>
@@ -45,6 +46,7 @@ void Hand::Activate(Form& window) {
     if (window.isActiveWindow())
         return;
     window.activateWindow();
+    takeNewsOfWindows(); // enough on the desktop of the tests, but not on a screen
     EXPECT_TRUE(waitUntil([&window] { return window.isActiveWindow(); }));
 }
 

@@ -13,3 +13,7 @@ void goToAnotherProgram() {
     using Now = QWindowSystemInterface::SynchronousDelivery;
     QWindowSystemInterface::handleWindowActivated<Now>(nullptr);
 }
+
+void takeNewsOfWindows() {
+    QWindowSystemInterface::flushWindowSystemEvents();
+}

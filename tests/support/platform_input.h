@@ -9,3 +9,6 @@ void queueKey(QWindow& window, Qt::Key key);
 
 /// The user turns to another program: no window of ours has the keyboard.
 void goToAnotherProgram();
+
+/// Takes what the desktop has told of windows, without painting any.
+void takeNewsOfWindows();
