@@ -105,6 +105,10 @@ class Desktop:
     def xdotool(self, *arguments):
         self.run("xdotool", *[str(argument) for argument in arguments])
 
+    def copied_text(self):
+        """What a program has copied, "" while nobody has or the text is not to be had yet."""
+        return self.run("xclip", "-out", "-selection", "clipboard", check=False)
+
     def run(self, *command, check=True):
         """The output of a tool run on this desktop."""
         done = subprocess.run(command, env=self.environment(), text=True, capture_output=True,

@@ -29,8 +29,8 @@ class OnPaper(EndToEndTest):
         self._press_until_gone("Escape")
         monthly.wait_until_in_front()
         monthly.press_key("ctrl+c")
-        wait_until(self._copied, "the day is copied")
-        self.assertIn(today, self._copied())
+        wait_until(lambda: today in self.desktop.copied_text(), "the day is copied",
+                   found=self.desktop.copied_text)
         self.assertEqual(self._pages(), [])
         monthly.press_key("ctrl+q")
         self.assert_ends_well()
@@ -69,9 +69,6 @@ class OnPaper(EndToEndTest):
     def _wait_for_pages(self):
         wait_until(self._pages, "a page is printed", found=self.program.describe_windows)
         return self._pages()
-
-    def _copied(self):
-        return self.desktop.run("xclip", "-out", "-selection", "clipboard")
 
     @staticmethod
     def _text_of(page):

@@ -55,7 +55,7 @@ class WaylandDesktop(Desktop):
 
     def copied_text(self):
         """What a program has copied, as X clients are told."""
-        return self._clients.run("xclip", "-out", "-selection", "clipboard", check=False)
+        return self._clients.copied_text()
 
     def _start_window_manager(self):
         self._runtime_folder().mkdir(mode=0o700)
