@@ -87,6 +87,7 @@ class Workshop:
     def _configure(self):
         subprocess.run(
             ["cmake", "-G", "Ninja", "-S", self._tree, "-B", self._build, "-DCMAKE_BUILD_TYPE=Debug",
+             "-DCMAKE_CXX_COMPILER=clang++-22", "-DCMAKE_EXE_LINKER_FLAGS=-fuse-ld=lld-22",
              "-DCMAKE_CXX_FLAGS_DEBUG=-O1 -w", "-DCMAKE_UNITY_BUILD=ON", "-DORVALEN_TESTS=ON"],
             check=True, stdout=subprocess.DEVNULL)
 
