@@ -184,4 +184,16 @@ TEST_F(Combo, ItsWidthIsTakenFromTheFont) {
     }
 }
 
+TEST_F(Combo, AListDropsDownAsWideAsItsEntries) {
+    const QString wide(40, u'W');
+    list->SetItems({QStringLiteral("one"), wide}, 0);
+    show();
+    focusList();
+    list->showPopup();
+    ASSERT_TRUE(waitUntil([this] { return isOpen(); }));
+    processEvents();
+    EXPECT_GE(list->view()->viewport()->width(),
+              QFontMetrics(list->view()->font()).horizontalAdvance(wide));
+}
+
 } // namespace

@@ -183,4 +183,18 @@ TEST_F(Combo, TheFocusGivenBackByTheListIsNoArrival) {
     EXPECT_EQ(fillings, 0);
 }
 
+TEST_F(Combo, ThePointerIsAnHourglassWhileAListIsFilled) {
+    Qt::CursorShape shape = Qt::BlankCursor;
+    list->SetOnlyItem(QStringLiteral("2026"));
+    list->SetFiller([&shape] {
+        if (const QCursor* pointer = QGuiApplication::overrideCursor())
+            shape = pointer->shape();
+        return NumberedEntries(1, 3000, 2026);
+    });
+    show();
+    focusList();
+    EXPECT_EQ(shape, Qt::WaitCursor);
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+}
+
 } // namespace

@@ -60,8 +60,13 @@ TEST_F(AccessibleCombo, ItsTextIsTheChosenEntry) {
 
 TEST_F(AccessibleCombo, ItsActionsOpenAndCloseTheList) {
     show();
+    EXPECT_TRUE(accessible(*list).state().hasPopup);
+    EXPECT_TRUE(accessible(*list).state().expandable);
     EXPECT_TRUE(accessible(*list).state().collapsed);
     EXPECT_EQ(accessible(*list).childCount(), 0);
+    QAccessibleActionInterface* actions = accessible(*list).actionInterface();
+    EXPECT_EQ(actions->keyBindingsForAction(showMenu), QStringList{QStringLiteral("Alt+Down")});
+    EXPECT_EQ(actions->keyBindingsForAction(press), QStringList());
     for (const QString& action : {press, showMenu}) {
         ASSERT_TRUE(accessible(*list).actionInterface()->actionNames().contains(action));
         act(action);

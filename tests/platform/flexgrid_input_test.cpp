@@ -175,4 +175,18 @@ TEST_F(FlexGrid, DraggingSelectsNothing) {
     EXPECT_EQ(presses.size(), 1U);
 }
 
+TEST_F(FlexGrid, TheCurrentCellStaysWhileTheUserIsInAnotherWindow) {
+    grid->SetSelectedCell({2, 3});
+    show();
+    pressAt(middleOf(5, 4));
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    ASSERT_TRUE(waitUntil([this] { return grid->hasFocus(); }));
+    EXPECT_EQ(at(), QPoint(4, 5));
+}
+
 } // namespace

@@ -88,6 +88,7 @@ TEST_F(AccessibleGrid, ACellHasANameAndNoOtherText) {
     ASSERT_NE(cell(1, 0).text(QAccessible::Name), QString());
     for (const auto kind : {QAccessible::Description, QAccessible::Value, QAccessible::Help})
         EXPECT_EQ(cell(1, 0).text(kind), QString()) << kind;
+    EXPECT_EQ(cell(1, 0).childCount(), 0);
 }
 
 TEST_F(AccessibleGrid, IsAListOfTheCellsThatSaySomething) {
@@ -130,6 +131,8 @@ TEST_F(AccessibleGrid, TheMarkedCellIsSelected) {
     mark(*grid, 3, 0);
     EXPECT_FALSE(state(2, 1).selected);
     EXPECT_TRUE(state(3, 0).selected);
+    EXPECT_TRUE(state(2, 1).selectable);
+    EXPECT_TRUE(state(2, 1).focusable);
 }
 
 TEST_F(AccessibleGrid, TheCurrentCellHasTheFocusOfTheGrid) {
@@ -147,6 +150,11 @@ TEST_F(AccessibleGrid, PressingACellDoesWhatReturnDoes) {
     show();
     const QString& press = QAccessibleActionInterface::pressAction();
     ASSERT_EQ(cell(2, 1).actionInterface()->actionNames().first(), press);
+    EXPECT_EQ(cell(2, 1).actionInterface()->keyBindingsForAction(press),
+              QStringList{QStringLiteral("Return")});
+    EXPECT_EQ(cell(2, 1).actionInterface()->keyBindingsForAction(
+                  QAccessibleActionInterface::setFocusAction()),
+              QStringList());
     cell(2, 1).actionInterface()->doAction(press);
     EXPECT_EQ(presses.size(), 1U);
     EXPECT_EQ(presses.at(0), std::pair(QPoint(1, 2), Qt::LeftButton));

@@ -2,6 +2,7 @@
 // Digits stand in columns: the tens below the tens, the units below the units.
 #include "platform/flexgrid.h"
 #include "platform/twips.h"
+#include "support/ink.h"
 #include "support/platform_test.h"
 
 namespace {
@@ -48,5 +49,10 @@ TEST_P(DigitColumns, AreTheSameWhateverTheOtherDigit) {
 }
 
 INSTANTIATE_TEST_SUITE_P(AtPixels, DigitColumns, testing::Values(10, 11));
+
+TEST_P(DigitColumns, ASingleDigitStandsBelowTheSecondOfLargerNumbers) {
+    for (int digit = 1; digit < 10; ++digit)
+        EXPECT_NEAR(InkOf(drawn(digit)).right(), InkOf(drawn(10 + digit)).right(), 1) << digit;
+}
 
 } // namespace

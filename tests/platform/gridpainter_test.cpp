@@ -198,8 +198,10 @@ TEST_F(GridLook, TextsOfADisabledGridFadeToHalfAndTheGroundStays) {
     grid->SetTextMatrix(0, 0, QStringLiteral("l")); // some pixels wide
     grid->SetCellFontBold(true);
     EXPECT_EQ(darkest(picture(), 0, 0), ToColor(navy));
+    mark(1, 1);
     grid->setEnabled(false);
     const QImage faded = picture();
+    EXPECT_EQ(faded.pixelColor(1 + cellSide + 5, 1 + cellSide + 5), ToColor(red));
     const QColor ink = darkest(faded, 0, 0);
     EXPECT_NEAR(ink.red(), (0 + 192) / 2.0, 2);
     EXPECT_NEAR(ink.green(), (0 + 255) / 2.0, 2);

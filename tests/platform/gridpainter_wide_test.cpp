@@ -96,4 +96,8 @@ TEST_F(WideTexts, HaveTheRoomOfAllCellsThatAreMerged) {
     EXPECT_GT(inkOf(QString(60, u'W')).width(), columnWidth);
 }
 
+TEST_F(WideTexts, ThatLookLikeRichTextAreShownAsTheyStand) {
+    EXPECT_FALSE(inkOf(QStringLiteral("<b></b>")).isEmpty());
+}
+
 } // namespace

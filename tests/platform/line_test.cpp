@@ -34,6 +34,8 @@ TEST_F(Lines, ReachFromEndToEnd) {
     const QImage drawn = lineOn(Qt::white, Qt::black);
     EXPECT_EQ(drawn.pixelColor(0, 4), drawn.pixelColor(10, 4));
     EXPECT_EQ(drawn.pixelColor(19, 4), drawn.pixelColor(10, 4));
+    EXPECT_NEAR(drawn.pixelColor(10, 4).red(), 127.5, 2) << "half as strong as the text";
+    EXPECT_EQ(drawn.pixelColor(10, 5), QColor(Qt::white)) << "one pixel high";
 }
 
 } // namespace

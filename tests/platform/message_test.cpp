@@ -3,6 +3,7 @@
 
 #include "platform/form.h"
 #include "platform/pictures.h"
+#include "platform/pointer.h"
 #include "support/messageshown.h"
 #include "support/platform_test.h"
 
@@ -119,6 +120,17 @@ TEST_F(MessageOwners, WithNoWindowInFrontItBelongsToNone) {
     const MessageShown watch([&](const QMessageBox& box) { owners.push_back(box.parentWidget()); });
     MsgBox(QStringLiteral("text"));
     EXPECT_EQ(owners, std::vector<const QWidget*>{nullptr});
+    EXPECT_EQ(m_messages.take().size(), 1);
+}
+
+TEST_F(Messages, AreShownWithTheUsualPointerAlsoAmidWork) {
+    const PointerShape work(Qt::WaitCursor);
+    Qt::CursorShape shape = Qt::BlankCursor;
+    const MessageShown watch(
+        [&shape](QMessageBox&) { shape = QGuiApplication::overrideCursor()->shape(); });
+    MsgBox(QStringLiteral("text"));
+    EXPECT_EQ(shape, Qt::ArrowCursor);
+    EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::WaitCursor);
     EXPECT_EQ(m_messages.take().size(), 1);
 }
 

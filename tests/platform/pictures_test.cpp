@@ -103,4 +103,18 @@ TEST_F(Pictures, AllThatAreCompiledInCanBeDrawn) {
     EXPECT_GE(ours, 22);
 }
 
+TEST_F(Pictures, OnDarkButtonsArePalerAndTheirGroundIsNot) {
+    const QPalette former = QApplication::palette();
+    QPalette colors = former;
+    colors.setColor(QPalette::Button, Qt::black);
+    colors.setColor(QPalette::Base, Qt::white);
+    QApplication::setPalette(colors);
+    const QImage plain = imageOf(Picture(name).pixmap(QSize(48, 48)));
+    const QImage pale = imageOf(ButtonPicture(name).pixmap(QSize(48, 48)));
+    QApplication::setPalette(former);
+    EXPECT_GT(qGray(pale.pixel(24, 24)), qGray(plain.pixel(24, 24)));
+    EXPECT_EQ(qAlpha(pale.pixel(24, 24)), 255);
+    EXPECT_EQ(qAlpha(pale.pixel(0, 0)), 0) << "beside the drawing";
+}
+
 } // namespace

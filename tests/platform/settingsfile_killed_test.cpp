@@ -58,7 +58,7 @@ protected:
         QFile lock(settingsPath() + QStringLiteral(".lock"));
         if (lock.exists() && lock.size() == 0) {
             ASSERT_TRUE(lock.open(QIODevice::ReadWrite));
-            ASSERT_TRUE(lock.setFileTime(QDateTime::currentDateTimeUtc().addSecs(-60),
+            ASSERT_TRUE(lock.setFileTime(QDateTime::currentDateTimeUtc().addSecs(-10),
                                          QFileDevice::FileModificationTime));
         }
     }

@@ -212,6 +212,8 @@ TEST_F(SettingsOnDisk, ForeignFormsAreRead) {
     EXPECT_EQ(get("Window"), QStringLiteral("3"));
     EXPECT_EQ(get("ShowTips"), QStringLiteral("1"));
     EXPECT_TRUE(get("Language").startsWith(QStringLiteral("unclosed")));
+    load("[Startup]\nLanguage=\\x41\\x2f\\x44F-\n");
+    EXPECT_EQ(get("Language"), QString::fromUtf8("A/я-"));
 }
 
 TEST_F(SettingsOnDisk, WhatAnotherProgramSavedMeanwhileIsKept) {
@@ -287,7 +289,8 @@ TEST_F(SettingsOnDisk, FoldersThatAreMissingAreMadeForTheUserAlone) {
 TEST_F(SettingsOnDisk, TheFileKeepsItsPermissionsAndItsLink) {
     const QString linked = m_folder.filePath(QStringLiteral("elsewhere"));
     writeFile(linked, "[Startup]\nWindow=1\n");
-    ASSERT_TRUE(QFile::setPermissions(linked, QFile::ReadOwner | QFile::WriteOwner));
+    ASSERT_TRUE(
+        QFile::setPermissions(linked, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup));
     ASSERT_TRUE(QDir().mkpath(QFileInfo(settingsPath()).path()));
     ASSERT_TRUE(QFile::link(linked, settingsPath()));
     ASSERT_TRUE(LoadSettings());
@@ -297,7 +300,7 @@ TEST_F(SettingsOnDisk, TheFileKeepsItsPermissionsAndItsLink) {
     EXPECT_EQ(readFile(linked), "[Startup]\nWindow=2\n");
     struct stat found = {};
     ASSERT_EQ(stat(QFile::encodeName(linked), &found), 0);
-    EXPECT_EQ(found.st_mode & 07777U, 0600U);
+    EXPECT_EQ(found.st_mode & 07777U, 0640U);
 }
 
 TEST_F(SettingsOnDisk, AFolderThatCannotBeEnteredIsTold) {
@@ -391,6 +394,22 @@ TEST_F(SettingsOnDisk, LockFilesOfKilledProgramsHoldNobody) {
     watch.start();
     EXPECT_TRUE(FlushSettings());
     EXPECT_LT(watch.elapsed(), 1000);
+}
+
+TEST_F(SettingsOnDisk, WhatHasBeenWrittenIsNotWrittenAgain) {
+    save("Window", "2");
+    ASSERT_TRUE(FlushSettings());
+    writeFile(settingsPath(), "[Startup]\nWindow=5\n");
+    save("ShowTips", "0");
+    EXPECT_TRUE(FlushSettings());
+    EXPECT_EQ(readFile(settingsPath()), "[Startup]\nWindow=5\nShowTips=0\n");
+}
+
+TEST_F(SettingsOnDisk, AnEmptySectionAtTheBeginningIsFilled) {
+    load("[Startup]\n");
+    save("Window", "2");
+    EXPECT_TRUE(FlushSettings());
+    EXPECT_EQ(readFile(settingsPath()), "[Startup]\nWindow=2\n");
 }
 
 } // namespace

@@ -109,7 +109,9 @@ TEST_F(Answers, AreAnEntryOfTheWindowEachAnother) {
     EXPECT_NE(told[0], told[1]);
     QAccessibleInterface* entry = QAccessible::accessibleInterface(told[1]);
     EXPECT_EQ(entry->role(), QAccessible::ListItem);
+    EXPECT_TRUE(entry->state().focusable);
     EXPECT_TRUE(entry->state().focused);
+    EXPECT_EQ(entry->childCount(), 0);
     EXPECT_EQ(entry->parent(), &accessible(window));
     EXPECT_GE(accessible(window).indexOfChild(entry), 0);
 }

@@ -143,4 +143,52 @@ TEST(CodePage, AnUnknownCodePageIsTheSystems) {
     EXPECT_EQ(FromCodePage("", 1251), QString());
 }
 
+/// A variable of the environment, which is as before when it goes.
+class Variable {
+public:
+    explicit Variable(const char* name) : m_name(name), m_former(qgetenv(name)) {}
+    ~Variable() { Set(m_former); }
+    Variable(const Variable&) = delete;
+    Variable& operator=(const Variable&) = delete;
+
+    /// A null text is none.
+    void Set(const QByteArray& value) const {
+        if (value.isNull())
+            qunsetenv(m_name);
+        else
+            qputenv(m_name, value);
+    }
+
+private:
+    const char* m_name;
+    QByteArray m_former;
+};
+
+TEST(WindowSystem, IsTheOneThatKnowsPlacesWhereWaylandOffersBothAndNobodyHasChosen) {
+    const Variable wayland("WAYLAND_DISPLAY");
+    const Variable session("XDG_SESSION_TYPE");
+    const Variable display("DISPLAY");
+    const Variable chosen("QT_QPA_PLATFORM");
+    const struct {
+        const char* wayland;
+        const char* session;
+        const char* display;
+        const char* before;
+        const char* after;
+    } rows[] = {{"wayland-0", nullptr, ":0", nullptr, "xcb;wayland"},
+                {nullptr, "wayland", ":0", nullptr, "xcb;wayland"},
+                {nullptr, "x11", ":0", nullptr, nullptr},
+                {nullptr, nullptr, ":0", nullptr, nullptr},
+                {"wayland-0", "wayland", nullptr, nullptr, nullptr},
+                {"wayland-0", "wayland", ":0", "wayland", "wayland"}};
+    for (const auto& row : rows) {
+        wayland.Set(row.wayland);
+        session.Set(row.session);
+        display.Set(row.display);
+        chosen.Set(row.before);
+        ChooseWindowSystem();
+        EXPECT_EQ(qgetenv("QT_QPA_PLATFORM"), QByteArray(row.after)) << &row - rows;
+    }
+}
+
 } // namespace
