@@ -91,12 +91,17 @@ TEST_F(About, TheVersionIsAppendedOnceHoweverOftenItIsLoaded) {
     expectEnglish();
 }
 
-TEST_F(About, TextsAreShownAsTheyStand) {
+TEST_F(About, TextsAreShownAsTheyStandAndWhole) {
     load();
     for (int index = 1; index <= 3; ++index) {
         const QByteArray name = "Label1_" + QByteArray::number(index);
-        EXPECT_EQ(child<QLabel>(*box, name.constData())->textFormat(), Qt::PlainText);
+        const auto* label = child<QLabel>(*box, name.constData());
+        EXPECT_EQ(label->textFormat(), Qt::PlainText);
+        EXPECT_TRUE(label->wordWrap()) << index;
     }
+    const auto* description = child<QLabel>(*box, "Label1_3");
+    EXPECT_GT(description->height(), 6 * description->fontMetrics().lineSpacing())
+        << "the first of its six lines is wrapped";
 }
 
 TEST_F(About, EverythingLiesInsideTheBox) {
@@ -126,7 +131,9 @@ TEST_F(About, NothingLiesOverAnythingElseAndOkStandsInTheMiddle) {
 TEST_F(About, OkUnloads) {
     load();
     show();
-    click(ok());
+    QTest::mousePress(ok(), Qt::LeftButton);
+    EXPECT_TRUE(box->Visible()) << "until it is let go";
+    QTest::mouseRelease(ok(), Qt::LeftButton);
     EXPECT_FALSE(box->Visible());
     EXPECT_TRUE(box->IsUnloaded());
     processEvents();
@@ -241,6 +248,14 @@ TEST_F(About, TheSplashHasItsBackgroundAndOrdinaryText) {
     EXPECT_EQ(image.pixelColor(2, 2), ToColor(0xC0FFC0));
     EXPECT_EQ(image.pixelColor(image.width() - 3, image.height() - 3), ToColor(0xC0FFC0));
     EXPECT_EQ(box->palette().color(QPalette::WindowText), ToColor(TextColors(OrdinaryText)));
+}
+
+TEST_F(About, TheTitleAloneIsLargeAndBold) {
+    load();
+    const QFont title = child<QLabel>(*box, "Label1_1")->font();
+    EXPECT_TRUE(title.bold());
+    EXPECT_NEAR(title.pointSizeF(), 1.7 * box->font().pointSizeF(), 0.01);
+    EXPECT_EQ(child<QLabel>(*box, "Label1_2")->font(), box->font());
 }
 
 } // namespace

@@ -290,4 +290,17 @@ TEST_F(Options, AStoredNumberOfTipsBecomesOne) {
     EXPECT_EQ(ShowTips, 1);
 }
 
+TEST_F(Options, APressThatIsDraggedOffDoesNothing) {
+    open();
+    for (const char* name : {"Option1_2", "Command1_1", "Command1_2"}) {
+        auto* button = child<QAbstractButton>(*dialog, name);
+        QTest::mousePress(button, Qt::LeftButton);
+        QTest::mouseRelease(button, Qt::LeftButton, {}, QPoint(-40, -40));
+        ASSERT_FALSE(dialog->IsUnloaded()) << name;
+    }
+    EXPECT_TRUE(stored().isEmpty());
+    apply();
+    EXPECT_EQ(MoslemType, 1);
+}
+
 } // namespace

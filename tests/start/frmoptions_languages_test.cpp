@@ -2,8 +2,10 @@
 #include "shared/english.h"
 #include "start/frmoptions_test.h"
 
+#include <QCursor>
 #include <QDir>
 #include <QFile>
+#include <optional>
 
 namespace {
 
@@ -138,6 +140,18 @@ TEST_F(Options, WithoutALanguageNothingIsApplied) {
     apply();
     EXPECT_TRUE(dialog.isNull());
     EXPECT_EQ(MoslemType, 2);
+}
+
+TEST_F(Options, ThePointerWaitsWhileTheyAreApplied) {
+    copyLanguage("German");
+    std::optional<Qt::CursorShape> meanwhile;
+    QObject::connect(monthly, &QWidget::windowTitleChanged, monthly, [&meanwhile] {
+        if (const QCursor* pointer = QGuiApplication::overrideCursor())
+            meanwhile = pointer->shape();
+    });
+    changeLanguage("German");
+    EXPECT_EQ(meanwhile, Qt::WaitCursor);
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
 }
 
 } // namespace

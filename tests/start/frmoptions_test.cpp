@@ -178,6 +178,8 @@ TEST_F(Options, FramesAreNamedAlsoWhereTheirTitleIsWrapped) {
     EXPECT_EQ(frame->findChild<QLabel*>()->text().remove(u'\n'), QString(254, u'W'));
     const auto* other = qobject_cast<QGroupBox*>(list("Combo3")->parentWidget());
     EXPECT_EQ(other->findChild<QLabel*>()->text(), QStringLiteral("Startup window"));
+    EXPECT_TRUE(other->findChild<QLabel*>()->font().bold());
+    EXPECT_EQ(list("Combo3")->accessibleName(), QStringLiteral("Startup window"));
     close();
 }
 
@@ -205,6 +207,10 @@ TEST_F(Options, TipsAreShownWithTipsOnly) {
         const auto* button = child<CommandButton>(*dialog, "Command1_1");
         EXPECT_EQ(button->toolTip(), tips ? QStringLiteral("Apply") : QString());
         EXPECT_EQ(button->accessibleName(), QStringLiteral("Apply"));
+        const auto* other = child<CommandButton>(*dialog, "Command1_2");
+        EXPECT_EQ(other->toolTip(), tips ? QStringLiteral("Close") : QString());
+        EXPECT_EQ(other->accessibleName(), QStringLiteral("Close"));
+        EXPECT_EQ(child<QCheckBox>(*dialog, "Check1")->text(), QStringLiteral("Show tips"));
         close();
     }
 }
@@ -220,6 +226,25 @@ TEST_F(Options, RunsAsItsLanguageDoes) {
     EXPECT_GT(child<CommandButton>(*dialog, "Command1_1")->x(),
               child<CommandButton>(*dialog, "Command1_2")->x());
     EXPECT_EQ(monthly->layoutDirection(), Qt::LeftToRight);
+    close();
+}
+
+TEST_F(Options, WhatTheVariantsAreIsToldWithTheFirst) {
+    LabelTexts(MoslemTypesLabel) = "Eras & years";
+    open();
+    const auto* first = child<QRadioButton>(*dialog, "Option1_1");
+    const auto labels = first->parentWidget()->findChildren<QLabel*>(); // the frame's title first
+    ASSERT_EQ(labels.size(), 2);
+    EXPECT_EQ(labels[1]->text(), QStringLiteral("Eras && years"));
+    EXPECT_EQ(labels[1]->buddy(), first);
+    close();
+}
+
+TEST_F(Options, TextsAreShownAsTheyStand) {
+    LabelTexts(LanguageLabel) = "<b>Language</b>";
+    open();
+    for (const QLabel* label : dialog->findChildren<QLabel*>())
+        EXPECT_EQ(label->textFormat(), Qt::PlainText) << label->text().toStdString();
     close();
 }
 

@@ -72,9 +72,10 @@ TEST_F(Language, AFileChangesWhatItHoldsOnly) {
 TEST_F(Language, EverySectionFillsItsTable) {
     writeLanguage("X.lng", "[CALENDARS]\n5=a\n[JGMONTHS]\n12=b\n[JMONTHS]\n12=c\n[MMONTHS]\n12=d\n"
                            "[WEEKDAYS]\n7=e\n[WEEKDAYSABBR]\n7=f\n[LABELS]\n12=g\n"
-                           "[STRINGS]\n25=h\n");
+                           "[STRINGS]\n25=h\n[SPEECH]\n1=i\n");
     load("X");
     TextTables expected = english;
+    expected.selectedWord = "i";
     expected.calendarNames(5) = "a";
     expected.monthNames(Julian, 12) = expected.monthNames(Gregorian, 12) = "b";
     expected.monthNames(Jewish, 12) = "c";
