@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "changecals/changecals.h"
 
+#include "support/platform_accessible.h"
 #include "support/recording_windows.h"
 #include "support/widget_test.h"
 
+#include <QPushButton>
 #include <algorithm>
 
 namespace {
@@ -126,6 +128,23 @@ TEST_F(Updates, TodayGoesThroughTheGregorianCalendar) {
     ChangeCals::GoToToday(YearWindowNumber(Jewish));
     EXPECT_EQ(dateIn(Gregorian), (Date{20, 11, 2026}));
     EXPECT_EQ(takeCalls(), (Calls{"year3.ShowYear", "year1.ShowYear"}));
+}
+
+TEST_F(Updates, AChosenDayIsAnsweredByTheWindowWithTheKeyboard) {
+    class Talking : public Form {
+    public:
+        Talking() : Form(QStringLiteral("frmTalking")) {}
+        QString Answer() const override { return QString::number(CurJD); }
+    };
+    Talking window;
+    auto* button = new QPushButton(&window);
+    showWithFocus(window, *button);
+    processEvents();
+    AccessibleWatch watch;
+    ChangeCals::ChooseJulianDay(2461366, MonthlyWindowNumber);
+    EXPECT_EQ(watch.take(QAccessible::Focus),
+              (std::vector<AccessibleWatch::Told>{
+                  {QAccessible::Focus, &window, QStringLiteral("2461366")}}));
 }
 
 } // namespace

@@ -134,6 +134,8 @@ TEST_F(Closing, FrameCloseOfTheLastEndsWithoutSavingWhateverElseIsOpen) {
     ChangeCals::LoadMonthly().close();
     EXPECT_EQ(m_exitStatus, 0);
     EXPECT_FALSE(ChangeCals::LoadMoon().Visible());
+    EXPECT_FALSE(ChangeCals::LoadOptions().Visible());
+    EXPECT_FALSE(ChangeCals::LoadAbout().Visible());
     EXPECT_TRUE(nothingSaved());
 }
 

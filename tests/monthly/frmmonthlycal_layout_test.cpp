@@ -169,4 +169,13 @@ TEST_F(MonthlyLayout, TheListOfWeekdaysTakesTheRoomThatItsNamesNeedOrElseWhatIsL
     expectNothingOverlapsOrSticksOut();
 }
 
+TEST_F(MonthlyLayout, WhatThePanesHaveInCommonStandsInOneRow) {
+    const CommandButton& moon = moonButton(MoonPhase);
+    EXPECT_EQ(combo(6).x(), 20);
+    EXPECT_EQ(combo(7).x(), rightOf(combo(6)) + gap);
+    EXPECT_EQ(moon.x(), rightOf(combo(7)) + gap);
+    EXPECT_EQ(combo(8).x(), rightOf(moon) + gap);
+    EXPECT_NEAR(moon.geometry().center().y(), combo(8).geometry().center().y(), 1);
+}
+
 } // namespace

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "monthly/juliandayfield_test.h"
+#include "support/platform_accessible.h"
 #include "support/platform_input.h"
 
 #include <QClipboard>
@@ -170,6 +171,16 @@ TEST_F(JulianDayEntry, FillingWhileTheWindowRefillsItselfTakesNothing) {
     Updating = false;
     EXPECT_EQ(CurJD, 2461365);
     goTo(2461365);
+}
+
+TEST_F(JulianDayEntry, EscapeIsAnsweredWithTheChosenDay) {
+    type(QStringLiteral("24"));
+    AccessibleWatch watch;
+    QTest::keyClick(&combo(8), Qt::Key_Escape);
+    const auto told = watch.take(QAccessible::Focus);
+    ASSERT_FALSE(told.empty());
+    EXPECT_EQ(told.back().name, QStringLiteral("Friday, 7 November 2026, Julian calendar"));
+    EXPECT_EQ(combo(8).Answer(), QStringLiteral("Friday, 7 November 2026, Julian calendar"));
 }
 
 } // namespace

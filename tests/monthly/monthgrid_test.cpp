@@ -25,6 +25,7 @@ protected:
 };
 
 TEST_F(MonthGrids, OpenOnTodayInFourCalendars) {
+    EXPECT_EQ(window().focusWidget(), &grid(1));
     expectPanesShowTheState();
     EXPECT_EQ(CurJD, 2461365);
     EXPECT_EQ(grid(1).TextMatrix(0, 0), QStringLiteral("Su"));
@@ -34,6 +35,7 @@ TEST_F(MonthGrids, OpenOnTodayInFourCalendars) {
 TEST_F(MonthGrids, SizesAreTheDesignedOnes) {
     for (int pane = 1; pane <= paneCount; ++pane) {
         EXPECT_EQ(grid(pane).size(), QSize(121, 145));
+        EXPECT_EQ(grid(pane).font().pixelSize(), 11);
         for (int column = 0; column < 7; ++column)
             EXPECT_EQ(grid(pane).ColWidth(column), Twips{255});
         EXPECT_EQ(grid(pane).RowHeight(0), Twips{345});

@@ -191,6 +191,7 @@ TEST_F(MoonWindowTest, EscHidesItAlsoAfterAChangeAndOtherKeysDoNothing) {
     writeBitmap();
     ChangeCals::ShowMoonWindow();
     ASSERT_TRUE(waitUntil([] { return moon().isActiveWindow(); }));
+    EXPECT_TRUE(picture().hasFocus());
     for (const auto key : {Qt::Key_Return, Qt::Key_Space, Qt::Key_A, Qt::Key_Delete}) {
         QTest::keyClick(&picture(), key);
         EXPECT_TRUE(moon().Visible());
@@ -250,6 +251,31 @@ TEST_F(MoonWindowTest, AFolderOrADanglingLinkInItsPlaceCountsAsMissing) {
     ASSERT_TRUE(QDir().rmdir(bitmapPath()));
     ASSERT_TRUE(QFile::link(programPath(QStringLiteral("nowhere")), bitmapPath()));
     expectMissing();
+}
+
+TEST_F(MoonWindowTest, TheTerminatorIsSmooth) {
+    writeBitmap();
+    const QImage image = drawn(4.0F);
+    int greys = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const int grey = qGray(image.pixel(x, y));
+            greys += grey > 40 && grey < 215 ? 1 : 0;
+        }
+    }
+    EXPECT_GT(greys, 100) << "along 280 rows";
+}
+
+TEST_F(MoonWindowTest, TheDiscInThePlaceOfAPictureIsTwoPixelsWithinTheDarkField) {
+    const QImage disc = drawn(14.8F);
+    EXPECT_EQ(m_messages.take().size(), 1);
+    const QColor yellow(255, 255, 192);
+    const QColor black(0, 0, 0);
+    for (const QPoint inside : {QPoint(140, 3), QPoint(140, 276), QPoint(3, 140), QPoint(276, 140)})
+        EXPECT_EQ(disc.pixelColor(inside), yellow) << inside.x() << ' ' << inside.y();
+    for (const QPoint outside :
+         {QPoint(140, 1), QPoint(140, 278), QPoint(1, 140), QPoint(278, 140), QPoint(5, 5)})
+        EXPECT_EQ(disc.pixelColor(outside), black) << outside.x() << ' ' << outside.y();
 }
 
 } // namespace

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "platform/pictures.h"
 #include "yearcals/year_test.h"
 
 #include <QFile>
@@ -304,6 +305,17 @@ TEST_F(YearWindows, TipsAndNames) {
     year(Jewish).SetTexts();
     for (const auto& row : rows)
         EXPECT_EQ(row.control->toolTip(), QString());
+}
+
+TEST_F(YearWindows, ButtonsHaveTheirPictures) {
+    const char* pictures[] = {"buttons/previous", "buttons/next",      "buttons/today",
+                              "buttons/options",  "buttons/about",     "buttons/close",
+                              "emblems/julian",   "emblems/gregorian", "emblems/moslem"};
+    for (int index = 1; index <= 9; ++index) {
+        const QIcon expected = ButtonPicture(QLatin1String(pictures[index - 1]));
+        EXPECT_EQ(command(Jewish, index).icon().pixmap(24).toImage(), expected.pixmap(24).toImage())
+            << index;
+    }
 }
 
 } // namespace

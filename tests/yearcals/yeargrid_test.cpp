@@ -151,6 +151,7 @@ TEST_F(YearGrids, WithinAYearTwoCellsAreRepaintedAcrossYearsTheGridOnce) {
 TEST_F(YearGrids, SizesAreTheDesignedOnes) {
     const MSFlexGrid& days = grid(Moslem);
     EXPECT_EQ(days.size(), QSize(387, 466));
+    EXPECT_EQ(days.font().pixelSize(), 10);
     EXPECT_EQ(year(Moslem).size(), QSize(389, 518));
     EXPECT_EQ(days.ColWidth(0), Twips{345});
     EXPECT_EQ(days.ColWidth(18), Twips{300});
