@@ -190,6 +190,11 @@ TEST_F(MonthPage, HasARuleBelowItsTitleItsHeadsAndItsLastRow) {
     const auto inPixels = [](double points) { return points * 300 / 72; };
     EXPECT_LT(rules[1], inPixels(roomsOf(QStringLiteral("2461346"), found)[0].top()));
     EXPECT_GT(rules[2], inPixels(roomsOf(QStringLiteral("2461375"), found)[0].bottom()) - 10);
+    EXPECT_NEAR(rules[0], inPixels(80.6), 2.5);
+    EXPECT_NEAR(rules[1], inPixels(117.0), 2.5);
+    EXPECT_NEAR(rules[2], inPixels(773.4), 2.5); // 30 rows of 31, 4 gaps of 5
+    const QRectF first = roomsOf(QStringLiteral("2461346"), found)[0];
+    EXPECT_NEAR(first.top() + first.height() * 0.797, 131.2, 0.5);
 }
 
 // In a language from right to left the columns stand in that order.
@@ -263,6 +268,8 @@ TEST_F(MonthPage, HasItsHeadsAboveTheirColumns) {
     EXPECT_NEAR(room("Tag").right(), room("2461346").right(), 0.05);
     EXPECT_NEAR(room("Mondalter").left(), room("10.6").left(), 0.05);
     EXPECT_NEAR(room("(in").left(), room("10.6").left(), 0.05);
+    EXPECT_NEAR(room("(in").bottom() - room("Mondalter").bottom(), 8.2, 0.05);
+    EXPECT_NEAR(room("(in").height() / room("2461346").height(), 7 / 8.5, 0.03);
 }
 
 TEST_F(MonthPage, DividesNoHeadBetweenBrackets) {

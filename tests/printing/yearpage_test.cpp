@@ -377,4 +377,48 @@ TEST_F(YearPage, HasSmallFiguresUnderTheirDays) {
     }
 }
 
+// Those of the blocks of a band stand beside each other.
+TEST_F(YearPage, HasARuleBelowItsTitleAndBelowTheTitlesOfEachBand) {
+    print(Printing::YearPage(Gregorian));
+    const QImage page = picture();
+    std::vector<double> rules; // in points
+    int former = -2;
+    for (int y = 0; y < page.height(); ++y) {
+        int ink = 0;
+        for (int x = 0; x < page.width(); ++x)
+            ink += qGray(page.pixel(x, y)) < 128;
+        if (ink <= page.width() * 3 / 4)
+            continue;
+        if (y != former + 1)
+            rules.push_back(y * 72 / 300.0);
+        former = y;
+    }
+    const double expected[] = {80.6, 131.8, 311.3, 490.8, 670.3}; // their upper edges
+    ASSERT_EQ(rules.size(), 5U);
+    for (std::size_t at = 0; at < 5; ++at)
+        EXPECT_NEAR(rules[at], expected[at], 0.6) << at;
+}
+
+// The title has 18 points, the subtitle 8, a month's name 10.5, lines and weekdays 6.
+TEST_F(YearPage, HasLettersOfTheirSizes) {
+    print(Printing::YearPage(Jewish));
+    const auto found = words();
+    const auto uppermost = [&found](const char* text) {
+        QRectF room;
+        for (const Word& word : found) {
+            if (word.text == QLatin1String(text) && (room.isNull() || word.room.top() < room.top()))
+                room = word.room;
+        }
+        EXPECT_FALSE(room.isNull()) << text;
+        return room;
+    };
+    const double subtitle = uppermost("Moslem").height();
+    EXPECT_NEAR(uppermost("Jewish").height() / subtitle, 2.25, 0.05);
+    EXPECT_NEAR(uppermost("Tishri").height() / subtitle, 1.3125, 0.05);
+    EXPECT_NEAR(uppermost("August").height() / subtitle, 0.75, 0.05);
+    EXPECT_NEAR(uppermost("We").height() / subtitle, 0.75, 0.05);
+    const auto lineOf = [](const QRectF& room) { return room.top() + room.height() * 0.797; };
+    EXPECT_NEAR(lineOf(uppermost("August")) - lineOf(uppermost("Tishri")), 8, 0.5);
+}
+
 } // namespace
