@@ -196,4 +196,25 @@ TEST_F(Combo, AListDropsDownAsWideAsItsEntries) {
               QFontMetrics(list->view()->font()).horizontalAdvance(wide));
 }
 
+TEST_F(Combo, ItsEntryHasTheColorOfTheTextsOfFields) {
+    QPalette colors = list->palette();
+    colors.setColor(QPalette::WindowText, Qt::blue);
+    colors.setColor(QPalette::ButtonText, Qt::blue);
+    colors.setColor(QPalette::Text, Qt::red);
+    list->setPalette(colors);
+    QFont font = list->font();
+    font.setPixelSize(30);
+    font.setBold(true);
+    list->setFont(font);
+    list->resize(200, 60);
+    list->SetOnlyItem(QStringLiteral("HHH"));
+    show();
+    const QImage image = list->grab().toImage();
+    int red = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            red += static_cast<int>(image.pixelColor(x, y) == QColor(Qt::red));
+    EXPECT_GT(red, 0);
+}
+
 } // namespace

@@ -136,4 +136,20 @@ TEST_F(AccessibleCombo, EntriesAreSpokenAsTheListSays) {
               QStringLiteral("year 2"));
 }
 
+TEST_F(AccessibleCombo, NothingOfItsTextIsSelectedAndAllOfItLooksAlike) {
+    const QAccessibleTextInterface* text = accessible(*list).textInterface();
+    int start = 7;
+    int end = 7;
+    text->selection(0, &start, &end);
+    EXPECT_EQ(start, 0);
+    EXPECT_EQ(end, 0);
+    EXPECT_EQ(text->selectionCount(), 0);
+    EXPECT_EQ(text->cursorPosition(), 0);
+    EXPECT_EQ(text->offsetAtPoint({}), 0);
+    start = end = 7;
+    EXPECT_EQ(text->attributes(2, &start, &end), QString());
+    EXPECT_EQ(start, 0);
+    EXPECT_EQ(end, 4);
+}
+
 } // namespace

@@ -14,9 +14,12 @@ public:
     int unloads = 0;
     bool visibleAtUnload = false;
     int raises = 0;
+    bool shownForTheKeyboard = false;
 
 protected:
     bool event(QEvent* event) override {
+        if (event->type() == QEvent::Show)
+            shownForTheKeyboard = !testAttribute(Qt::WA_ShowWithoutActivating);
         raises += static_cast<int>(event->type() == QEvent::ZOrderChange);
         return Form::event(event);
     }
@@ -178,6 +181,24 @@ TEST_F(Forms, HidingDoesNotUnload) {
     ASSERT_FALSE(form.isNull());
     EXPECT_EQ(form->unloads, 0);
     EXPECT_FALSE(form->IsUnloaded());
+}
+
+TEST_F(Forms, OnlyShowAsksForTheKeyboard) {
+    show();
+    EXPECT_TRUE(form->shownForTheKeyboard);
+    form->Hide();
+    form->ShowInFront();
+    EXPECT_FALSE(form->shownForTheKeyboard);
+    form->Hide();
+    form->Show();
+    EXPECT_TRUE(form->shownForTheKeyboard);
+}
+
+TEST_F(Forms, KeepTheirSidesInAProgramThatReadsFromTheRight) {
+    const Qt::LayoutDirection former = QGuiApplication::layoutDirection();
+    QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+    EXPECT_EQ(Form(QStringLiteral("frmOther")).layoutDirection(), Qt::LeftToRight);
+    QGuiApplication::setLayoutDirection(former);
 }
 
 } // namespace

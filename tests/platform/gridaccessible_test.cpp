@@ -117,6 +117,8 @@ TEST_F(AccessibleGrid, IsAListOfTheCellsThatSaySomething) {
 TEST_F(AccessibleGrid, CellsStandWhereTheyAreSeen) {
     show();
     const QPoint middle = grid->viewport()->mapToGlobal(QPoint(30 + 15, 2 * 20 + 10));
+    EXPECT_EQ(cell(2, 1).window(), window.windowHandle());
+    EXPECT_EQ(cell(2, 1).indexOfChild(&accessible(*other)), -1);
     EXPECT_TRUE(cell(2, 1).rect().contains(middle));
     EXPECT_EQ(accessible(*grid).childAt(middle.x(), middle.y()), &cell(2, 1));
     EXPECT_EQ(accessible(*grid).childAt(-5, -5), nullptr);
@@ -147,6 +149,7 @@ TEST_F(AccessibleGrid, TheCurrentCellHasTheFocusOfTheGrid) {
 }
 
 TEST_F(AccessibleGrid, PressingACellDoesWhatReturnDoes) {
+    mark(*grid, 3, 2);
     show();
     const QString& press = QAccessibleActionInterface::pressAction();
     ASSERT_EQ(cell(2, 1).actionInterface()->actionNames().first(), press);
@@ -158,6 +161,7 @@ TEST_F(AccessibleGrid, PressingACellDoesWhatReturnDoes) {
     cell(2, 1).actionInterface()->doAction(press);
     EXPECT_EQ(presses.size(), 1U);
     EXPECT_EQ(presses.at(0), std::pair(QPoint(1, 2), Qt::LeftButton));
+    EXPECT_TRUE(grid->hasFocus());
     grid->setEnabled(false);
     cell(3, 1).actionInterface()->doAction(press);
     EXPECT_EQ(presses.size(), 1U);
@@ -188,6 +192,11 @@ TEST_F(AccessibleGrid, SaysTheMarkedCellWhenItGetsTheFocus) {
     grid->setFocus();
     EXPECT_EQ(watch.take(QAccessible::Focus).back(),
               (Told{QAccessible::Focus, grid, QStringLiteral("day 31")}));
+    other->setFocus();
+    grid->setFocus();
+    EXPECT_EQ(watch.take(QAccessible::Focus).back(),
+              (Told{QAccessible::Focus, grid, QStringLiteral("day 31")}))
+        << "once more";
 }
 
 TEST_F(AccessibleGrid, APressThatBringsTheFocusIsSaidOnce) {

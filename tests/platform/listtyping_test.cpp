@@ -168,6 +168,7 @@ TEST_F(TypedNumber, TheListThatAChoiceHasShortenedIsFilledForTheNextDigit) {
 TEST_F(TypedNumber, ShiftAndTheKeypadBelongToTyping) {
     offer(1, 3000);
     type("20");
+    QTest::keyClick(list, Qt::Key_ScrollLock);
     QTest::keyClick(list, Qt::Key_Shift, Qt::ShiftModifier);
     QTest::keyClick(list, Qt::Key_3, Qt::ShiftModifier);
     QTest::keyClick(list, Qt::Key_1, Qt::KeypadModifier);

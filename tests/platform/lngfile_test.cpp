@@ -110,6 +110,7 @@ TEST_F(LngFiles, EntriesBeforeAnySectionAreIgnored) {
 
 TEST_F(LngFiles, SectionsEndAtTheNextHeader) {
     EXPECT_EQ(read("[S]\n2=y\n[T]\n1=x\n"), "");
+    EXPECT_EQ(read("[S]\n2=y\n[]\n1=x\n"), "");
     EXPECT_EQ(read("[T]\n1=x\n"), "");
 }
 

@@ -134,4 +134,12 @@ TEST_F(Messages, AreShownWithTheUsualPointerAlsoAmidWork) {
     EXPECT_EQ(m_messages.take().size(), 1);
 }
 
+TEST_F(Messages, HaveATextThatTakesNeitherMouseNorKeys) {
+    Qt::TextInteractionFlags flags = Qt::TextEditorInteraction;
+    const MessageShown watch([&flags](QMessageBox& box) { flags = box.textInteractionFlags(); });
+    MsgBox(QStringLiteral("text"));
+    EXPECT_EQ(flags, Qt::NoTextInteraction);
+    EXPECT_EQ(m_messages.take().size(), 1);
+}
+
 } // namespace

@@ -412,4 +412,11 @@ TEST_F(SettingsOnDisk, AnEmptySectionAtTheBeginningIsFilled) {
     EXPECT_EQ(readFile(settingsPath()), "[Startup]\nWindow=2\n");
 }
 
+TEST_F(SettingsOnDisk, TabsAreWrittenAsEscapesAndOtherControlsAsTheyAre) {
+    load("[Startup]\n");
+    save("Language", "a\tb\x07");
+    EXPECT_TRUE(FlushSettings());
+    EXPECT_EQ(readFile(settingsPath()), "[Startup]\nLanguage=a\\tb\x07\n");
+}
+
 } // namespace

@@ -114,6 +114,9 @@ TEST_F(Answers, AreAnEntryOfTheWindowEachAnother) {
     EXPECT_EQ(entry->childCount(), 0);
     EXPECT_EQ(entry->parent(), &accessible(window));
     EXPECT_GE(accessible(window).indexOfChild(entry), 0);
+    EXPECT_EQ(entry->indexOfChild(&accessible(*list)), -1);
+    button->setFocus();
+    EXPECT_FALSE(entry->state().focused);
 }
 
 TEST_F(Answers, TheLastAndTheOneBeforeAreKept) {
