@@ -75,6 +75,9 @@ class Desktop:
         text = self._xprop("-id", str(number), "_NET_WM_ALLOWED_ACTIONS")
         return set(re.findall(r"_NET_WM_ACTION_(\w+)", text))
 
+    def has_icon(self, number):
+        return "not found" not in self._xprop("-id", str(number), "_NET_WM_ICON")
+
     def has_popup(self, pid):
         """Whether a process has the list of a drop-down control open."""
         found = self.run("xdotool", "search", "--onlyvisible", "--pid", str(pid), check=False)

@@ -149,3 +149,11 @@ class MissingMoonPicture(EndToEndTest):
         monthly.press("close")
         self.assert_ends_well()
         self.assertEqual(self.program.message_boxes_seen(), 1)
+
+
+class Icon(EndToEndTest):
+    def test_the_windows_have_the_programs_icon(self):
+        monthly = self.start_monthly()
+        for window in [monthly, *monthly.open_all_years().values()]:
+            wait_until(lambda number=window.number: self.desktop.has_icon(number),
+                       "the window manager is told of an icon")
