@@ -202,15 +202,15 @@ TEST_F(Closing, WindowsThatAreNotLoadedKeepTheirPlaceAndAreNotCreated) {
 }
 
 TEST_F(Closing, APositionBeyond16BitsEndsWithAMessageAndSavesNothing) {
-    ChangeCals::LoadYear(Jewish).SetCaption(QStringLiteral("The Jewish year"));
+    ChangeCals::LoadYear(Jewish).SetCaption(QStringLiteral("The Jewish\nyear"));
     ChangeCals::LoadYear(Jewish).move(-2185, 10);
     ChangeCals::LoadMonthly().Show();
     ChangeCals::ExitProgram();
     EXPECT_EQ(m_exitStatus, 1);
-    EXPECT_EQ(m_messages.take(),
-              QStringList{QStringLiteral("Overflow: the window “The Jewish year” stands too far "
-                                         "out for its position to be stored. No position was "
-                                         "saved.")});
+    EXPECT_EQ(m_messages.take(), QStringList{QStringLiteral(
+                                     "Overflow: the window “The Jewish\u240Ayear” stands too far "
+                                     "out for its position to be stored. No position was "
+                                     "saved.")});
     EXPECT_TRUE(nothingSaved());
 }
 

@@ -145,7 +145,7 @@ TEST_F(FirstPlacesOf, TheEdgeOfWhatCanBeStoredFit) {
 }
 
 // Counted out by hand, for windows with the frames that most desktops draw.
-TEST_F(FirstPlacesOf, ThreeScreensAreTheseToThePixel) {
+TEST_F(FirstPlacesOf, SixScreensAreTheseToThePixel) {
     const struct {
         QRect desk;
         Table<QPoint, mainWindowCount> places;
@@ -153,7 +153,10 @@ TEST_F(FirstPlacesOf, ThreeScreensAreTheseToThePixel) {
         {{0, 0, 1920, 1040},
          {{99, 461}, {500, 461}, {901, 461}, {1420, 461}, {475, 25}, {1143, 25}}},
         {{0, 0, 1600, 1170}, {{674, 31}, {1075, 31}, {674, 585}, {1193, 585}, {6, 31}, {6, 467}}},
-        {{0, 0, 1024, 738}, {{589, 83}, {589, 0}, {505, 83}, {505, 0}, {0, 302}, {0, 0}}}};
+        {{0, 0, 1024, 738}, {{589, 83}, {589, 0}, {505, 83}, {505, 0}, {0, 302}, {0, 0}}},
+        {{0, 0, 1024, 781}, {{589, 83}, {589, 0}, {505, 83}, {505, 0}, {0, 0}, {0, 436}}},
+        {{0, 0, 640, 480}, {{252, 0}, {168, 0}, {84, 0}, {0, 0}, {0, 44}, {0, 0}}},
+        {{0, 0, 640, 400}, {{252, 0}, {168, 0}, {84, 0}, {0, 0}, {0, 0}, {0, 0}}}};
     for (const auto& row : rows) {
         use(row.desk);
         for (int number = 1; number <= mainWindowCount; ++number)

@@ -109,6 +109,9 @@ TEST_F(DayGrids, HaveNoMarkInOtherColours) {
     grid.SetCalendar(Julian);
     EXPECT_EQ(red(), std::vector<GridPlace>());
     EXPECT_FALSE(grid.Contains(grid.SelectedCell()));
+    grid.SetCalendar(9);
+    EXPECT_EQ(grid.CellBackColor(), 0xFFFFFF) << "no calendar's";
+    EXPECT_EQ(grid.CellForeColor(), 0x800000);
 }
 
 } // namespace

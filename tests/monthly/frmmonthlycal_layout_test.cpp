@@ -178,4 +178,19 @@ TEST_F(MonthlyLayout, WhatThePanesHaveInCommonStandsInOneRow) {
     EXPECT_NEAR(moon.geometry().center().y(), combo(8).geometry().center().y(), 1);
 }
 
+TEST_F(MonthlyLayout, ListsOfMonthsHaveRoomForTheFirstAndTheLastOfEveryCalendar) {
+    const int oneLine = combo(2, 1).height();
+    for (const int c : {Julian, Gregorian, Jewish, Moslem}) {
+        for (const int month : {1, Calc::MonthsInYear(c)}) {
+            const std::string former = MonthNames(c, month);
+            MonthNames(c, month) = "Wwwwwwwww Wwwwwwwww";
+            window().SetTexts();
+            EXPECT_GT(combo(3, 1).height(), oneLine + 8) << c << " " << month;
+            MonthNames(c, month) = former;
+        }
+    }
+    window().SetTexts();
+    EXPECT_EQ(combo(3, 1).height(), oneLine);
+}
+
 } // namespace

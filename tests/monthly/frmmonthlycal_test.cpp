@@ -190,6 +190,7 @@ TEST_F(MonthlyWindowTest, EmblemsStandAboveTheirCalendarsPanes) {
         auto* emblem = child<QWidget>(
             window(), qPrintable(QStringLiteral("Image1_%1").arg(CalendarOrder(pane))));
         EXPECT_EQ(emblem->x(), lefts[pane - 1]);
+        EXPECT_TRUE(emblem->isVisible());
         EXPECT_LT(emblem->geometry().bottom(), combo(1, pane).y());
     }
 }

@@ -99,6 +99,7 @@ TEST_F(MoonWindowTest, TheAgeShowsOneDecimal) {
         moon().ReSetForm();
         EXPECT_EQ(label().text(), QLatin1String(row.text));
         EXPECT_TRUE(picture().rect().contains(label().geometry()));
+        EXPECT_EQ(label().size(), label().sizeHint());
     }
 }
 

@@ -203,4 +203,13 @@ TEST_F(MoonFile, WhatIsNoBitmapIsNoPicture) {
     EXPECT_TRUE(LoadMoonPicture(m_folder.path()).picture.isNull());
 }
 
+// With nothing but blanks behind its head; a pixel needs four bytes once it is read.
+TEST_F(MoonFile, ABitmapMayNeedMoreRoomThanTheToolkitsOwnLimit) {
+    const Bitmap wide{.width = 6000, .height = 6000, .depth = 16};
+    EXPECT_TRUE(load(wide).isNull());
+    const QString path = programPath(QStringLiteral("Moon.bmp"));
+    ASSERT_TRUE(QFile::resize(path, 54 + qint64{6000} * 6000 * 2));
+    EXPECT_EQ(LoadMoonPicture(path).picture.size(), QSize(6000, 6000));
+}
+
 } // namespace

@@ -421,4 +421,24 @@ TEST_F(YearPage, HasLettersOfTheirSizes) {
     EXPECT_NEAR(lineOf(uppermost("August")) - lineOf(uppermost("Tishri")), 8, 0.5);
 }
 
+// Three blocks of 161 points, 16 apart; of each, 17 for the weekdays' names and 24 for a week.
+TEST_F(YearPage, HasItsDaysInTheMiddleOfTheirCells) {
+    print(Printing::YearPage(Gregorian)); // 2026, weeks from Sunday
+    const NumbersOnPage numbers(words(), 595, false);
+    const auto days = numbers.DayWords();
+    const struct {
+        Cell cell;
+        const char* day;
+        double middle;
+    } rows[] = {{{0, 0, 0, 2}, "11", 40 + 17 + 2.5 * 24},
+                {{0, 0, 0, 4}, "25", 40 + 17 + 4.5 * 24},
+                {{0, 0, 1, 3}, "22", 40 + 177 + 17 + 3.5 * 24},
+                {{0, 0, 2, 3}, "22", 40 + 354 + 17 + 3.5 * 24}};
+    for (const auto& row : rows) {
+        const Word& word = days.at(row.cell);
+        EXPECT_EQ(word.text, QLatin1String(row.day));
+        EXPECT_NEAR(word.room.center().x(), row.middle, 0.15) << row.cell;
+    }
+}
+
 } // namespace

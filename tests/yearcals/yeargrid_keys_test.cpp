@@ -126,4 +126,16 @@ TEST_F(YearKeys, TabFollowsTheMoonThatComesToTheFront) {
     }
 }
 
+// June 2024 begins on a Saturday: its 30th stands alone in the band's last column.
+TEST_F(YearKeys, UpFromABandsFirstDayFindsTheDayInTheLastColumn) {
+    setDate(Gregorian, 1, 7, 2024);
+    ChangeCals::ChangeCal(Gregorian);
+    openFocused(Gregorian);
+    EXPECT_EQ(current(Gregorian), (GridPlace{18, 1})); // 1 July
+    press(Gregorian, Qt::Key_Up);
+    EXPECT_EQ(current(Gregorian), (GridPlace{9, 18})); // 30 June
+    press(Gregorian, Qt::Key_Down);
+    EXPECT_EQ(current(Gregorian), (GridPlace{18, 1}));
+}
+
 } // namespace
