@@ -75,8 +75,10 @@ class Desktop:
         text = self._xprop("-id", str(number), "_NET_WM_ALLOWED_ACTIONS")
         return set(re.findall(r"_NET_WM_ACTION_(\w+)", text))
 
-    def has_icon(self, number):
-        return "not found" not in self._xprop("-id", str(number), "_NET_WM_ICON")
+    def icon_sides(self, number):
+        """Of a window's icon in pixels. One that has none is given 48 by the window manager."""
+        text = self._xprop("-id", str(number), "_NET_WM_ICON")
+        return {int(side) for side in re.findall(r"Icon \((\d+) x \1\)", text)}
 
     def has_popup(self, pid):
         """Whether a process has the list of a drop-down control open."""

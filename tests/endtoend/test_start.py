@@ -155,5 +155,5 @@ class Icon(EndToEndTest):
     def test_the_windows_have_the_programs_icon(self):
         monthly = self.start_monthly()
         for window in [monthly, *monthly.open_all_years().values()]:
-            wait_until(lambda number=window.number: self.desktop.has_icon(number),
-                       "the window manager is told of an icon")
+            wait_until(lambda number=window.number: self.desktop.icon_sides(number) >= {16, 128},
+                       "the window manager is told of the icon")
