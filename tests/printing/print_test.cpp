@@ -240,12 +240,10 @@ protected:
     /// What the figures of a number cover: no font of the test's reaches below the
     /// line with figures, nor above three quarters of its size.
     static QRect figuresOf(const Word& word) {
-        constexpr double lineInRoom = 0.797;
         constexpr double figureHeight = 0.63;
         const QRectF room = word.room;
-        const double line = room.top() + room.height() * lineInRoom;
         const double height = room.height() * figureHeight;
-        return QRectF(room.left() * dots, (line - height) * dots, room.width() * dots,
+        return QRectF(room.left() * dots, (LineOf(room) - height) * dots, room.width() * dots,
                       height * dots)
             .toAlignedRect();
     }

@@ -25,6 +25,11 @@ struct Word {
     QRectF room; ///< in points from the upper left corner of the paper
 };
 
+/// Where the line of a word lies on which its letters stand, in the fonts of the tests.
+inline double LineOf(const QRectF& room) {
+    return room.top() + room.height() * 0.797;
+}
+
 /// A page to be printed into a file and read back.
 struct PageCase {
     int calendar;
@@ -114,5 +119,23 @@ protected:
                                             QStringLiteral("-gray"), QStringLiteral("-singlefile"),
                                             pdfPath(), m_folder.filePath(QStringLiteral("page"))});
         return QImage(m_folder.filePath(QStringLiteral("page.pgm")));
+    }
+
+    /// The upper edges of the rules that cross the page, in points.
+    std::vector<double> rules() const {
+        const QImage page = picture();
+        std::vector<double> found;
+        int former = -2;
+        for (int y = 0; y < page.height(); ++y) {
+            int ink = 0;
+            for (int x = 0; x < page.width(); ++x)
+                ink += static_cast<int>(qGray(page.pixel(x, y)) < 128);
+            if (ink <= page.width() * 3 / 4)
+                continue;
+            if (y != former + 1)
+                found.push_back(y * 72 / 300.0);
+            former = y;
+        }
+        return found;
     }
 };
