@@ -86,7 +86,7 @@ def room_tests(room, options, more_environment=None):
 
 
 def room_tests_with_noto(room):
-    """With other letters than those of the tests, which the texts of cells do not ask."""
+    """With other letters than those of the tests, on which texts of cells do not depend."""
     fonts = {"FONTCONFIG_FILE": ROOT / "tests/data/fonts-noto.conf"}
     result = room_tests(room, ["--gtest_filter=-YearGrids.EveryCell*"], fonts)
     result.name += " with Noto Sans"

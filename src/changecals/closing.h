@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
-#include <QtCore/qnamespace.h>
+
+#include <Qt>
 
 class Form;
 
