@@ -11,6 +11,7 @@
 
 int main(int argc, char* argv[]) {
     ChooseWindowSystem();
+    const std::jthread listing = FontListing();
     QApplication app(argc, argv);
     QApplication::setApplicationName(ProgramTitle());
     InstallAssistiveInterfaces();

@@ -142,7 +142,8 @@ def start(results):
 
 From the start to the window manager's word that the window is there, under a virtual screen. The splash stays
 its time before the first window comes. The splash is as large as its letters need, and the first letter makes
-the toolkit list all fonts of the system; an empty window asks for none.
+the toolkit list all fonts of the system; an empty window asks for none. The program has them listed while the
+toolkit connects to the desktop.
 
 {table(("window", "after"), rows)}
 

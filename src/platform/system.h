@@ -4,6 +4,7 @@
 #include <QByteArray>
 #include <QFileDevice>
 #include <QString>
+#include <thread>
 
 // What every system does in its own way. There is a source for each, system_posix.cpp
 // and system_windows.cpp, and the build takes one of them.
@@ -11,6 +12,10 @@
 /// Before the application is made: takes the one in which windows know their places
 /// where the user has several.
 void ChooseWindowSystem();
+
+/// Has the system list its fonts, for which a program's first letter waits, beside what
+/// the caller does until the thread returned here has ended.
+std::jthread FontListing();
 
 /// Brings what was written to a file to the disk; false when it is not known to be
 /// there.

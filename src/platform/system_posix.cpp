@@ -6,6 +6,7 @@
 #include <QStringDecoder>
 #include <fcntl.h>
 #include <filesystem>
+#include <fontconfig/fontconfig.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -17,6 +18,10 @@ void ChooseWindowSystem() {
     if (isWayland && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM") &&
         qEnvironmentVariableIsSet("DISPLAY"))
         qputenv("QT_QPA_PLATFORM", "xcb;wayland");
+}
+
+std::jthread FontListing() {
+    return std::jthread([] { FcInit(); });
 }
 
 bool BringToDisk(QFileDevice& file) {

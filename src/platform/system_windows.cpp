@@ -8,6 +8,10 @@
 
 void ChooseWindowSystem() {} // there is one
 
+std::jthread FontListing() {
+    return {}; // the system has listed them before
+}
+
 bool BringToDisk(QFileDevice& file) {
     return file.flush() && _commit(file.handle()) == 0;
 }

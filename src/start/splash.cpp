@@ -4,7 +4,7 @@
 #include "shared/colors.h"
 #include "shared/settings.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QThread>
 #include <QWindow>
 
@@ -37,8 +37,11 @@ void waitUntilExposed(const QWindow& window) {
 
 Splash::Splash() {
     m_box.BecomeSplash(splashColor());
+    const QIcon icon = QApplication::windowIcon();
+    QApplication::setWindowIcon({}); // a splash has none to wait for
     m_box.Show();
     waitUntilExposed(*m_box.windowHandle());
+    QApplication::setWindowIcon(icon);
     m_box.repaint();
     letWindowsPaint();
     m_release = Clock::now() + std::chrono::duration_cast<Clock::duration>(shownFor);

@@ -22,8 +22,8 @@ from checks import sources  # noqa: E402
 
 PACKAGE = "orvalen-years-calendar"
 PROGRAM_FOLDER = f"usr/libexec/{PACKAGE}"
-LIBRARIES = {"libc6", "libgcc-s1", "libqt6core6", "libqt6gui6", "libqt6printsupport6",
-             "libqt6svg6", "libqt6widgets6", "libstdc++6"}
+LIBRARIES = {"libc6", "libfontconfig1", "libgcc-s1", "libqt6core6", "libqt6gui6",
+             "libqt6printsupport6", "libqt6svg6", "libqt6widgets6", "libstdc++6"}
 NEW_MOON = datetime.date(2000, 1, 6)
 MONTH_OF_MOON = 29.530588  # days
 

@@ -9,6 +9,8 @@
 #include "support/texttables.h"
 #include "support/widget_test.h"
 
+#include <QApplication>
+#include <QIcon>
 #include <QImage>
 #include <utility>
 
@@ -60,6 +62,14 @@ TEST_F(Splash, HasTheColourOfItsNumberOrElseOfTheGregorianCalendar) {
         splash.Hide();
         EXPECT_EQ(watch.ground, color) << window;
     }
+}
+
+TEST_F(Splash, LeavesTheProgramItsIcon) {
+    QApplication::setWindowIcon(QIcon(programPath(QStringLiteral("Moon.bmp"))));
+    const qint64 icon = QApplication::windowIcon().cacheKey();
+    ::Splash().Hide();
+    EXPECT_EQ(QApplication::windowIcon().cacheKey(), icon);
+    QApplication::setWindowIcon({});
 }
 
 TEST_F(Splash, IsShownForItsWholeTimeAndTakesNoInputMeanwhile) {
