@@ -6,10 +6,11 @@
 #include "controls/dayinwords.h"
 #include "controls/emblems.h"
 #include "controls/tips.h"
-#include "monthly/commoninfo.h"
 #include "monthly/juliandayfield.h"
 #include "monthly/monthgrid.h"
 #include "monthly/pane.h"
+#include "monthly/panecalendars.h"
+#include "monthly/weekdayandmoon.h"
 #include "platform/commandbutton.h"
 #include "platform/image.h"
 #include "platform/line.h"
@@ -60,7 +61,7 @@ frmMonthlyCal::frmMonthlyCal()
     }
     Pane::ShareLetterSizes(m_panes);
     m_line1 = new Line(QStringLiteral("Line1"), this);
-    m_common = new CommonInfo(this);
+    m_common = new WeekdayAndMoon(this);
     createCommands();
     m_common->JulianDay()->SetLeavingControl(m_command1(closeButton));
     addPaneKeys();
@@ -217,15 +218,8 @@ void frmMonthlyCal::goToPane(int step) {
         m_panes(place)->TakeFocus();
 }
 
-// The pane that shows calendar c, where there is one, takes this pane's in its
-// place.
 void frmMonthlyCal::exchangeCalendars(int pane, int c) {
-    int other = 0;
-    for (int candidate = 1; candidate <= paneCount && other == 0; ++candidate)
-        other = CalendarOrder(candidate) == c ? candidate : 0;
-    if (other != 0)
-        CalendarOrder(other) = CalendarOrder(pane);
-    CalendarOrder(pane) = c;
+    const int other = ExchangeCalendars(pane, c);
     placeEmblems();
     for (const int changed : {pane, other}) {
         if (changed == 0)

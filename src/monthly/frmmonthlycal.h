@@ -8,7 +8,7 @@
 #include "shared/table.h"
 
 class CommandButton;
-class CommonInfo;
+class WeekdayAndMoon;
 class Image;
 class Line;
 class Pane;
@@ -50,6 +50,6 @@ private:
     Table<Image*, calendarCount> m_image1; ///< emblems by calendar
     Table<Pane*, paneCount> m_panes;
     Line* m_line1;
-    CommonInfo* m_common;
+    WeekdayAndMoon* m_common;
     Table<CommandButton*, commandCount> m_command1;
 };

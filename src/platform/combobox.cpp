@@ -3,6 +3,7 @@
 
 #include "platform/pointer.h"
 #include "platform/text.h"
+#include "platform/textfit.h"
 
 #include <QAbstractItemView>
 #include <QFocusEvent>

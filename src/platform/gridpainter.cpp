@@ -3,7 +3,7 @@
 
 #include "platform/color.h"
 #include "platform/gridmodel.h"
-#include "platform/text.h"
+#include "platform/textfit.h"
 
 #include <QAbstractScrollArea>
 #include <QPainter>

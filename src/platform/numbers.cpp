@@ -51,6 +51,12 @@ double Val(const QString& text) {
     return beginning.match(QString(text).remove(blank)).captured().toDouble();
 }
 
+float MyVal(const QString& text) {
+    if (text.contains(u','))
+        return static_cast<float>(QLocale().toDouble(text));
+    return static_cast<float>(Val(text));
+}
+
 bool IsWholeNumber(const QString& text) {
     static const QRegularExpression whole(QStringLiteral(R"(^\s*[+-]?[0-9]+\s*\z)"));
     return whole.match(text).hasMatch();

@@ -21,6 +21,10 @@ std::optional<int> CInt(const QString& text);
 /// 0 when there is none.
 double Val(const QString& text);
 
+/// A text as a number in single precision: one that contains a comma by the locale's
+/// rule, any other by Val. 0 where it is no number.
+float MyVal(const QString& text);
+
 /// Whether the text is a whole number in decimal digits, with or without a sign
 /// in front and blanks or line ends around.
 bool IsWholeNumber(const QString& text);

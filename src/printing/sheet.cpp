@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "printing/sheet.h"
 
-#include "platform/text.h"
+#include "platform/textfit.h"
 
 #include <QApplication>
 #include <QFontMetricsF>

@@ -11,6 +11,7 @@
 #include "platform/message.h"
 #include "platform/pointer.h"
 #include "platform/text.h"
+#include "platform/textfit.h"
 #include "settings/usersettings.h"
 #include "shared/settings.h"
 #include "shared/texts.h"

@@ -103,6 +103,15 @@ TEST(Numbers, ValReadsTheNumberAtTheBeginning) {
         EXPECT_DOUBLE_EQ(Val(QLatin1String(row.text)), row.value) << '"' << row.text << '"';
 }
 
+TEST(Numbers, ACommaIsReadAsTheLocaleDoes) {
+    EXPECT_EQ(MyVal(QStringLiteral("1.5")), 1.5F);
+    EXPECT_EQ(MyVal(QStringLiteral("abc")), 0.0F);
+    EXPECT_EQ(MyVal(QStringLiteral("a,b")), 0.0F);
+    const LocaleForNow german{QLocale(QLocale::German)};
+    EXPECT_EQ(MyVal(QStringLiteral("1,5")), 1.5F);
+    EXPECT_EQ(MyVal(QStringLiteral("1.5")), 1.5F);
+}
+
 TEST(Numbers, WholeNumbersAreWesternDigitsWithASignAndBlanksAround) {
     for (const char* text : {"0", "2451545", " 12 ", "+5", "-5", " -5"})
         EXPECT_TRUE(IsWholeNumber(QLatin1String(text))) << '"' << text << '"';

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "monthly/commoninfo.h"
+#include "monthly/weekdayandmoon.h"
 
 #include "monthly/monthly_test.h"
 
@@ -125,16 +125,6 @@ TEST_F(CommonSelectors, AgesShowOneDecimalAndNoZero) {
         window().SetCommonInfo();
         EXPECT_EQ(combo(7).Text(), QLatin1String(row.text));
     }
-}
-
-TEST_F(CommonSelectors, TextsAsNumbers) {
-    EXPECT_EQ(MyVal(QStringLiteral("1.5")), 1.5F);
-    EXPECT_EQ(MyVal(QStringLiteral("abc")), 0.0F);
-    EXPECT_EQ(MyVal(QStringLiteral("a,b")), 0.0F);
-    QLocale::setDefault(QLocale(QLocale::German));
-    EXPECT_EQ(MyVal(QStringLiteral("1,5")), 1.5F);
-    EXPECT_EQ(MyVal(QStringLiteral("1.5")), 1.5F);
-    QLocale::setDefault(QLocale::c());
 }
 
 } // namespace

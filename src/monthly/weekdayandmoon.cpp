@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "monthly/commoninfo.h"
+#include "monthly/weekdayandmoon.h"
 
 #include "calc/range.h"
 #include "calc/state.h"
@@ -16,7 +16,6 @@
 #include "shared/mainwindows.h"
 #include "shared/texts.h"
 
-#include <QLocale>
 #include <algorithm>
 
 namespace {
@@ -52,27 +51,27 @@ int widestWeekday(const ComboBox& list) {
 
 } // namespace
 
-CommonInfo::CommonInfo(QWidget* parent)
+WeekdayAndMoon::WeekdayAndMoon(QWidget* parent)
     : QObject(parent),
       m_combo6(new ComboBox(QStringLiteral("Combo6"), parent)),
       m_combo7(new ComboBox(QStringLiteral("Combo7"), parent)),
       m_command2(parent),
       m_combo8(new JulianDayField(QStringLiteral("Combo8"), parent)) {
-    connect(m_combo6, &ComboBox::Click, this, &CommonInfo::Combo6_Click);
-    connect(m_combo7, &ComboBox::Click, this, &CommonInfo::Combo7_Click);
+    connect(m_combo6, &ComboBox::Click, this, &WeekdayAndMoon::Combo6_Click);
+    connect(m_combo7, &ComboBox::Click, this, &WeekdayAndMoon::Combo7_Click);
     m_combo7->SetFiller(moonAges);
 }
 
-int CommonInfo::Width() const {
+int WeekdayAndMoon::Width() const {
     return widestWeekday(*m_combo6) + m_combo7->WidthFor(widestAge) + Height() +
            m_combo8->OwnWidth() + 3 * controlGap;
 }
 
-int CommonInfo::Height() const {
+int WeekdayAndMoon::Height() const {
     return std::max(m_combo6->sizeHint().height(), CommandButton::side);
 }
 
-void CommonInfo::Place(int left, int middle, int width) {
+void WeekdayAndMoon::Place(int left, int middle, int width) {
     const int height = m_combo6->sizeHint().height();
     const int top = middle - height / 2;
     const auto placeNext = [&left, top, height](ComboBox* list, int listWidth) {
@@ -86,13 +85,13 @@ void CommonInfo::Place(int left, int middle, int width) {
     placeNext(m_combo8, m_combo8->OwnWidth());
 }
 
-void CommonInfo::Reset() {
+void WeekdayAndMoon::Reset() {
     m_combo6->Clear();
     for (int weekday = Monday; weekday <= Sunday; ++weekday)
         m_combo6->AddItem(Text(WeekDayNames(weekday)));
 }
 
-void CommonInfo::Fill() {
+void WeekdayAndMoon::Fill() {
     const UpdatingGuard updating;
     if (m_combo6->ListIndex() != WeekDayNo - 1)
         m_combo6->SetListIndex(WeekDayNo - 1);
@@ -102,40 +101,34 @@ void CommonInfo::Fill() {
     m_combo8->Show(CurJD);
 }
 
-void CommonInfo::TakeFocus() {
+void WeekdayAndMoon::TakeFocus() {
     m_combo6->setFocus(Qt::ShortcutFocusReason);
 }
 
-void CommonInfo::SetTexts() {
+void WeekdayAndMoon::SetTexts() {
     Controls::SetTip(m_combo6, WeekDayText);
     Controls::SetTip(m_combo7, MoonAgeText);
     Controls::SetTip(m_combo8, JulianDayText);
     m_command2.SetTexts();
 }
 
-void CommonInfo::Combo6_Click() {
+void WeekdayAndMoon::Combo6_Click() {
     const int days = m_combo6->ListIndex() - (WeekDayNo - 1);
     if (!Updating && days != 0)
         moveBy(days);
 }
 
-void CommonInfo::Combo7_Click() {
+void WeekdayAndMoon::Combo7_Click() {
     if (!Updating && m_combo7->Text() != m_moonAge)
         moveBy(MyVal(m_combo7->Text()) - MyVal(m_moonAge));
 }
 
 // No day below the lowest can be reached; above, the way is open on purpose. In
 // either case the refill puts the lists right.
-void CommonInfo::moveBy(double days) {
+void WeekdayAndMoon::moveBy(double days) {
     const int moved = CLng(days + CurJD).value_or(CurJD);
     const bool isTooLow = moved < Calc::LowestDay();
     if (isTooLow)
         Beep();
     ChangeCals::ChooseJulianDay(isTooLow ? CurJD : moved, MonthlyWindowNumber);
-}
-
-float MyVal(const QString& text) {
-    if (text.contains(u','))
-        return static_cast<float>(QLocale().toDouble(text));
-    return static_cast<float>(Val(text));
 }

@@ -8,11 +8,11 @@ class JulianDayField;
 
 /// What the four calendars have in common for the chosen day: weekday, age and
 /// phase of the moon, Julian Day.
-class CommonInfo : public QObject {
+class WeekdayAndMoon : public QObject {
     Q_OBJECT
 
 public:
-    explicit CommonInfo(QWidget* parent);
+    explicit WeekdayAndMoon(QWidget* parent);
 
     /// What the controls need in a row, in pixels, in the present font and language.
     int Width() const;
@@ -49,7 +49,3 @@ private:
     JulianDayField* m_combo8;
     QString m_moonAge; ///< as last shown
 };
-
-/// A text of the window as a number in single precision: one that contains a
-/// comma by the locale's rule, any other by Val. 0 where it is no number.
-float MyVal(const QString& text);

@@ -1,9 +1,42 @@
 // SPDX-License-Identifier: MIT
-#include "platform/text.h"
+#include "platform/textfit.h"
 
 #include "support/platform_test.h"
 
+#include <QFontInfo>
+#include <QFontMetrics>
+
 namespace {
+
+TEST(FittedFonts, StayAsTheyAreWhereTheTextFits) {
+    QFont font;
+    font.setPixelSize(14);
+    const QString text = QStringLiteral("Heshvan");
+    const int width = QFontMetrics(font).horizontalAdvance(text);
+    EXPECT_EQ(FittedFont(font, text, width), font);
+    EXPECT_LT(QFontInfo(FittedFont(font, text, width - 1)).pixelSize(), 14);
+}
+
+TEST(FittedFonts, StayWithinTheWidthDownToTheirSmallestSize) {
+    constexpr int smallest = 6;
+    QFont font;
+    font.setPixelSize(20);
+    const QString text = QStringLiteral("A rather long month title");
+    for (int width = 0; width < 400; width += 7) {
+        const QFont fitted = FittedFont(font, text, width);
+        const int pixels = QFontInfo(fitted).pixelSize();
+        EXPECT_GE(pixels, smallest) << width;
+        EXPECT_LE(pixels, 20) << width;
+        EXPECT_TRUE(pixels == smallest || QFontMetrics(fitted).horizontalAdvance(text) <= width)
+            << width;
+    }
+}
+
+TEST(FittedFonts, StayAsTheyAreBelowTheSmallestSize) {
+    QFont font;
+    font.setPixelSize(5);
+    EXPECT_EQ(FittedFont(font, QStringLiteral("wide"), 1), font);
+}
 
 class Wrapping : public PlatformTest {
 protected:
