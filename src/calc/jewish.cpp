@@ -2,7 +2,7 @@
 // The Jewish calendar. A year of fewer than 383 days has 12 months, a longer one
 // 13: Adar is doubled.
 #include "calc/calc.h"
-#include "calc/dayofyear.h"
+#include "calc/months.h"
 #include "calc/range.h"
 #include "calc/state.h"
 #include "shared/texts.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The Julian and Gregorian calendars: the same months, two leap rules.
 #include "calc/calc.h"
-#include "calc/dayofyear.h"
+#include "calc/months.h"
 #include "calc/range.h"
 #include "calc/state.h"
 

@@ -1,13 +1,23 @@
 // SPDX-License-Identifier: MIT
-// The months of a year and their lengths.
+// The months of a year, their lengths, and the days in them.
+#include "calc/months.h"
+
 #include "calc/calc.h"
 #include "calc/state.h"
+
+#include <algorithm>
 
 namespace {
 
 void fillMonthLengths(int c, const Table<int, 12>& lengths) {
     for (int month = 1; month <= 12; ++month)
         MonthDays(c, month) = lengths(month);
+}
+
+void setYearEnds(int c, int newYear) {
+    YearJD(c, FirstDay) = newYear;
+    YearJD(c, LastDay) = newYear + YearDays(c, DaysInYear) - 1;
+    Calc::SetMonthStarts(c);
 }
 
 } // namespace
@@ -28,4 +38,38 @@ void Calc::FillConstantRows() {
 
 int Calc::MonthsInYear(int c) {
     return c == Jewish && JewishLeap ? monthLimit : 12;
+}
+
+int Calc::DayOfYear(int c, int month, int day) {
+    for (int before = 1; before < month; ++before)
+        day += MonthDays(c, before);
+    return day;
+}
+
+void Calc::DayToMonth(int c, int& month, int& day) {
+    month = 1;
+    while (month <= monthLimit && day - MonthDays(c, month) >= 1) {
+        day -= MonthDays(c, month);
+        ++month;
+    }
+}
+
+void Calc::DateToJD(int c, int newYear) {
+    int& day = CurDate(c, Day);
+    const int month = CurDate(c, Month);
+    day = std::min(day, MonthDays(c, month));
+    const int dayNumber = DayOfYear(c, month, day);
+    CurDate(c, DayNumber) = dayNumber;
+    CurJD = newYear + dayNumber - 1;
+    setYearEnds(c, newYear);
+}
+
+void Calc::DateFromDayNumber(int c, int newYear, int dayNumber) {
+    int month = 1;
+    int day = dayNumber;
+    DayToMonth(c, month, day);
+    CurDate(c, DayNumber) = dayNumber;
+    CurDate(c, Month) = month;
+    CurDate(c, Day) = day;
+    setYearEnds(c, newYear);
 }

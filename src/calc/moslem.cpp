@@ -3,7 +3,7 @@
 // others 354; months alternate between 30 and 29 days and the twelfth has 30 in
 // a long year.
 #include "calc/calc.h"
-#include "calc/dayofyear.h"
+#include "calc/months.h"
 #include "calc/range.h"
 #include "calc/state.h"
 #include "shared/settings.h"
