@@ -24,7 +24,7 @@ int backgroundOf(int c) {
 DayGrid::DayGrid(const QString& name, int bands, int titleRows, int columns,
                  MainWindowNumber window, QWidget* parent)
     : MSFlexGrid(name, bands * (titleRows + daysInWeek), columns, parent),
-      m_titleRows(titleRows),
+      m_bands{titleRows, columns},
       m_window(window) {
     SetAccessibleText([this](int row, int column) { return spokenText({row, column}); });
 }
@@ -36,7 +36,7 @@ GridPlace DayGrid::CellOf(int month, int day) const {
 }
 
 int DayGrid::MonthAt(GridPlace cell) const {
-    const bool canHoldDay = cell.column > 0 && weekRow(cell.row) >= 0;
+    const bool canHoldDay = cell.column > 0 && m_bands.WeekRow(cell.row) >= 0;
     return canHoldDay && !TextMatrix(cell.row, cell.column).isEmpty() ? MonthOf(cell) : 0;
 }
 
@@ -49,8 +49,9 @@ void DayGrid::SetCalendar(int c) {
 
 void DayGrid::FillWeekdays() {
     for (int row = 0; row < Rows(); ++row) {
-        if (weekRow(row) >= 0)
-            SetTextMatrix(row, 0, Text(WeekDayAbbrs(Calc::WeekdayOfRow(m_calendar, weekRow(row)))));
+        const int week = m_bands.WeekRow(row);
+        if (week >= 0)
+            SetTextMatrix(row, 0, Text(WeekDayAbbrs(Calc::WeekdayOfRow(m_calendar, week))));
     }
 }
 
@@ -94,11 +95,6 @@ void DayGrid::keyPressEvent(QKeyEvent* event) {
         MSFlexGrid::keyPressEvent(event);
 }
 
-// The row of the week from 0, below 0 for a title.
-int DayGrid::weekRow(int row) const {
-    return row % (m_titleRows + daysInWeek) - m_titleRows;
-}
-
 // Leaves the cell current.
 void DayGrid::setLook(GridPlace cell, int back, int fore, bool bold) {
     SetRow(cell.row);
@@ -108,38 +104,12 @@ void DayGrid::setLook(GridPlace cell, int back, int fore, bool bold) {
     SetCellFontBold(bold);
 }
 
-// The cell of the day before or after: down the columns of a band, then through
-// those of the next.
-GridPlace DayGrid::nextInColumns(GridPlace cell, int step) const {
-    const int bandRows = m_titleRows + daysInWeek;
-    const int first = step > 0 ? m_titleRows : bandRows - 1; // of the rows of a band
-    const int top = cell.row - cell.row % bandRows;
-    const int week = weekRow(cell.row) + step;
-    const int column = cell.column + step;
-    if (week >= 0 && week < daysInWeek)
-        return {cell.row + step, cell.column};
-    if (column >= 0 && column < Cols())
-        return {top + first, column};
-    return {top + step * bandRows + first, step > 0 ? 0 : Cols() - 1};
-}
-
-GridPlace DayGrid::nextBy(int arrowKey, GridPlace cell) const {
-    switch (arrowKey) {
-    case Qt::Key_Left:
-        return {cell.row, cell.column - 1};
-    case Qt::Key_Right:
-        return {cell.row, cell.column + 1};
-    default:
-        return nextInColumns(cell, arrowKey == Qt::Key_Up ? -1 : 1);
-    }
-}
-
 // To the next day, over blanks, titles and names; where there is none the current
 // cell stays.
 void DayGrid::moveOn(int arrowKey) {
-    GridPlace cell = nextBy(arrowKey, {Row(), Col()});
+    GridPlace cell = NextBy(arrowKey, {Row(), Col()}, m_bands);
     while (Contains(cell) && MonthAt(cell) == 0)
-        cell = nextBy(arrowKey, cell);
+        cell = NextBy(arrowKey, cell, m_bands);
     if (Contains(cell))
         MoveTo(cell);
 }
@@ -159,7 +129,7 @@ QString DayGrid::spokenText(GridPlace cell) const {
     const int month = MonthAt(cell);
     if (month == 0)
         return {};
-    const int weekday = Calc::WeekdayOfRow(m_calendar, weekRow(cell.row));
+    const int weekday = Calc::WeekdayOfRow(m_calendar, m_bands.WeekRow(cell.row));
     return SpokenDay(m_calendar, weekday, TextMatrix(cell.row, cell.column), month,
                      cell == SelectedCell());
 }

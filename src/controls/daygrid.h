@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "controls/arrowkeys.h"
 #include "platform/flexgrid.h"
 #include "shared/mainwindows.h"
 
@@ -67,16 +68,13 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    int weekRow(int row) const;
     void setLook(GridPlace cell, int back, int fore, bool bold);
-    GridPlace nextInColumns(GridPlace cell, int step) const;
-    GridPlace nextBy(int arrowKey, GridPlace cell) const;
     void moveOn(int arrowKey);
     void chooseDay(int month, int day);
     void chooseEnd(int month, int day);
     QString spokenText(GridPlace cell) const;
 
-    int m_titleRows;
+    DayBands m_bands;
     MainWindowNumber m_window;
     int m_calendar = 0;
 };
