@@ -4,6 +4,9 @@
 #include "platform/buttons_test.h"
 
 #include <QEnterEvent>
+#include <QStyle>
+#include <QStyleFactory>
+#include <memory>
 
 namespace {
 
@@ -91,6 +94,31 @@ TEST_F(OneButton, ItsCrossIsGreyAndRedUnderThePointer) {
     button->setEnabled(true);
     pointElsewhere(*button);
     EXPECT_LT(middle(*button).hsvSaturation(), grey);
+}
+
+class PaintsOf : public QObject {
+public:
+    explicit PaintsOf(QObject& watched) { watched.installEventFilter(this); }
+
+    bool eventFilter(QObject*, QEvent* event) override {
+        count += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+
+    int count = 0;
+};
+
+TEST_F(OneButton, IsPaintedAnewUnderThePointerInAStyleThatHasNoHover) {
+    const std::unique_ptr<QStyle> plain(QStyleFactory::create(QStringLiteral("Windows")));
+    button->setStyle(plain.get());
+    show();
+    QTest::mouseMove(window.windowHandle(), window.rect().bottomRight());
+    processEvents();
+    const PaintsOf paints(*button);
+    QTest::mouseMove(window.windowHandle(), button->geometry().center());
+    processEvents();
+    EXPECT_GT(paints.count, 0);
+    delete button; // before its style
 }
 
 // The width of the cross that is drawn in it.
