@@ -196,7 +196,6 @@ int ComboBox::chromeWidth() const {
         return border.left() + border.right() + arrowSide;
     QStyleOptionComboBox option;
     initStyleOption(&option);
-    option.rect = QRect(0, 0, 10 * sizeHint().height(), sizeHint().height());
     return option.rect.width() -
            style()
                ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this)

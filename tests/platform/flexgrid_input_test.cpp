@@ -150,6 +150,14 @@ TEST_F(MergedRow, EqualTextsAreMergedWhateverWasMergedBefore) {
     EXPECT_EQ(spans(), whole);
 }
 
+TEST_F(MergedRow, TheFirstCellIsMergedAsTheOthersAre) {
+    grid->SetTextMatrix(0, 0, QStringLiteral("May"));
+    setTitles({"May", "May", "May", "May", "May", "May"});
+    EXPECT_EQ(spans(), std::vector<int>(columns, 7));
+    setTitles({"a", "b", "c", "d", "e", "f"});
+    EXPECT_EQ(spans(), std::vector<int>(columns, 1));
+}
+
 TEST_F(MergedRow, OtherRowsAreNotMerged) {
     grid->SetTextMatrix(1, 1, QStringLiteral("x"));
     grid->SetTextMatrix(1, 2, QStringLiteral("x"));

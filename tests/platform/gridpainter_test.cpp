@@ -4,6 +4,7 @@
 #include "platform/flexgrid.h"
 #include "platform/twips.h"
 #include "support/contrast.h"
+#include "support/ink.h"
 #include "support/platform_test.h"
 
 #include <QLineEdit>
@@ -61,6 +62,15 @@ protected:
     MSFlexGrid* grid;
     QLineEdit* other;
 };
+
+TEST_F(GridLook, ATextStandsInTheMiddleOfAHighCell) {
+    constexpr int height = 60;
+    grid->SetRowHeight(1, ToTwips(height));
+    grid->SetSize(ToTwips(3 * cellSide + 2), ToTwips(2 * cellSide + height + 2));
+    grid->SetTextMatrix(1, 1, QStringLiteral("8"));
+    const QRect ink = InkOf(picture().copy(1 + cellSide, 1 + cellSide, cellSide, height));
+    EXPECT_NEAR(ink.center().y(), height / 2, 2);
+}
 
 TEST_F(GridLook, TheFrameIsOneLineOnAllSidesAtAnyScale) {
     window.resize(200, 200);
