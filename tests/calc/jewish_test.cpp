@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "calc/calc_test.h"
 
+#include <cstdlib>
+
 namespace {
 
 class JewishCalendar : public StateTest {};
@@ -179,6 +181,20 @@ TEST_F(JewishCalendar, AnUnnamedLastMonthLeavesTheOthersTheirNames) {
     goToJD(2460394);
     EXPECT_EQ(MonthNames(Jewish, 7), "Adar II");
     EXPECT_EQ(MonthNames(Jewish, 12), "Av");
+}
+
+TEST_F(JewishCalendar, ALeapYearOfNoLegalLengthLeavesTheLengths) {
+    enter(Jewish, {1, 1, 5763}); // 385 days: Heshvan has 30
+    const auto lengths = MonthDays;
+    YearDays(Jewish, DaysInYear) = 386;
+    Calc::SetJewishMonths();
+    EXPECT_EQ(MonthDays, lengths);
+}
+
+// In a process of its own, which nothing has set back.
+TEST(JewishCalendarDeathTest, AProgramBeginsInTheLayoutOfACommonYear) {
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    EXPECT_EXIT(std::exit(JewishLeap ? 1 : 0), testing::ExitedWithCode(0), "");
 }
 
 } // namespace

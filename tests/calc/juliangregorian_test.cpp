@@ -106,4 +106,9 @@ TEST_F(Roman, FirstTwoJulianDaysAreGregorianYearZero) {
     EXPECT_EQ(dateIn(Gregorian), (Date{31, 12, 0}));
 }
 
+TEST_F(Roman, JulianFormulaCountsFebruaryToTheYearBefore) {
+    EXPECT_EQ(Calc::JulianJD(29, 2, 1900), 2415092); // 13 March 1900 Gregorian
+    EXPECT_EQ(Calc::JulianJD(1, 3, 1900), 2415093);
+}
+
 } // namespace

@@ -80,4 +80,13 @@ TEST(MoslemCalendarYearZero, IsReadOutsideTheCycleWithoutHarm) {
     EXPECT_EQ(MoslemCycle, cycle);
 }
 
+TEST_F(MoslemCalendar, DaysBeforeTheEraAreTheLastOfYearZero) {
+    for (const int julianDay : {1948438, 1938000}) {
+        goToJD(julianDay);
+        EXPECT_EQ(dateIn(Moslem), (Date{29, 12, 0})) << julianDay;
+        EXPECT_EQ(CurDate(Moslem, DayNumber), 354) << julianDay;
+        EXPECT_EQ(YearJD(Moslem, LastDay), julianDay);
+    }
+}
+
 } // namespace

@@ -105,4 +105,13 @@ TEST_F(EveryDay, HasTheWeekdayAfterTheOneBefore) {
     }
 }
 
+TEST_F(DayInformation, AnUnknownCalendarNumberDerivesNothing) {
+    goTo(2451545);
+    setDate(Moslem, 1, 1, 1400);
+    for (const int c : {0, 5, -1}) {
+        ChangeCals::ChangeCal(c);
+        EXPECT_EQ(dateIn(Moslem), (Date{1, 1, 1400})) << c;
+    }
+}
+
 } // namespace

@@ -147,4 +147,16 @@ TEST_F(Updates, AChosenDayIsAnsweredByTheWindowWithTheKeyboard) {
                   {QAccessible::Focus, &window, QStringLiteral("2461366")}}));
 }
 
+TEST_F(Updates, AFirstWeekdayIsAppliedToItsCalendarAlone) {
+    for (const int c : {Julian, Gregorian, Jewish, Moslem}) {
+        const ChangeCals::Rules before;
+        FirstWeekDay(c) = Monday;
+        CurDate(c, WeekNumber) = 99;
+        Table<bool, calendarCount> expected;
+        expected(c) = true;
+        EXPECT_EQ(ChangeCals::ChangeRules(before), expected) << c;
+        EXPECT_NE(CurDate(c, WeekNumber), 99) << c;
+    }
+}
+
 } // namespace

@@ -3,11 +3,13 @@
 
 #include "changecals/opening.h"
 #include "changecals/windowpositions.h"
+#include "support/messageshown.h"
 #include "support/recording_windows.h"
 #include "support/widget_test.h"
 
 #include <QFile>
 #include <QSettings>
+#include <utility>
 
 namespace {
 
@@ -239,6 +241,46 @@ TEST_F(Closing, SettingsThatCannotBeWrittenAreToldOnceAndTheProgramEnds) {
     ASSERT_EQ(messages.size(), 1);
     EXPECT_TRUE(messages.front().contains(settingsPath())) << messages.front().toStdString();
     EXPECT_EQ(m_exitStatus, 0);
+}
+
+TEST_F(Closing, EndingIsNotBegunAgainWhileItsMessageStands) {
+    ChangeCals::LoadYear(Jewish).move(-2185, 10);
+    ChangeCals::LoadMonthly().Show();
+    bool again = false;
+    const MessageShown endAgain([&again](QMessageBox&) {
+        if (!std::exchange(again, true))
+            ChangeCals::ExitProgram();
+    });
+    ChangeCals::ExitProgram();
+    EXPECT_TRUE(again);
+    EXPECT_EQ(m_messages.take().size(), 1);
+    EXPECT_EQ(m_exitStatus, 1);
+}
+
+TEST_F(Closing, NothingEndsItAgainAfterTheLastFrameWasClosed) {
+    ChangeCals::LoadMonthly().Show();
+    ChangeCals::LoadMonthly().close();
+    EXPECT_EQ(m_exitStatus, 0);
+    EXPECT_TRUE(ChangeCals::IsLeaving());
+    m_exitStatus.reset();
+    ChangeCals::ExitProgram();
+    EXPECT_EQ(m_exitStatus, std::nullopt);
+    EXPECT_TRUE(nothingSaved());
+}
+
+TEST_F(Closing, PositionsAreSavedBeforeTheEnd) {
+    bool saved = false;
+    EndProgram = [this, &saved](int) { saved = QFile::exists(settingsPath()); };
+    ChangeCals::LoadMonthly().Show();
+    ChangeCals::ExitProgram();
+    EXPECT_TRUE(saved);
+}
+
+TEST_F(Closing, TheMonthlyWindowIsNoneAsSoonAsItIsUnloaded) {
+    ChangeCals::OpenYearWindow(Moslem);
+    ChangeCals::LoadMonthly().Show();
+    ChangeCals::LoadMonthly().close();
+    EXPECT_EQ(ChangeCals::LoadedWindow(MonthlyWindowNumber), nullptr);
 }
 
 } // namespace

@@ -186,4 +186,11 @@ TEST(DeskOfFirstPlaces, IsOneWherePositionsCanBeStored) {
               QRect(-2184, -2184, 4669, 4669));
 }
 
+// 436 and 736 pixels do not fit below one another; the cascade is 1187 by 819.
+TEST_F(FirstPlacesOf, AScreenTooLowForOneWindowAloneLetsThemOverlap) {
+    WindowSizes sizes = contents;
+    sizes(Julian) = QSize(389, 700);
+    EXPECT_EQ(FirstPlaces({0, 0, 1920, 1040}, sizes)(Julian), QPoint(1118, 193));
+}
+
 } // namespace

@@ -5,6 +5,8 @@
 #include "support/recording_windows.h"
 #include "support/widget_test.h"
 
+#include <utility>
+
 namespace {
 
 using Calls = std::vector<std::string>;
@@ -87,6 +89,22 @@ TEST_F(Opening, BringingUpTheMonthlyWindowKeepsTheChosenDay) {
         ChangeCals::LoadMonthly().Hide();
         ASSERT_EQ(StateSnapshot{}, before) << julianDay;
     }
+}
+
+TEST_F(Opening, YearWindowsAreUpToDateBeforeTheyAreSeen) {
+    class Watching : public RecordingYear {
+    public:
+        using RecordingYear::RecordingYear;
+        void ShowYear() override { ::record(Visible() ? "seen" : "unseen"); }
+    };
+    auto factories = recordingFactories();
+    factories.year = [](int c) { return new Watching(c); };
+    ChangeCals::BeginRun(std::move(factories));
+    ChangeCals::OpenYearWindow(Moslem);
+    EXPECT_EQ(takeCalls(), Calls{"unseen"});
+    ChangeCals::LoadYear(Moslem).Hide();
+    ChangeCals::OpenYearWindowsOfPanes();
+    EXPECT_EQ(takeCalls(), (Calls{"unseen", "unseen", "unseen", "unseen"}));
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 
 #include "platform/settingsfile.h"
 #include "support/judgement.h"
+#include "support/messageshown.h"
 #include "support/platform_test.h"
 #include "support/tables.h"
 
@@ -271,6 +272,25 @@ TEST_F(UserSettings, AnUnwritableFileIsToldOnceARun) {
     EXPECT_TRUE(ReadSettings());
     SaveSettings(SettingGroup::Positions);
     EXPECT_EQ(m_messages.take().size(), 1) << "another run";
+}
+
+TEST_F(UserSettings, TheMoslemTypeIsReadBeforeTheStartupWindow) {
+    store("[Startup]\nWindow=y\nShowTips=z\n[Moslem]\nType=x\n");
+    EXPECT_FALSE(ReadSettings());
+    EXPECT_EQ(m_messages.take(), toldOf("[Moslem] Type=x"));
+}
+
+TEST_F(UserSettings, ThatNothingCanBeWrittenIsNotToldAgainWhileItIsBeingTold) {
+    writeFile(m_folder.filePath(QStringLiteral("config")), "in the way");
+    EXPECT_TRUE(ReadSettings()); // another run
+    bool again = false;
+    const MessageShown saveAgain([&again](QMessageBox&) {
+        if (!std::exchange(again, true))
+            SaveSettings(SettingGroup::Positions);
+    });
+    SaveSettings(SettingGroup::PaneCalendars);
+    EXPECT_TRUE(again);
+    EXPECT_EQ(m_messages.take().size(), 1);
 }
 
 } // namespace

@@ -71,4 +71,10 @@ TEST_F(TableTest, IsHarmlessOutsideWhenNobodyIsToldOf) {
     EXPECT_EQ(table(0), 0);
 }
 
+TEST_F(TableTest, TellsTheColumnOfTheLastRowToo) {
+    const Table<int, 2, 3> table{11, 12, 13, 21, 22, 23};
+    EXPECT_EQ(table(2, 4), 0);
+    EXPECT_EQ(reported, (std::vector<Access>{{4, 3}}));
+}
+
 } // namespace
