@@ -185,7 +185,7 @@ void Pane::Combo3_Click() {
     const int month = m_combo3->ListIndex() + 1;
     if (Updating || m_combo3->ListCount() < 2 || month == CurDate(c, Month))
         return;
-    ChangeCals::DeriveDay(m_combo3->Origin());
+    // The only number that begins another is that of the first month, which cuts no day.
     ChangeCals::ChooseDate(c, {CurDate(c, Day), month, CurDate(c, Year)}, MonthlyWindowNumber);
 }
 

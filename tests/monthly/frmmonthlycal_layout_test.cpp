@@ -54,6 +54,11 @@ private:
     QFont m_formerFont;
 };
 
+TEST_F(MonthlyLayout, TheCommandsStandMidwayBetweenTheLineAndTheEdge) {
+    const QRect button = command(5).geometry();
+    EXPECT_NEAR(button.top() - line().bottom() - 1, window().height() - button.bottom() - 1, 1);
+}
+
 TEST_F(MonthlyLayout, ControlsNeitherOverlapNorStickOut) {
     expectNothingOverlapsOrSticksOut();
     const int height = window().height();

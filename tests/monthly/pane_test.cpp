@@ -178,6 +178,18 @@ TEST_F(Selectors, AChoiceIsCarriedOnce) {
     EXPECT_EQ(takeCalls(), std::vector<std::string>{"year1.ShowYear"});
 }
 
+TEST_F(Selectors, WhatIsChosenAlreadyIsNotCarried) {
+    ChangeCals::LoadYear(Julian).Show();
+    window().activateWindow();
+    for (const int kind : {2, 3, 4, 5}) {
+        ComboBox& list = combo(kind, 2);
+        list.setFocus();
+        calls.clear();
+        Q_EMIT list.activated(list.currentIndex());
+        EXPECT_TRUE(takeCalls().empty()) << kind;
+    }
+}
+
 // Days and weeks
 
 TEST_F(Selectors, ADayIsMeasuredFromTheDayThatIsShownNotFromAnEarlierOne) {
