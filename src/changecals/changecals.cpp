@@ -6,7 +6,6 @@
 #include "changecals/moonage.h"
 #include "changecals/windows.h"
 #include "platform/clock.h"
-#include "platform/numbers.h"
 #include "platform/spokenanswer.h"
 #include "shared/flags.h"
 #include "shared/mainwindows.h"

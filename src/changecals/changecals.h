@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "calc/state.h"
 #include "shared/mainwindows.h"
 #include "shared/settings.h"
+
+struct Date;
 
 /// Carries a change of the chosen day to all calendars and then to all windows.
 /// Nothing here checks ranges: the window that takes the user's input does.

@@ -5,7 +5,6 @@
 #include "changecals/windows.h"
 #include "platform/message.h"
 #include "platform/program.h"
-#include "platform/text.h"
 #include "settings/usersettings.h"
 
 void ChangeCals::CloseWindow(Form& form, int arg) {

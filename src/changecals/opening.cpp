@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "changecals/opening.h"
 
+#include "calc/state.h"
 #include "changecals/changecals.h"
 #include "changecals/windows.h"
 #include "shared/calendars.h"

@@ -3,6 +3,7 @@
 
 #include "changecals/moonage.h"
 #include "platform/numbers.h"
+#include "platform/twips.h"
 
 namespace {
 

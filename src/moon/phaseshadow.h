@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/twips.h"
+struct Twips;
 
 /// The one shape that covers the unlit part of the moon's picture. Positions and
 /// sizes are in twips from the picture's upper left corner; a circle's height is

@@ -5,6 +5,8 @@
 #include "platform/formaccessible.h"
 #include "platform/gridaccessible.h"
 
+#include <QAccessible>
+
 void InstallAssistiveInterfaces() {
     for (const auto factory : {NewComboBoxAccessible, NewFormAccessible, NewGridAccessible})
         QAccessible::installFactory(factory);

@@ -7,9 +7,7 @@
 
 #include <QHeaderView>
 #include <QKeyEvent>
-#include <QPainter>
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 namespace {

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QAccessible>
+class QAccessibleInterface;
+class QObject;
+class QString;
 
 /// What a Form is for assistive tools; nullptr for anything else.
 QAccessibleInterface* NewFormAccessible(const QString& className, QObject* object);

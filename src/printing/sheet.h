@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QFont>
 #include <QRectF>
 #include <QString>
 

@@ -7,7 +7,6 @@
 #include "platform/program.h"
 #include "platform/text.h"
 #include "shared/english.h"
-#include "shared/settings.h"
 #include "shared/texts.h"
 
 #include <QDir>
