@@ -24,11 +24,11 @@ QAccessibleInterface* newInterface(const QString& className, QObject* object) {
     return new QAccessibleWidget(qobject_cast<MoonPicture*>(object), QAccessible::Graphic);
 }
 
-// A shadow of less than a pixel covers nothing.
+// A shadow narrower than a pixel covers nothing.
 void paintShadow(QPainter& painter, const Shadow& shadow) {
     const QRectF shape(QPointF(shadow.left, shadow.top) / twipsPerPixel,
                        QSizeF(shadow.width, shadow.height) / twipsPerPixel);
-    if (shape.width() < 1 && shape.height() < 1)
+    if (shape.width() < 1)
         return;
     painter.setPen(QPen(ToColor(skyColor), shadow.border));
     painter.setBrush(shadow.solid ? QBrush(ToColor(skyColor)) : QBrush());
@@ -97,5 +97,5 @@ void MoonPicture::paintMoon(QPainter& painter) {
 void MoonPicture::paintSubstitute(QPainter& painter) const {
     painter.setPen(QPen(Qt::black, 1));
     painter.setBrush(ToColor(CalendarColors(Jewish)));
-    painter.drawEllipse(QRectF(rect()).adjusted(discMargin, discMargin, -discMargin, -discMargin));
+    painter.drawEllipse(rect().adjusted(discMargin, discMargin, -discMargin, -discMargin));
 }
