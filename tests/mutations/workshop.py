@@ -22,7 +22,7 @@ PROGRAM_TARGETS = ["orvalen-years-calendar", "moon_picture", "languages"]
 
 def linked():
     """Each room of the sources with the rooms that it links."""
-    found = re.findall(r"^add_room\((\w+)([^)]*)\)", (ROOT / "src/CMakeLists.txt").read_text(), re.M)
+    found = re.findall(r"^add_(?:qt_)?room\((\w+)([^)]*)\)", (ROOT / "src/CMakeLists.txt").read_text(), re.M)
     return {name: set(words.split()) for name, words in found}
 
 
