@@ -139,9 +139,11 @@ void JulianDayField::focusWindowChanged(const QWindow* focus) {
 }
 
 void JulianDayField::accept() {
-    if (m_refusing || Text() == m_shown)
+    if (m_refusing)
         return;
     m_accepted = Text();
+    if (m_accepted == m_shown)
+        return;
     const auto day = typedDay();
     if (!day)
         refuseNumber();

@@ -25,6 +25,6 @@ class BadSettings(EndToEndTest):
         box = self.program.message_box()
         self.assert_titles([PROGRAM_TITLE], "nothing but the message")
         box.accept()
-        self.assertNotEqual(self.program.wait_for_exit(), 0, "exit status")
+        self.assertEqual(self.program.wait_for_exit(), 1, "exit status")
         self.assertEqual(self.program.message_boxes_seen(), 1)
         self.assertEqual(self.settings.bytes(), stored, "the settings file")

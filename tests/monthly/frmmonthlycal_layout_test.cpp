@@ -4,6 +4,7 @@
 #include "shared/texts.h"
 
 #include <QApplication>
+#include <QEvent>
 #include <QFont>
 #include <QImage>
 #include <string>
@@ -196,6 +197,52 @@ TEST_F(MonthlyLayout, ListsOfMonthsHaveRoomForTheFirstAndTheLastOfEveryCalendar)
     }
     window().SetTexts();
     EXPECT_EQ(combo(3, 1).height(), oneLine);
+}
+
+TEST_F(MonthlyLayout, TheCommandsHave56PixelsFromTheLineToTheEdge) {
+    EXPECT_EQ(command(1).y() - line().y() - line().height(), 13); // 30 of 56 are the button's
+    EXPECT_EQ(window().height() - command(1).y() - command(1).height(), 13);
+}
+
+TEST_F(MonthlyLayout, AnotherStylePlacesTheControlsAnew) {
+    const QPoint place = command(1).pos();
+    command(1).move(0, 0);
+    QEvent change(QEvent::StyleChange);
+    QCoreApplication::sendEvent(&window(), &change);
+    EXPECT_EQ(command(1).pos(), place);
+}
+
+TEST_F(MonthlyLayout, GridsStandInTheMiddleOfTheirPanes) {
+    for (int pane = 1; pane <= 4; ++pane)
+        EXPECT_EQ(grid(pane).x(), lefts[pane - 1] + 13); // 121 of 148 pixels
+}
+
+// In a common year too, in which it has no name of its own.
+TEST_F(MonthlyLayout, ListsOfMonthsHaveRoomForTheSecondAdar) {
+    goTo(2461000); // in 5786, of twelve months
+    ASSERT_FALSE(JewishLeap);
+    const int oneLine = combo(2, 1).height();
+    bool wasHigher = false;
+    for (std::size_t wide = 0; wide < 60; ++wide) {
+        AdarName = "Ww " + std::string(wide, 'i'); // MonthNames has the former one still
+        window().SetTexts();
+        const QString entry = QStringLiteral("7/13  ") + QString::fromStdString(AdarName + " II");
+        const int expected = combo(3, 1).HeightFor({entry}, 148);
+        EXPECT_EQ(combo(3, 1).height(), expected) << wide;
+        wasHigher = wasHigher || expected > oneLine;
+    }
+    EXPECT_TRUE(wasHigher);
+    AdarName = "Adar";
+}
+
+TEST_F(MonthlyLayout, TheListOfWeekdaysHasRoomForTheFirstAndTheLast) {
+    for (const int weekday : {1, 7}) {
+        const std::string former = WeekDayNames(weekday);
+        WeekDayNames(weekday) = "Wwwwwwwwwwww";
+        window().SetTexts();
+        EXPECT_EQ(combo(6).width(), combo(6).WidthFor(QStringLiteral("Wwwwwwwwwwww"))) << weekday;
+        WeekDayNames(weekday) = former;
+    }
 }
 
 } // namespace

@@ -268,4 +268,17 @@ TEST_F(MonthlyPaper, IsOfAPaneThatShowsTheDay) {
     EXPECT_EQ(printedFrom(combo(1, 3)), "print month 0");
 }
 
+TEST_F(MonthlyWindowTest, AnswersWithTheDayOfTheLastPaneWhereNoOtherHasIt) {
+    CalendarOrder = {Julian, Gregorian, Moslem, Jewish};
+    goTo(1721319); // before the other calendars
+    EXPECT_EQ(window().Answer(), QStringLiteral("Saturday, 1 Tishri 3761, Jewish calendar"));
+}
+
+TEST_F(MonthlyWindowTest, TheEmblemOfACalendarThatNoPaneShowsIsHidden) {
+    CalendarOrder = {Julian, Gregorian, Jewish, 9};
+    window().ReSetForm();
+    EXPECT_TRUE(child<QWidget>(window(), "Image1_4")->isHidden());
+    EXPECT_TRUE(child<QWidget>(window(), "Image1_3")->isVisible());
+}
+
 } // namespace

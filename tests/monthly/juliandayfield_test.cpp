@@ -183,4 +183,25 @@ TEST_F(JulianDayEntry, EscapeIsAnsweredWithTheChosenDay) {
     EXPECT_EQ(combo(8).Answer(), QStringLiteral("Friday, 7 November 2026, Julian calendar"));
 }
 
+TEST_F(JulianDayEntry, ARefusedCharacterBringsBackTheEntryThatWasChosen) {
+    type(QStringLiteral("24"));
+    combo(8).showPopup();
+    QTest::keyClick(combo(8).view(), Qt::Key_Return);
+    edit().setCursorPosition(7);
+    QTest::keyClicks(&combo(8), QStringLiteral("x"));
+    EXPECT_EQ(m_beeps, 1);
+    EXPECT_EQ(combo(8).Text(), QStringLiteral("2461365"));
+}
+
+TEST_F(JulianDayEntry, ARefusedCharacterBringsBackWhatAToolWrote) {
+    combo(8).setFocus();
+    edit().setText(QStringLiteral("5")); // without a key
+    QTest::keyClick(&combo(8), Qt::Key_Return);
+    expectOneRangeMessage();
+    QTest::keyClicks(&combo(8), QStringLiteral("x"));
+    EXPECT_EQ(m_beeps, 1);
+    EXPECT_EQ(combo(8).Text(), QStringLiteral("5"));
+    goTo(2461365);
+}
+
 } // namespace

@@ -127,4 +127,12 @@ TEST_F(CommonSelectors, AgesShowOneDecimalAndNoZero) {
     }
 }
 
+TEST_F(CommonSelectors, TheLowestDayItselfIsReached) {
+    goTo(1721320); // a Sunday
+    QTest::keyClick(&combo(6), Qt::Key_Up);
+    EXPECT_EQ(m_beeps, 0);
+    EXPECT_EQ(CurJD, 1721319);
+    expectPanesShowTheState();
+}
+
 } // namespace

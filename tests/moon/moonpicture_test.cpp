@@ -10,6 +10,7 @@
 
 #include <QImage>
 #include <QLabel>
+#include <QPalette>
 
 namespace {
 
@@ -163,6 +164,17 @@ TEST_F(MoonPictures, OnlyTheLeftButtonsDoubleClickBringsBackTheMonthlyWindow) {
     EXPECT_FALSE(ChangeCals::IsVisible(MonthlyWindowNumber)) << "one click";
     QTest::mouseDClick(&picture(), Qt::LeftButton);
     EXPECT_TRUE(ChangeCals::IsVisible(MonthlyWindowNumber));
+}
+
+TEST_F(MoonPictures, TheDiscInThePlaceOfAPictureLooksTheSameOnADarkDesktop) {
+    MoonPicture alone(QStringLiteral("Picture1"), nullptr);
+    alone.resize(side, side);
+    alone.SetPicture({});
+    const QImage usual = alone.grab().toImage();
+    QPalette dark = alone.palette();
+    dark.setColor(QPalette::WindowText, Qt::white);
+    alone.setPalette(dark);
+    EXPECT_EQ(alone.grab().toImage(), usual);
 }
 
 } // namespace

@@ -36,6 +36,7 @@ TEST_F(Stack, CountsItsButtonsFromZero) {
         EXPECT_EQ(stack.Buttons()[static_cast<std::size_t>(i)]->objectName(),
                   QStringLiteral("Command2_%1").arg(i));
     EXPECT_EQ(stack.Front(), stack.Buttons()[0]);
+    EXPECT_EQ(tabStops(), (std::vector<bool>{true, false, false}));
 }
 
 TEST_F(Stack, OnlyTheOneInFrontIsSeenAndReachedByTab) {
@@ -74,6 +75,18 @@ TEST_F(Stack, ClicksOfTheFrontOneAreTold) {
     stack.BringToFront(2);
     click(seen());
     EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(Stack, TheOneInFrontHasItsFormersPlaceAmongTheTabStops) {
+    auto* next = new QLineEdit(&window);
+    next->move(200, 0);
+    QWidget::setTabOrder(stack.Front(), next); // the others of the stack come behind it
+    show();
+    stack.BringToFront(2);
+    QTest::keyClick(other, Qt::Key_Tab);
+    EXPECT_TRUE(stack.Front()->hasFocus());
+    QTest::keyClick(stack.Front(), Qt::Key_Tab);
+    EXPECT_TRUE(next->hasFocus());
 }
 
 } // namespace

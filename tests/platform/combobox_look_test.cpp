@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/combobox_test.h"
 #include "support/ink.h"
+#include "support/paintsof.h"
 
 #include <QAbstractItemView>
 #include <QScrollBar>
@@ -34,6 +35,7 @@ TEST_P(ComboInStyle, FifteenEntriesDropDownTheChosenOneInTheirMiddle) {
     const int height = view->viewport()->height();
     EXPECT_LE(height, 15 * chosen.height() + chosen.height() / 2);
     EXPECT_GE(height, 14 * chosen.height());
+    EXPECT_EQ(list->maxVisibleItems(), 15);
     EXPECT_NEAR(chosen.center().y(), height / 2.0, chosen.height());
     EXPECT_TRUE(view->verticalScrollBar()->isVisible());
 }
@@ -109,6 +111,17 @@ TEST_P(ComboInStyle, AShortListDropsDownWhole) {
         EXPECT_TRUE(
             view->viewport()->rect().contains(view->visualRect(view->model()->index(row, 0))));
     EXPECT_FALSE(view->verticalScrollBar()->isVisible());
+}
+
+TEST_P(ComboInStyle, AListInWhichALetterWasTypedHasItsBarToo) {
+    show();
+    focusList();
+    QTest::keyClick(list, Qt::Key_T); // for which the toolkit makes the list that drops down
+    offerYears(1500);
+    list->showPopup();
+    ASSERT_TRUE(waitUntil([this] { return isOpen(); }));
+    processEvents();
+    EXPECT_TRUE(list->view()->verticalScrollBar()->isVisible());
 }
 
 INSTANTIATE_TEST_SUITE_P(Styles, ComboInStyle, testing::Values("fusion", "windows", "adwaita"));
@@ -215,6 +228,55 @@ TEST_F(Combo, ItsEntryHasTheColorOfTheTextsOfFields) {
         for (int x = 0; x < image.width(); ++x)
             red += static_cast<int>(image.pixelColor(x, y) == QColor(Qt::red));
     EXPECT_GT(red, 0);
+}
+
+TEST_F(Combo, ItsWidthIsThatOfItsTextAnd24Pixels) {
+    const QString text = QStringLiteral("2888");
+    EXPECT_EQ(list->WidthFor(text), QFontMetrics(list->font()).horizontalAdvance(text) + 24);
+}
+
+TEST_F(Combo, AFieldKeeps24PixelsBesideItsText) {
+    list->setEditable(true);
+    show();
+    EXPECT_EQ(list->WidthFor({}), list->width() - list->lineEdit()->width() + 24);
+}
+
+// A line without gaps, too long for the smallest letters: what is seen of it is all the room.
+TEST_F(Combo, ItsEntryHasTheRoomFromItsFifthPixelToTheArrow) {
+    show();
+    list->resize(80, 24);
+    list->SetOnlyItem(QString(60, u'_'));
+    const QRect ink = inkOf(*list);
+    EXPECT_EQ(ink.left(), 5);
+    EXPECT_EQ(ink.right(), 62);
+}
+
+TEST_F(Combo, TwoLinesNeedTheirHeightAndFourPixels) {
+    show();
+    QFont font = list->font();
+    font.setPixelSize(20);
+    list->setFont(font);
+    const QString text = QStringLiteral("Hxxx Hxxx");
+    list->SetOnlyItem(text);
+    const int lines =
+        QFontMetrics(font).boundingRect(QRect(0, 0, 66, 1000), Qt::TextWordWrap, text).height();
+    list->resize(90, lines + 4);
+    const QRect whole = inkOf(*list);
+    list->resize(90, lines + 3);
+    EXPECT_LT(inkOf(*list).width(), whole.width());
+}
+
+TEST_F(Combo, AllListsOfARowArePaintedWhenTheTextOfOneChanges) {
+    auto* neighbour = new ComboBox(QStringLiteral("Combo2"), &window);
+    neighbour->setGeometry(100, 50, 80, 24);
+    neighbour->SetOnlyItem(QStringLiteral("HHH"));
+    list->SetOnlyItem(QStringLiteral("HHH"));
+    ComboBox::ShareLetterSize({list, neighbour});
+    show();
+    processEvents();
+    const PaintsOf paints(*neighbour);
+    list->SetOnlyItem(QString(8, u'H'));
+    EXPECT_TRUE(waitUntil([&paints] { return paints.count > 0; }));
 }
 
 } // namespace

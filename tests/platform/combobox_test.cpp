@@ -111,6 +111,7 @@ TEST_F(Combo, TheWheelWithoutTheFocusChangesNothing) {
     EXPECT_EQ(list->ListIndex(), 0);
     EXPECT_EQ(clicks, 0);
     EXPECT_FALSE(list->hasFocus());
+    EXPECT_EQ(list->focusPolicy(), Qt::StrongFocus) << "no turn brings the focus";
 }
 
 // Filling
@@ -119,6 +120,8 @@ TEST_F(Combo, NumbersBecomeEntries) {
     const ListEntries entries = NumberedEntries(3, 5, 4);
     EXPECT_EQ(entries.texts, QStringLiteral("3 4 5").split(u' '));
     EXPECT_EQ(entries.chosen, 1);
+    EXPECT_EQ(NumberedEntries(3, 5, 3).chosen, 0);
+    EXPECT_EQ(NumberedEntries(3, 5, 5).chosen, 2);
     EXPECT_TRUE(NumberedEntries(3, 5, 2).texts.isEmpty());
     EXPECT_TRUE(NumberedEntries(3, 5, 6).texts.isEmpty());
 }
@@ -195,6 +198,18 @@ TEST_F(Combo, ThePointerIsAnHourglassWhileAListIsFilled) {
     focusList();
     EXPECT_EQ(shape, Qt::WaitCursor);
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+}
+
+TEST_F(Combo, AListOfTwoEntriesIsFull) {
+    list->SetItems({QStringLiteral("1"), QStringLiteral("2")}, 0);
+    list->SetFiller([this] {
+        ++fillings;
+        return NumberedEntries(1, 3000, 1);
+    });
+    show();
+    focusList();
+    EXPECT_EQ(fillings, 0);
+    EXPECT_EQ(list->ListCount(), 2);
 }
 
 } // namespace

@@ -152,4 +152,11 @@ TEST_F(AccessibleCombo, NothingOfItsTextIsSelectedAndAllOfItLooksAlike) {
     EXPECT_EQ(end, 4);
 }
 
+TEST_F(AccessibleCombo, PartsOfItsTextEndWhereTheyAreAskedTo) {
+    const QAccessibleTextInterface* text = accessible(*list).textInterface();
+    ASSERT_NE(text, nullptr);
+    EXPECT_EQ(text->text(0, 1), QStringLiteral("2"));
+    EXPECT_EQ(text->text(1, 3), QStringLiteral("02"));
+}
+
 } // namespace

@@ -2,6 +2,7 @@
 #include "platform/commandbutton.h"
 
 #include "platform/buttons_test.h"
+#include "support/paintsof.h"
 
 #include <QEnterEvent>
 #include <QStyle>
@@ -95,18 +96,6 @@ TEST_F(OneButton, ItsCrossIsGreyAndRedUnderThePointer) {
     pointElsewhere(*button);
     EXPECT_LT(middle(*button).hsvSaturation(), grey);
 }
-
-class PaintsOf : public QObject {
-public:
-    explicit PaintsOf(QObject& watched) { watched.installEventFilter(this); }
-
-    bool eventFilter(QObject*, QEvent* event) override {
-        count += event->type() == QEvent::Paint ? 1 : 0;
-        return false;
-    }
-
-    int count = 0;
-};
 
 TEST_F(OneButton, IsPaintedAnewUnderThePointerInAStyleThatHasNoHover) {
     const std::unique_ptr<QStyle> plain(QStyleFactory::create(QStringLiteral("Windows")));

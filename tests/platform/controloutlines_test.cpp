@@ -183,4 +183,19 @@ TEST_F(Outlines, AreLeftToStylesThatDrawThemInOtherColors) {
     EXPECT_EQ(ground, QColor(Qt::black));
 }
 
+TEST_F(Outlines, FollowTheColorsOfWindowsWhateverThoseOfFieldsAre) {
+    addControls();
+    QPalette colors = colorsOf({"yellow on black", Qt::black, Qt::yellow});
+    colors.setColor(QPalette::Base, Qt::white);
+    colors.setColor(QPalette::Text, Qt::red);
+    QApplication::setPalette(colors);
+    processEvents();
+    EXPECT_EQ(check->palette().color(QPalette::Window), QColor(Qt::yellow));
+    colors = colorsOf({"grey on white", Qt::white, Qt::darkGray});
+    colors.setColor(QPalette::Text, Qt::black);
+    QApplication::setPalette(colors);
+    processEvents();
+    EXPECT_EQ(check->palette().color(QPalette::Window), QColor(Qt::white)) << "not forced";
+}
+
 } // namespace

@@ -158,6 +158,25 @@ TEST_F(MergedRow, TheFirstCellIsMergedAsTheOthersAre) {
     EXPECT_EQ(spans(), std::vector<int>(columns, 1));
 }
 
+TEST_F(MergedRow, PairsAreOneCellUntilTheyDiffer) {
+    setTitles({"a", "a", "b", "b", "c", "c"});
+    EXPECT_EQ(spans(), (std::vector<int>{1, 2, 2, 2, 2, 2, 2}));
+    setTitles({"a", "b", "c", "d", "e", "f"});
+    EXPECT_EQ(spans(), std::vector<int>(columns, 1));
+}
+
+TEST_F(MergedRow, NoTitleReachesIntoTheRowBelow) {
+    setTitles({"May", "May", "May", "May", "May", "May"});
+    for (int column = 0; column < columns; ++column)
+        EXPECT_EQ(grid->rowSpan(0, column), 1) << column;
+    setTitles({"a", "b", "c", "d", "e", "f"});
+    for (int column = 0; column < columns; ++column)
+        EXPECT_EQ(grid->rowSpan(0, column), 1) << column;
+    show();
+    pressAt(middleOf(1, 1));
+    EXPECT_EQ(presses, (std::vector<Press>{{{1, 1}, Qt::LeftButton}}));
+}
+
 TEST_F(MergedRow, OtherRowsAreNotMerged) {
     grid->SetTextMatrix(1, 1, QStringLiteral("x"));
     grid->SetTextMatrix(1, 2, QStringLiteral("x"));

@@ -8,6 +8,7 @@
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QScrollBar>
+#include <QStyle>
 
 namespace {
 
@@ -115,6 +116,19 @@ TEST_F(FlexGrid, HiddenColumnsTakeNoRoom) {
     grid->SetColHidden(6, false);
     EXPECT_EQ(grid->columnAt(6 * cellWidth + 3), 6);
     EXPECT_EQ(grid->ColWidth(6), ToTwips(cellWidth));
+}
+
+TEST_F(FlexGrid, ItsFrameIsOnePixelInAStyleOfWideFramesToo) {
+    const QString former = QApplication::style()->name();
+    QApplication::setStyle(QStringLiteral("windows"));
+    MSFlexGrid another(QStringLiteral("MSFlexGrid2"), 2, 2, nullptr);
+    another.SetSize({600}, {600});
+    another.show();
+    processEvents();
+    const QRect cells = another.viewport()->geometry();
+    another.hide();
+    QApplication::setStyle(former);
+    EXPECT_EQ(cells, QRect(1, 1, 38, 38));
 }
 
 } // namespace

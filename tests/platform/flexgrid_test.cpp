@@ -143,4 +143,17 @@ TEST_F(FlexGrid, ManyChangedCellsArePaintedOnce) {
     EXPECT_EQ(painted, rows * columns);
 }
 
+TEST_F(FlexGrid, ManyChangedCellsArePaintedWithinTheRectangleThatHoldsThem) {
+    show();
+    const int painted = paintedBy([this] {
+        grid->SetRedraw(false);
+        for (int row = 5; row < rows; ++row)
+            for (int column = 0; column < 4; ++column)
+                grid->SetTextMatrix(row, column, QStringLiteral("a"));
+        grid->SetRedraw(true);
+    });
+    EXPECT_GE(painted, 12);
+    EXPECT_LE(painted, 20) << "the toolkit adds a line of pixels at the end";
+}
+
 } // namespace

@@ -260,4 +260,18 @@ TEST_F(AccessibleGrid, ACellThatSaysSomethingElseIsToldAgainAsAnotherEntry) {
     EXPECT_EQ(watch.take(QAccessible::Focus), std::vector<Told>{});
 }
 
+TEST_F(AccessibleGrid, ItsEntriesGoWithIt) {
+    const QAccessible::Id entry = QAccessible::uniqueId(&cell(2, 1));
+    ASSERT_NE(QAccessible::accessibleInterface(entry), nullptr);
+    delete grid;
+    EXPECT_EQ(QAccessible::accessibleInterface(entry), nullptr);
+}
+
+TEST_F(AccessibleGrid, WithoutWordsOfItsOwnItsTextsAreItsEntriesFromTheFirstRowOn) {
+    QAccessibleInterface& list = accessible(*neighbour);
+    ASSERT_EQ(list.childCount(), 2);
+    EXPECT_EQ(list.child(0)->text(QAccessible::Name), QStringLiteral("a"));
+    EXPECT_EQ(list.child(1)->text(QAccessible::Name), QStringLiteral("b"));
+}
+
 } // namespace

@@ -219,4 +219,71 @@ TEST_F(GridLook, TextsOfADisabledGridFadeToHalfAndTheGroundStays) {
     EXPECT_EQ(corner(faded, 2, 2), ToColor(pale));
 }
 
+/// How dark all that is drawn within a cell is together.
+int darkness(const QImage& image, int row, int column) {
+    int sum = 0;
+    for (int y = 2; y < cellSide - 2; ++y)
+        for (int x = 2; x < cellSide - 2; ++x)
+            sum += 255 - qGray(image.pixel(1 + column * cellSide + x, 1 + row * cellSide + y));
+    return sum;
+}
+
+TEST_F(GridLook, BoldTextsAreHeavierThanOthers) {
+    other->setFocus();
+    grid->SetTextMatrix(1, 1, QStringLiteral("8"));
+    const int plain = darkness(picture(), 1, 1);
+    grid->SetRow(1);
+    grid->SetCol(1);
+    grid->SetCellFontBold(true);
+    EXPECT_GT(darkness(picture(), 1, 1), plain);
+    grid->SetCellFontBold(false);
+    EXPECT_EQ(darkness(picture(), 1, 1), plain);
+}
+
+TEST_F(GridLook, ATextStandsInTheMiddleOfAWideCell) {
+    other->setFocus();
+    grid->SetFontPixelSize(16);
+    const QString text = QStringLiteral("HH"); // as much free on its left as on its right
+    const double advance = QFontMetricsF(grid->font()).horizontalAdvance(text);
+    const int width = static_cast<int>(std::ceil(advance)) + 20;
+    grid->SetColWidth(1, ToTwips(width));
+    grid->SetSize(ToTwips(2 * cellSide + width + 2), ToTwips(3 * cellSide + 2));
+    grid->SetTextMatrix(1, 1, text);
+    const QRect ink = InkOf(picture().copy(1 + cellSide, 1 + cellSide, width, cellSide));
+    const int right = width - 1 - ink.right();
+    EXPECT_GE(right, ink.left());
+    EXPECT_LE(right, ink.left() + 1);
+}
+
+TEST_F(GridLook, ASingleDigitBeginsInTheMiddleOfItsCell) {
+    other->setFocus();
+    grid->SetFontPixelSize(16);
+    grid->SetColWidth(1, ToTwips(40));
+    grid->SetSize(ToTwips(2 * cellSide + 40 + 2), ToTwips(3 * cellSide + 2));
+    grid->SetTextMatrix(1, 1, QStringLiteral("8"));
+    const QRect ink = InkOf(picture().copy(1 + cellSide, 1 + cellSide, 40, cellSide));
+    EXPECT_NEAR(ink.left(), 21, 1); // a pixel is free before the digit
+}
+
+TEST_F(GridLook, TheFrameWithTheFocusHasTheColorOfTheTextsOfWindows) {
+    QPalette colors = window.palette();
+    colors.setColor(QPalette::WindowText, QColor(10, 20, 30));
+    colors.setColor(QPalette::Text, QColor(200, 0, 0));
+    window.setPalette(colors);
+    grid->setFocus();
+    EXPECT_EQ(frameOf(picture()), (std::vector<QColor>{QColor(10, 20, 30), QColor(10, 20, 30)}));
+}
+
+TEST_F(GridLook, TextsAreDrawnInTheSizeThatWasSetLast) {
+    other->setFocus();
+    grid->SetTextMatrix(1, 1, QStringLiteral("8"));
+    const auto height = [this] {
+        return InkOf(picture().copy(1 + cellSide, 1 + cellSide, cellSide, cellSide)).height();
+    };
+    grid->SetFontPixelSize(8);
+    const int small = height();
+    grid->SetFontPixelSize(16);
+    EXPECT_GT(height(), small + 3);
+}
+
 } // namespace

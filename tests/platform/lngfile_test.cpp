@@ -2,10 +2,12 @@
 #include "platform/lngfile.h"
 
 #include "support/platform_test.h"
+#include "support/usualrights.h"
 
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QFileInfo>
 
 namespace {
 
@@ -218,11 +220,11 @@ TEST_F(LngFiles, EmptyAndBinaryFilesHoldNothing) {
 TEST_F(LngFiles, FilesAreReadUpToTheLargestSize) {
     const QString path = programPath(QStringLiteral("x.lng"));
     const QByteArray start("[S]\n1=x\n");
-    writeFile(path, start.leftJustified(LngFile::largestSize, '\n'));
+    writeFile(path, start.leftJustified(1'048'576, '\n'));
     const LngFile largest(path);
     EXPECT_EQ(largest.ReadStatus(), LngFile::Status::Read);
     EXPECT_EQ(largest.GetPrivateProfileString("S", "1", bufferSize), "x");
-    writeFile(path, start.leftJustified(LngFile::largestSize + 1, '\n'));
+    writeFile(path, start.leftJustified(1'048'577, '\n'));
     const LngFile tooLarge(path);
     EXPECT_EQ(tooLarge.ReadStatus(), LngFile::Status::TooLarge);
     EXPECT_EQ(tooLarge.GetPrivateProfileString("S", "1", bufferSize), "");
@@ -259,6 +261,16 @@ TEST_F(LngFiles, LinksToFilesAreRead) {
     const QString link = programPath(QStringLiteral("link.lng"));
     ASSERT_TRUE(QFile::link(programPath(QStringLiteral("x.lng")), link));
     EXPECT_EQ(LngFile(link).GetPrivateProfileString("S", "1", bufferSize), "x");
+}
+
+TEST_F(LngFiles, AFileThatMayNotBeReadIsUnreadable) {
+    const QString path = programPath(QStringLiteral("x.lng"));
+    writeFile(path, "[S]\n1=x\n");
+    for (const QString& folder : {m_folder.path(), QFileInfo(path).path()})
+        ASSERT_TRUE(QFile::setPermissions(folder, QFile::Permissions(0x7777)));
+    ASSERT_TRUE(QFile::setPermissions(path, {}));
+    const UsualRights usual;
+    EXPECT_EQ(LngFile(path).ReadStatus(), LngFile::Status::Unreadable);
 }
 
 } // namespace

@@ -20,6 +20,7 @@ struct BoxWatch {
     QAccessible::Role role = QAccessible::NoRole;
     QImage icon;
     int width = 0;
+    int margins = 0;
     QSize titleRoom; ///< what the layout keeps for the title
 
     MessageShown watch{[this](QMessageBox& box) {
@@ -28,6 +29,8 @@ struct BoxWatch {
         role = QAccessible::queryAccessibleInterface(&box)->role();
         icon = box.windowIcon().pixmap(32).toImage();
         width = box.width();
+        const QMargins free = box.layout()->contentsMargins();
+        margins = free.left() + free.right();
         titleRoom = box.layout()->itemAt(box.layout()->count() - 1)->sizeHint();
     }};
 };
@@ -75,6 +78,7 @@ TEST_F(Messages, AreWideEnoughForTheirTitle) {
         QFontMetrics(titleFont).horizontalAdvance(QStringLiteral("Orvalen Years Calendar"));
     EXPECT_EQ(watch.titleRoom, QSize(title + 4 * 24, 0));
     EXPECT_GE(watch.width, watch.titleRoom.width());
+    EXPECT_LE(watch.width, watch.titleRoom.width() + watch.margins) << "and no wider";
     m_messages.take();
 }
 

@@ -269,4 +269,63 @@ TEST_F(MonthPage, DividesNoHeadBetweenBrackets) {
         lines()[3].endsWith(QStringLiteral("three four Day (days since the last new one)")));
 }
 
+TEST_F(MonthPage, HasRulesOfOneThicknessFromEdgeToEdge) {
+    const QImage page = drawn(Printing::MonthPage(Gregorian));
+    for (const int y : {405, 587, 3869}) { // below the title, the heads and the last row
+        EXPECT_NEAR(thicknessAt(page, 2750, y), 4, 1) << y;
+        expectRule(page, y, 200, 2775);
+    }
+}
+
+TEST_F(MonthPage, HasTheChosenDayInLettersAsLargeAsTheOthers) {
+    print(Printing::MonthPage(Gregorian));
+    const auto found = words();
+    const auto monthBeside = [&found](const char* julianDay) {
+        const double line = LineOf(roomsOf(QLatin1String(julianDay), found)[0]);
+        for (const QRectF& room : roomsOf(QStringLiteral("November"), found)) {
+            if (std::abs(LineOf(room) - line) < 1)
+                return room;
+        }
+        ADD_FAILURE() << julianDay;
+        return QRectF(0, 0, 1, 1);
+    };
+    EXPECT_NEAR(monthBeside("2461365").height() / monthBeside("2461346").height(), 1, 0.02);
+}
+
+// The widest row is the chosen one, in bold.
+TEST_F(MonthPage, HasFourPointsBetweenFiguresAndWordsAndNoneBesideFiguresAlone) {
+    print(Printing::MonthPage(Gregorian));
+    const auto found = words();
+    const auto room = [&found](const char* text) { return roomsOf(QLatin1String(text), found)[0]; };
+    const double line = LineOf(room("2461365"));
+    const auto inRow = [&](const char* text) {
+        for (const QRectF& place : roomsOf(QLatin1String(text), found)) {
+            if (std::abs(LineOf(place) - line) < 1)
+                return place; // the words come from left to right
+        }
+        ADD_FAILURE() << text;
+        return QRectF();
+    };
+    const double scale =
+        room("2461346").height() / 8.5 / (room("Heshvan").height() / 8); // of the rows
+    EXPECT_NEAR(inRow("November").left() - inRow("20").right(), 4 * scale, 0.2);
+    const double before = room("2461365").left() - inRow("324").right();
+    const double behind = inRow("10.6").left() - room("2461365").right();
+    EXPECT_NEAR(before, behind, 0.2);
+}
+
+TEST_F(MonthPage, KeepsItsColumnsNinePointsApartWhereTheyAreTooWide) {
+    MonthNames(Gregorian, 11) = std::string(40, 'n');
+    print(Printing::MonthPage(Gregorian));
+    const auto found = words();
+    const auto room = [&found](const char* text) { return roomsOf(QLatin1String(text), found)[0]; };
+    EXPECT_LT(room("2461346").height(), room("Heshvan").height()) << "letters are smaller";
+    EXPECT_NEAR(room("2461365").left() - room("324").right(), 9, 0.25);
+}
+
+TEST_F(MonthPage, HasItsHeadsAboveTheRule) {
+    print(Printing::MonthPage(Gregorian));
+    EXPECT_NEAR(LineOf(roomsOf(QStringLiteral("(in"))[0]), 111.4, 0.6); // 6 points above it
+}
+
 } // namespace

@@ -9,6 +9,10 @@
 #include "support/widget_test.h"
 
 #include <QFile>
+#include <QImage>
+#include <QPageLayout>
+#include <QPageSize>
+#include <QPainter>
 #include <QPrinter>
 #include <QProcess>
 #include <QRegularExpression>
@@ -61,6 +65,37 @@ protected:
         Names(page.language).Choose();
         setDate(page.calendar, 1, page.month, page.year);
         ChangeCals::ChangeCal(page.calendar);
+    }
+
+    /// A page of A4 in grey, 5 dots to the point.
+    static QImage drawn(const Printing::Page& page) {
+        QImage image(2975, 4210, QImage::Format_Grayscale8);
+        image.setDotsPerMeterX(14173); // 360 to the inch
+        image.setDotsPerMeterY(14173);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        Printing::Paint(page, painter,
+                        QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF()));
+        painter.end();
+        return image;
+    }
+
+    static bool isDark(const QImage& page, int x, int y) { return qGray(page.pixel(x, y)) < 128; }
+
+    /// Dark dots in a column around a rule.
+    static int thicknessAt(const QImage& page, int x, int y) {
+        int dots = 0;
+        for (int at = y - 10; at < y + 10; ++at)
+            dots += isDark(page, x, at) ? 1 : 0;
+        return dots;
+    }
+
+    /// That a rule covers these dots of a row, and one or two more at the most.
+    static void expectRule(const QImage& page, int y, int left, int right) {
+        EXPECT_TRUE(isDark(page, left + 2, y)) << y;
+        EXPECT_TRUE(isDark(page, right - 3, y)) << y;
+        EXPECT_FALSE(isDark(page, left - 3, y)) << y;
+        EXPECT_FALSE(isDark(page, right + 2, y)) << y;
     }
 
     static void goToDay(int julianDay) {

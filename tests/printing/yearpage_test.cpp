@@ -149,4 +149,38 @@ TEST_F(YearPage, HasItsDaysInTheMiddleOfTheirCells) {
     }
 }
 
+// From 40 to 555 points, and of the first two blocks 161 points each, 16 apart.
+TEST_F(YearPage, HasRulesOfTheirThicknessFromEdgeToEdge) {
+    const QImage page = drawn(Printing::YearPage(Gregorian));
+    EXPECT_NEAR(thicknessAt(page, 2750, 405), 4, 1); // 0.8 points
+    EXPECT_NEAR(thicknessAt(page, 2750, 660), 2, 1); // 0.4 points
+    expectRule(page, 405, 200, 2775);
+    expectRule(page, 660, 200, 1005);
+    expectRule(page, 660, 1085, 1890);
+}
+
+TEST_F(YearPage, HasItsTitle16PointsBelowTheMargin) {
+    CalendarNames(Julian) = "HHH"; // letters without descenders
+    const QImage page = drawn(Printing::YearPage(Julian));
+    int lowest = 0;
+    for (int y = 200; y < 300; ++y) {
+        for (int x = 200; x < 600; ++x)
+            lowest = isDark(page, x, y) ? y : lowest;
+    }
+    EXPECT_NEAR(lowest, 56 * 5 - 1, 2); // figures reach a little lower
+}
+
+// A row has 18.36 points, the first of the page begins at 135.
+TEST_F(YearPage, HasItsDaysAtTheirHeights) {
+    print(Printing::YearPage(Gregorian)); // 2026, weeks from Sunday
+    const NumbersOnPage numbers(words(), 595, false);
+    const auto days = numbers.DayWords();
+    const auto small = numbers.SmallWords();
+    EXPECT_EQ(days.at({0, 0, 0, 2}).text, QStringLiteral("11"));
+    EXPECT_NEAR(LineOf(days.at({0, 0, 0, 2}).room), 143.26, 0.5);
+    EXPECT_NEAR(LineOf(small.at({0, 0, 0, 2}).room), 149.5, 0.5);
+    EXPECT_NEAR(LineOf(days.at({0, 6, 0, 2}).room), 253.4, 0.5);
+    EXPECT_NEAR(LineOf(days.at({3, 0, 0, 2}).room), 681.76, 0.5);
+}
+
 } // namespace

@@ -12,6 +12,8 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QScreen>
+#include <QStyle>
+#include <algorithm>
 
 namespace {
 
@@ -256,6 +258,40 @@ TEST_F(About, TheTitleAloneIsLargeAndBold) {
     EXPECT_TRUE(title.bold());
     EXPECT_NEAR(title.pointSizeF(), 1.7 * box->font().pointSizeF(), 0.01);
     EXPECT_EQ(child<QLabel>(*box, "Label1_2")->font(), box->font());
+}
+
+TEST_F(About, ItsPartsAreAMarginApart) {
+    load();
+    const auto metric = [this](QStyle::PixelMetric which) {
+        return box->style()->pixelMetric(which, nullptr, box);
+    };
+    const int margin = metric(QStyle::PM_LayoutLeftMargin);
+    const QFontMetrics letters = box->fontMetrics();
+    const int width = 66 * letters.averageCharWidth() + 2 * margin;
+    const int side = 4 * letters.height();
+    const QRect title = child<QLabel>(*box, "Label1_1")->geometry();
+    const QRect version = child<QLabel>(*box, "Label1_2")->geometry();
+    const QRect description = child<QLabel>(*box, "Label1_3")->geometry();
+    EXPECT_EQ(box->width(), width);
+    EXPECT_EQ(child<QWidget>(*box, "Image1")->geometry(), QRect(margin, margin, side, side));
+    EXPECT_EQ(title.topLeft(), QPoint(2 * margin + side, margin));
+    EXPECT_EQ(title.right() + 1, width - margin);
+    EXPECT_EQ(version.x(), title.x());
+    EXPECT_EQ(version.right(), title.right());
+    EXPECT_EQ(version.y(), title.bottom() + 1 + metric(QStyle::PM_LayoutVerticalSpacing));
+    EXPECT_EQ(description.x(), margin);
+    EXPECT_EQ(description.right() + 1, width - margin);
+    EXPECT_EQ(description.y(), std::max(version.bottom() + 1, margin + side) + margin);
+    EXPECT_EQ(line()->geometry(),
+              QRect(margin, description.bottom() + 1 + margin, width - 2 * margin, 2));
+    EXPECT_EQ(ok()->y(), line()->y() + margin);
+    EXPECT_EQ(ok()->size(), ok()->sizeHint());
+    EXPECT_EQ(box->height(), ok()->geometry().bottom() + 1 + margin);
+}
+
+TEST_F(About, OkIsTheDefaultButton) {
+    load();
+    EXPECT_TRUE(ok()->isDefault());
 }
 
 } // namespace

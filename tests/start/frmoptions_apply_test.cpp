@@ -303,4 +303,13 @@ TEST_F(Options, APressThatIsDraggedOffDoesNothing) {
     EXPECT_EQ(MoslemType, 1);
 }
 
+TEST_F(Options, TheMonthlyWindowCanBecomeTheStartupWindowAgain) {
+    StartupWindow = 3;
+    open();
+    choose("Combo3", 0);
+    apply();
+    EXPECT_EQ(StartupWindow, 0);
+    EXPECT_TRUE(isStored("Startup/Window=0"));
+}
+
 } // namespace

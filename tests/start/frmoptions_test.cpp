@@ -9,6 +9,10 @@
 #include <QLabel>
 #include <QRadioButton>
 #include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QStyle>
+#include <QVBoxLayout>
 
 namespace {
 
@@ -245,6 +249,38 @@ TEST_F(Options, TextsAreShownAsTheyStand) {
     open();
     for (const QLabel* label : dialog->findChildren<QLabel*>())
         EXPECT_EQ(label->textFormat(), Qt::PlainText) << label->text().toStdString();
+    close();
+}
+
+TEST_F(Options, ScrollUpAndDownOnlyAndLeaveRoomForTheFrameWhereTheyAreTooHigh) {
+    const QFont former = QApplication::font();
+    QFont font = former;
+    font.setPointSize(22);
+    QApplication::setFont(font);
+    setAllLabels(std::string(254, 'W'));
+    open();
+    const int titleBar = dialog->style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, dialog);
+    EXPECT_EQ(dialog->height(), dialog->screen()->availableGeometry().height() - 2 * titleBar);
+    const auto* area = dialog->findChild<QScrollArea*>();
+    EXPECT_NE(area, nullptr);
+    if (area != nullptr) {
+        EXPECT_GT(area->verticalScrollBar()->maximum(), 0);
+        EXPECT_EQ(area->horizontalScrollBar()->maximum(), 0);
+        EXPECT_EQ(area->frameWidth(), 0);
+    }
+    close();
+    QApplication::setFont(former);
+}
+
+TEST_F(Options, FramesHaveHalfTheUsualMarginsAboveAndBelow) {
+    open();
+    QWidget parent;
+    QGroupBox plain(&parent);
+    const QVBoxLayout rows(&plain);
+    const QMargins usual = rows.contentsMargins();
+    const QMargins half(usual.left(), usual.top() - usual.top() / 2, usual.right(),
+                        usual.bottom() - usual.bottom() / 2);
+    EXPECT_EQ(list("Combo3")->parentWidget()->layout()->contentsMargins(), half);
     close();
 }
 

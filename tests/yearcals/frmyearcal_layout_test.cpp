@@ -3,6 +3,7 @@
 #include "yearcals/year_test.h"
 
 #include <QApplication>
+#include <QEvent>
 #include <QFont>
 
 namespace {
@@ -64,6 +65,15 @@ TEST_F(YearLayouts, LargerLettersMoveTheControlsOfAnOpenWindow) {
         EXPECT_EQ(selector(Julian).geometry(), child<ComboBox>(fresh, "Combo1")->geometry());
     }
     QApplication::setFont(former);
+}
+
+TEST_F(YearLayouts, AnotherStylePlacesTheControlsAnew) {
+    open(Julian);
+    const QPoint place = command(Julian, NextYear).pos();
+    command(Julian, NextYear).move(0, 0);
+    QEvent change(QEvent::StyleChange);
+    QCoreApplication::sendEvent(&year(Julian), &change);
+    EXPECT_EQ(command(Julian, NextYear).pos(), place);
 }
 
 } // namespace

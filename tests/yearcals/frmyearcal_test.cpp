@@ -318,4 +318,11 @@ TEST_F(YearWindows, ButtonsHaveTheirPictures) {
     }
 }
 
+TEST_F(YearWindows, APressThatIsDraggedOffDoesNothing) {
+    open(Julian);
+    QTest::mousePress(&command(Julian, NextYear), Qt::LeftButton);
+    QTest::mouseRelease(&command(Julian, NextYear), Qt::LeftButton, {}, QPoint(-40, -40));
+    EXPECT_EQ(CurDate(Julian, Year), 2026);
+}
+
 } // namespace

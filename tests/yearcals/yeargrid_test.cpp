@@ -222,4 +222,10 @@ TEST_F(YearGrids, KeysMoveTheCurrentCellAndChooseIt) {
     EXPECT_EQ(dateIn(Gregorian), (Date{28, 11, 2026}));
 }
 
+TEST_F(YearGrids, NamesThatRunRightToLeftAreIsolatedFromTheNumbers) {
+    MonthNames(Gregorian, 5) = "\u05d0 II";
+    open(Gregorian);
+    EXPECT_EQ(cellAt(Gregorian, 8, 7).text, QString::fromUtf8("(5)  \u2068\u05d0 II\u2069"));
+}
+
 } // namespace
