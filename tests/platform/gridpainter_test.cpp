@@ -69,7 +69,7 @@ TEST_F(GridLook, ATextStandsInTheMiddleOfAHighCell) {
     grid->SetSize(ToTwips(3 * cellSide + 2), ToTwips(2 * cellSide + height + 2));
     grid->SetTextMatrix(1, 1, QStringLiteral("8"));
     const QRect ink = InkOf(picture().copy(1 + cellSide, 1 + cellSide, cellSide, height));
-    EXPECT_NEAR(ink.center().y(), height / 2, 2);
+    EXPECT_NEAR(ink.center().y(), height / 2.0, 2);
 }
 
 TEST_F(GridLook, TheFrameIsOneLineOnAllSidesAtAnyScale) {
