@@ -2,8 +2,7 @@
 # What the project needs from Debian 12, and how it is installed. Sourced by the
 # commands at the top of the tree.
 
-build_packages=(cmake ninja-build g++ qt6-base-dev qt6-svg-dev
-    libfontconfig-dev librsvg2-bin)
+build_packages=(cmake ninja-build g++ qt6-base-dev qt6-svg-dev libfontconfig-dev librsvg2-bin)
 run_packages=(libfontconfig1 libqt6widgets6 libqt6svg6 libqt6printsupport6 fonts-dejavu-core)
 screen_packages=(xvfb openbox xdotool x11-utils xclip imagemagick libfaketime)
 test_packages=(adwaita-qt6 fonts-noto-core libgtest-dev libbenchmark-dev libicu-dev qt6-base-private-dev

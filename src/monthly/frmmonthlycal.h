@@ -8,10 +8,10 @@
 #include "shared/table.h"
 
 class CommandButton;
-class WeekdayAndMoon;
 class Image;
 class Line;
 class Pane;
+class WeekdayAndMoon;
 
 /// The main window: the chosen day in four panes side by side, what the
 /// calendars have in common, and the command buttons.

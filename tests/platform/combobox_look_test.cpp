@@ -153,13 +153,20 @@ int inkHeight(ComboBox& list) {
     return last - first + 1;
 }
 
-TEST_F(Combo, ARowIsShownInTheLetterSizeThatItsLongestTextNeeds) {
-    auto* neighbour = new ComboBox(QStringLiteral("Combo2"), &window);
-    neighbour->setGeometry(100, 50, 80, 24);
-    neighbour->SetOnlyItem(QStringLiteral("HHH"));
-    list->SetOnlyItem(QStringLiteral("HHH"));
-    ComboBox::ShareLetterSize({list, neighbour});
-    show();
+class RowOfTwo : public Combo {
+protected:
+    RowOfTwo() : neighbour(new ComboBox(QStringLiteral("Combo2"), &window)) {
+        neighbour->setGeometry(100, 50, 80, 24);
+        neighbour->SetOnlyItem(QStringLiteral("HHH"));
+        list->SetOnlyItem(QStringLiteral("HHH"));
+        ComboBox::ShareLetterSize({list, neighbour});
+        show();
+    }
+
+    ComboBox* neighbour;
+};
+
+TEST_F(RowOfTwo, IsShownInTheLetterSizeThatItsLongestTextNeeds) {
     const int whole = inkHeight(*neighbour);
     list->SetOnlyItem(QString(8, u'H'));
     const int small = inkHeight(*neighbour);
@@ -167,6 +174,13 @@ TEST_F(Combo, ARowIsShownInTheLetterSizeThatItsLongestTextNeeds) {
     EXPECT_EQ(small, inkHeight(*list));
     list->hide();
     EXPECT_EQ(inkHeight(*neighbour), whole);
+}
+
+TEST_F(RowOfTwo, IsPaintedWhenTheTextOfOneChanges) {
+    processEvents();
+    const PaintsOf paints(*neighbour);
+    list->SetOnlyItem(QString(8, u'H'));
+    EXPECT_TRUE(waitUntil([&paints] { return paints.count > 0; }));
 }
 
 TEST_F(Combo, ItsLettersFollowTheFont) {
@@ -264,19 +278,6 @@ TEST_F(Combo, TwoLinesNeedTheirHeightAndFourPixels) {
     const QRect whole = inkOf(*list);
     list->resize(90, lines + 3);
     EXPECT_LT(inkOf(*list).width(), whole.width());
-}
-
-TEST_F(Combo, AllListsOfARowArePaintedWhenTheTextOfOneChanges) {
-    auto* neighbour = new ComboBox(QStringLiteral("Combo2"), &window);
-    neighbour->setGeometry(100, 50, 80, 24);
-    neighbour->SetOnlyItem(QStringLiteral("HHH"));
-    list->SetOnlyItem(QStringLiteral("HHH"));
-    ComboBox::ShareLetterSize({list, neighbour});
-    show();
-    processEvents();
-    const PaintsOf paints(*neighbour);
-    list->SetOnlyItem(QString(8, u'H'));
-    EXPECT_TRUE(waitUntil([&paints] { return paints.count > 0; }));
 }
 
 } // namespace

@@ -114,6 +114,17 @@ protected:
         EXPECT_FALSE(rooms.empty()) << text.toStdString();
         return rooms.empty() ? std::vector<QRectF>(1) : rooms;
     }
+
+    /// The first room of a text, from the left, in the line of another word.
+    static QRectF roomInLineOf(const QRectF& other, const char* text,
+                               const std::vector<Word>& words) {
+        for (const QRectF& room : roomsOf(QLatin1String(text), words)) {
+            if (std::abs(LineOf(room) - LineOf(other)) < 1)
+                return room;
+        }
+        ADD_FAILURE() << text;
+        return {0, 0, 1, 1};
+    }
 };
 
 TEST_F(MonthPage, HasTitleSpansAndHeads) {
@@ -270,7 +281,8 @@ TEST_F(MonthPage, DividesNoHeadBetweenBrackets) {
 }
 
 TEST_F(MonthPage, HasRulesOfOneThicknessFromEdgeToEdge) {
-    const QImage page = drawn(Printing::MonthPage(Gregorian));
+    print(Printing::MonthPage(Gregorian));
+    const QImage page = picture(360);
     for (const int y : {405, 587, 3869}) { // below the title, the heads and the last row
         EXPECT_NEAR(thicknessAt(page, 2750, y), 4, 1) << y;
         expectRule(page, y, 200, 2775);
@@ -281,13 +293,7 @@ TEST_F(MonthPage, HasTheChosenDayInLettersAsLargeAsTheOthers) {
     print(Printing::MonthPage(Gregorian));
     const auto found = words();
     const auto monthBeside = [&found](const char* julianDay) {
-        const double line = LineOf(roomsOf(QLatin1String(julianDay), found)[0]);
-        for (const QRectF& room : roomsOf(QStringLiteral("November"), found)) {
-            if (std::abs(LineOf(room) - line) < 1)
-                return room;
-        }
-        ADD_FAILURE() << julianDay;
-        return QRectF(0, 0, 1, 1);
+        return roomInLineOf(roomsOf(QLatin1String(julianDay), found)[0], "November", found);
     };
     EXPECT_NEAR(monthBeside("2461365").height() / monthBeside("2461346").height(), 1, 0.02);
 }
@@ -297,20 +303,13 @@ TEST_F(MonthPage, HasFourPointsBetweenFiguresAndWordsAndNoneBesideFiguresAlone) 
     print(Printing::MonthPage(Gregorian));
     const auto found = words();
     const auto room = [&found](const char* text) { return roomsOf(QLatin1String(text), found)[0]; };
-    const double line = LineOf(room("2461365"));
-    const auto inRow = [&](const char* text) {
-        for (const QRectF& place : roomsOf(QLatin1String(text), found)) {
-            if (std::abs(LineOf(place) - line) < 1)
-                return place; // the words come from left to right
-        }
-        ADD_FAILURE() << text;
-        return QRectF();
-    };
+    const QRectF chosen = room("2461365");
+    const auto inRow = [&](const char* text) { return roomInLineOf(chosen, text, found); };
     const double scale =
         room("2461346").height() / 8.5 / (room("Heshvan").height() / 8); // of the rows
     EXPECT_NEAR(inRow("November").left() - inRow("20").right(), 4 * scale, 0.2);
-    const double before = room("2461365").left() - inRow("324").right();
-    const double behind = inRow("10.6").left() - room("2461365").right();
+    const double before = chosen.left() - inRow("324").right();
+    const double behind = inRow("10.6").left() - chosen.right();
     EXPECT_NEAR(before, behind, 0.2);
 }
 

@@ -10,9 +10,6 @@
 
 #include <QFile>
 #include <QImage>
-#include <QPageLayout>
-#include <QPageSize>
-#include <QPainter>
 #include <QPrinter>
 #include <QProcess>
 #include <QRegularExpression>
@@ -67,37 +64,6 @@ protected:
         ChangeCals::ChangeCal(page.calendar);
     }
 
-    /// A page of A4 in grey, 5 dots to the point.
-    static QImage drawn(const Printing::Page& page) {
-        QImage image(2975, 4210, QImage::Format_Grayscale8);
-        image.setDotsPerMeterX(14173); // 360 to the inch
-        image.setDotsPerMeterY(14173);
-        image.fill(Qt::white);
-        QPainter painter(&image);
-        Printing::Paint(page, painter,
-                        QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF()));
-        painter.end();
-        return image;
-    }
-
-    static bool isDark(const QImage& page, int x, int y) { return qGray(page.pixel(x, y)) < 128; }
-
-    /// Dark dots in a column around a rule.
-    static int thicknessAt(const QImage& page, int x, int y) {
-        int dots = 0;
-        for (int at = y - 10; at < y + 10; ++at)
-            dots += isDark(page, x, at) ? 1 : 0;
-        return dots;
-    }
-
-    /// That a rule covers these dots of a row, and one or two more at the most.
-    static void expectRule(const QImage& page, int y, int left, int right) {
-        EXPECT_TRUE(isDark(page, left + 2, y)) << y;
-        EXPECT_TRUE(isDark(page, right - 3, y)) << y;
-        EXPECT_FALSE(isDark(page, left - 3, y)) << y;
-        EXPECT_FALSE(isDark(page, right + 2, y)) << y;
-    }
-
     static void goToDay(int julianDay) {
         CurJD = julianDay;
         ChangeCals::ChangeJD();
@@ -148,12 +114,30 @@ protected:
         return found;
     }
 
-    /// The page in grey, at 300 dots to the inch.
-    QImage picture() const {
-        output(QStringLiteral("pdftoppm"), {QStringLiteral("-r"), QStringLiteral("300"),
+    /// The page in grey. At 360 dots to the inch there are 5 to the point.
+    QImage picture(int dotsPerInch = 300) const {
+        output(QStringLiteral("pdftoppm"), {QStringLiteral("-r"), QString::number(dotsPerInch),
                                             QStringLiteral("-gray"), QStringLiteral("-singlefile"),
                                             pdfPath(), m_folder.filePath(QStringLiteral("page"))});
         return QImage(m_folder.filePath(QStringLiteral("page.pgm")));
+    }
+
+    static bool isDark(const QImage& page, int x, int y) { return qGray(page.pixel(x, y)) < 128; }
+
+    /// Dark dots in a column around a rule.
+    static int thicknessAt(const QImage& page, int x, int y) {
+        int dots = 0;
+        for (int at = y - 10; at < y + 10; ++at)
+            dots += isDark(page, x, at) ? 1 : 0;
+        return dots;
+    }
+
+    /// That a rule covers these dots of a row, and one or two more at the most.
+    static void expectRule(const QImage& page, int y, int left, int right) {
+        EXPECT_TRUE(isDark(page, left + 2, y)) << y;
+        EXPECT_TRUE(isDark(page, right - 3, y)) << y;
+        EXPECT_FALSE(isDark(page, left - 3, y)) << y;
+        EXPECT_FALSE(isDark(page, right + 2, y)) << y;
     }
 
     /// The upper edges of the rules that cross the page, in points.
@@ -164,7 +148,7 @@ protected:
         for (int y = 0; y < page.height(); ++y) {
             int ink = 0;
             for (int x = 0; x < page.width(); ++x)
-                ink += static_cast<int>(qGray(page.pixel(x, y)) < 128);
+                ink += isDark(page, x, y) ? 1 : 0;
             if (ink <= page.width() * 3 / 4)
                 continue;
             if (y != former + 1)

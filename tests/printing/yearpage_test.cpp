@@ -151,7 +151,8 @@ TEST_F(YearPage, HasItsDaysInTheMiddleOfTheirCells) {
 
 // From 40 to 555 points, and of the first two blocks 161 points each, 16 apart.
 TEST_F(YearPage, HasRulesOfTheirThicknessFromEdgeToEdge) {
-    const QImage page = drawn(Printing::YearPage(Gregorian));
+    print(Printing::YearPage(Gregorian));
+    const QImage page = picture(360);
     EXPECT_NEAR(thicknessAt(page, 2750, 405), 4, 1); // 0.8 points
     EXPECT_NEAR(thicknessAt(page, 2750, 660), 2, 1); // 0.4 points
     expectRule(page, 405, 200, 2775);
@@ -161,7 +162,8 @@ TEST_F(YearPage, HasRulesOfTheirThicknessFromEdgeToEdge) {
 
 TEST_F(YearPage, HasItsTitle16PointsBelowTheMargin) {
     CalendarNames(Julian) = "HHH"; // letters without descenders
-    const QImage page = drawn(Printing::YearPage(Julian));
+    print(Printing::YearPage(Julian));
+    const QImage page = picture(360);
     int lowest = 0;
     for (int y = 200; y < 300; ++y) {
         for (int x = 200; x < 600; ++x)
