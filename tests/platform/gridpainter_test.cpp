@@ -277,13 +277,22 @@ TEST_F(GridLook, TheFrameWithTheFocusHasTheColorOfTheTextsOfWindows) {
 TEST_F(GridLook, TextsAreDrawnInTheSizeThatWasSetLast) {
     other->setFocus();
     grid->SetTextMatrix(1, 1, QStringLiteral("8"));
+    grid->SetRow(1);
+    grid->SetCol(1);
     const auto height = [this] {
         return InkOf(picture().copy(1 + cellSide, 1 + cellSide, cellSide, cellSide)).height();
     };
-    grid->SetFontPixelSize(8);
-    const int small = height();
-    grid->SetFontPixelSize(16);
-    EXPECT_GT(height(), small + 3);
+    for (const bool bold : {false, true}) {
+        grid->SetCellFontBold(bold);
+        grid->SetFontPixelSize(8);
+        const int small = height();
+        grid->SetFontPixelSize(16);
+        EXPECT_GT(height(), small + 3) << bold;
+    }
+}
+
+TEST_F(GridLook, NoCellIsPaintedBeforeTheGridIs) {
+    EXPECT_EQ(MSFlexGrid(QStringLiteral("new"), 2, 2, nullptr).PaintedCells(), 0);
 }
 
 } // namespace

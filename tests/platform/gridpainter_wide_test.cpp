@@ -4,6 +4,7 @@
 #include "platform/color.h"
 #include "platform/flexgrid.h"
 #include "platform/twips.h"
+#include "support/ink.h"
 #include "support/platform_accessible.h"
 #include "support/platform_test.h"
 
@@ -98,6 +99,38 @@ TEST_F(WideTexts, HaveTheRoomOfAllCellsThatAreMerged) {
 
 TEST_F(WideTexts, ThatLookLikeRichTextAreShownAsTheyStand) {
     EXPECT_FALSE(inkOf(QStringLiteral("<b></b>")).isEmpty());
+}
+
+// A digit begins in the middle of its cell.
+TEST_F(WideTexts, OfLettersLargerThanTheirCellFillItToItsRims) {
+    constexpr int low = 10;
+    constexpr int narrow = 30;
+    for (int row = 0; row < 3; ++row)
+        grid.SetRowHeight(row, ToTwips(low));
+    grid.SetColWidth(2, ToTwips(narrow));
+    grid.SetFontPixelSize(40);
+    grid.SetTextMatrix(2, 2, QStringLiteral("8"));
+    const QRect drawn = inkIn(QRect(0, 0, 3 * columnWidth, 3 * rowHeight));
+    EXPECT_EQ(drawn.top(), 2 * low);
+    EXPECT_EQ(drawn.bottom(), 3 * low - 1);
+    EXPECT_EQ(drawn.right(), 2 * columnWidth + narrow - 1);
+}
+
+TEST_F(WideTexts, InTheFirstColumnHaveAPixelLessOnTheirLeftAndBeginAtAWholeOne) {
+    QImage texts[2];
+    for (const int wider : {0, 1}) {
+        const int width = columnWidth + wider;
+        grid.SetColWidth(0, ToTwips(width + 1));
+        grid.SetColWidth(1, ToTwips(width));
+        grid.SetColWidth(2, ToTwips(columnWidth / 2));
+        grid.SetTextMatrix(1, 0, QStringLiteral("HH"));
+        grid.SetTextMatrix(1, 1, QStringLiteral("HH"));
+        const QImage image = grid.viewport()->grab().toImage();
+        const QImage first = image.copy(1, rowHeight, width, rowHeight);
+        EXPECT_EQ(first, image.copy(width + 1, rowHeight, width, rowHeight)) << width;
+        texts[wider] = first.copy(InkOf(first));
+    }
+    EXPECT_EQ(texts[0], texts[1]) << "not between two pixels";
 }
 
 } // namespace

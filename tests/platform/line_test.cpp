@@ -30,6 +30,10 @@ TEST_F(Lines, AreSeenOnTheGroundsOfAllThemes) {
     }
 }
 
+TEST_F(Lines, AreLinesToWhoeverAsksForTheirShape) {
+    EXPECT_EQ(Line(QStringLiteral("Line1"), nullptr).frameShape(), QFrame::HLine);
+}
+
 TEST_F(Lines, ReachFromEndToEnd) {
     const QImage drawn = lineOn(Qt::white, Qt::black);
     EXPECT_EQ(drawn.pixelColor(0, 4), drawn.pixelColor(10, 4));

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/combobox_test.h"
+#include "platform/listtyping.h"
 
 #include <QShortcut>
 #include <QStyleHints>
@@ -173,6 +174,20 @@ TEST_F(TypedNumber, ShiftAndTheKeypadBelongToTyping) {
     QTest::keyClick(list, Qt::Key_3, Qt::ShiftModifier);
     QTest::keyClick(list, Qt::Key_1, Qt::KeypadModifier);
     EXPECT_EQ(list->Text(), QStringLiteral("2031"));
+}
+
+TEST_F(TypedNumber, KeysThatLeadToDigitsAreKeptFromTheToolkit) {
+    ListTyping typing(*list);
+    const auto takes = [&typing](Qt::Key key) {
+        return typing.TakesKey(QKeyEvent(QEvent::KeyPress, key, Qt::NoModifier));
+    };
+    for (const Qt::Key key : {Qt::Key_Shift, Qt::Key_ScrollLock, Qt::Key_AltGr})
+        EXPECT_TRUE(takes(key)) << key;
+    EXPECT_FALSE(takes(Qt::Key_Left));
+}
+
+TEST_F(TypedNumber, ChoicesAreMeasuredFromNothingWhereNobodySaysFromWhere) {
+    EXPECT_EQ(ListTyping(*list).Origin(), 0);
 }
 
 TEST_F(TypedNumber, WhatStandsBehindANumberMayBeTyped) {

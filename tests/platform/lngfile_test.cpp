@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr int bufferSize = 255;
+constexpr int bufferSize = LngFile::bufferSize;
 
 class LngFiles : public PlatformTest {};
 
@@ -199,6 +199,8 @@ TEST_F(LngFiles, TheSizeAskedForHoldsAFinalNul) {
     const LngFile file(QByteArray("[S]\n1=abcdef\n"));
     EXPECT_EQ(file.GetPrivateProfileString("S", "1", 4), "abc");
     EXPECT_EQ(file.GetPrivateProfileString("S", "1", 1), "");
+    EXPECT_EQ(LngFile(QByteArray("[S]\n1=\xD0\xAF\n")).GetPrivateProfileString("S", "1", 2), "")
+        << "one byte of two";
 }
 
 TEST_F(LngFiles, TextsAreUtf8OrTheUsersCodePage) {

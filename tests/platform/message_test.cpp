@@ -8,7 +8,7 @@
 #include "support/platform_test.h"
 
 #include <QAccessible>
-#include <QLayout>
+#include <QGridLayout>
 #include <vector>
 
 namespace {
@@ -80,6 +80,25 @@ TEST_F(Messages, AreWideEnoughForTheirTitle) {
     EXPECT_GE(watch.width, watch.titleRoom.width());
     EXPECT_LE(watch.width, watch.titleRoom.width() + watch.margins) << "and no wider";
     m_messages.take();
+}
+
+TEST_F(Messages, HaveTheRoomForTheirTitleInOneRowBelowAllColumns) {
+    QRect room; // in columns and rows
+    QSize all;
+    const MessageShown watch([&](QMessageBox& box) {
+        auto* layout = qobject_cast<QGridLayout*>(box.layout());
+        ASSERT_NE(layout, nullptr);
+        int row = 0;
+        int column = 0;
+        int height = 0;
+        int width = 0;
+        layout->getItemPosition(layout->count() - 1, &row, &column, &height, &width);
+        room = QRect(column, row, width, height);
+        all = QSize(layout->columnCount(), layout->rowCount());
+    });
+    MsgBox(QStringLiteral("text"));
+    EXPECT_EQ(room, QRect(0, all.height() - 1, all.width(), 1));
+    EXPECT_EQ(m_messages.take().size(), 1);
 }
 
 TEST_F(Messages, TwoTextsStandWithAnEmptyLineBetween) {

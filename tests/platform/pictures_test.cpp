@@ -117,4 +117,35 @@ TEST_F(Pictures, OnDarkButtonsArePalerAndTheirGroundIsNot) {
     EXPECT_EQ(qAlpha(pale.pixel(0, 0)), 0) << "beside the drawing";
 }
 
+TEST_F(Pictures, OnDarkButtonsHaveAThirdOfWhiteInTheirColors) {
+    const QPalette former = QApplication::palette();
+    QPalette colors = former;
+    colors.setColor(QPalette::Button, Qt::black);
+    QApplication::setPalette(colors);
+    const QIcon icon = ButtonPicture(QStringLiteral("icon"));
+    const QColor red = imageOf(icon.pixmap(QSize(64, 64))).pixelColor(30, 34);
+    QApplication::setPalette(former);
+    EXPECT_NEAR(red.red(), 255, 1);
+    EXPECT_NEAR(red.green(), 90, 1);
+    EXPECT_NEAR(red.blue(), 90, 1);
+}
+
+TEST_F(Pictures, ButtonsAreDarkBelowTheMiddleGray) {
+    const QPalette former = QApplication::palette();
+    const QImage plain = imageOf(Picture(name).pixmap(QSize(48, 48)));
+    for (const int gray : {127, 128}) {
+        QPalette colors = former;
+        colors.setColor(QPalette::Button, QColor(gray, gray, gray));
+        QApplication::setPalette(colors);
+        const QImage image = imageOf(ButtonPicture(name).pixmap(QSize(48, 48)));
+        EXPECT_EQ(image != plain, gray == 127) << gray;
+    }
+    QApplication::setPalette(former);
+}
+
+TEST_F(Pictures, AreDrawnOnceForAllThatShowThem) {
+    const QPixmap first = Picture(name).pixmap(QSize(47, 47));
+    EXPECT_EQ(Picture(name).pixmap(QSize(47, 47)).cacheKey(), first.cacheKey());
+}
+
 } // namespace

@@ -150,6 +150,8 @@ TEST_F(SettingsOnDisk, ForeignFormsAreRead) {
     EXPECT_TRUE(get("Language").startsWith(QStringLiteral("unclosed")));
     load("[Startup]\nLanguage=\\x41\\x2f\\x44F-\n");
     EXPECT_EQ(get("Language"), QString::fromUtf8("A/я-"));
+    load("[Startup]\nLanguage=a\\0b\\q\n");
+    EXPECT_EQ(get("Language"), QString::fromUtf16(u"a\0bq", 4));
 }
 
 TEST_F(SettingsOnDisk, WhatAnotherProgramSavedMeanwhileIsKept) {

@@ -102,6 +102,12 @@ TEST_F(Answers, AFocusThatMovesIsAnswerEnough) {
               (std::vector<Told>{{QAccessible::Focus, button, QString()}}));
 }
 
+TEST_F(Answers, AreGivenToNobodyWhoListensOnlyLater) {
+    AnswerUser();
+    AccessibleWatch watch;
+    EXPECT_EQ(watch.take(QAccessible::Focus), std::vector<Told>{});
+}
+
 // A tool passes over what has no place, and tells no entry twice.
 TEST_F(Answers, AreAnEntryOfTheWindowEachAnother) {
     const auto told = answer(2);

@@ -20,6 +20,11 @@ TEST(Texts, TipsThatLookLikeRichTextAreShownAsTheyStand) {
         EXPECT_EQ(PlainTip(QLatin1String(text)), QLatin1String(text));
 }
 
+TEST(Texts, NamesThatRunRightToLeftAreIsolatedAmidNumbers) {
+    EXPECT_EQ(AmidNumbers(QStringLiteral("\u05E0")), QStringLiteral("\u2068\u05E0\u2069"));
+    EXPECT_EQ(AmidNumbers(QStringLiteral("Nisan")), QStringLiteral("Nisan"));
+}
+
 TEST(Texts, AreSpokenWithoutMarksOfDirectionAndLettersOfOtherScripts) {
     EXPECT_EQ(Spoken(QStringLiteral("2/12  \u2068\u05E0\u2069")), QStringLiteral("2/12  \u05E0"));
     EXPECT_EQ(Spoken(QStringLiteral("Dhu\u0491l-Hijjah")), QStringLiteral("Dhul-Hijjah"));

@@ -38,6 +38,13 @@ TEST(FittedFonts, StayAsTheyAreBelowTheSmallestSize) {
     EXPECT_EQ(FittedFont(font, QStringLiteral("wide"), 1), font);
 }
 
+TEST(FittedFonts, WhoseSizeIsInPointsAreMadeSmallerToo) {
+    QFont font;
+    font.setPointSize(20);
+    const QString text = QStringLiteral("A rather long month title");
+    EXPECT_LE(QFontMetrics(FittedFont(font, text, 150)).horizontalAdvance(text), 150);
+}
+
 class Wrapping : public PlatformTest {
 protected:
     int width(const QString& text) const { return QFontMetrics(font).horizontalAdvance(text); }

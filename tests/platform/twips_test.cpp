@@ -17,4 +17,9 @@ TEST(Twips, BecomeTheNearestPixels) {
     EXPECT_EQ(ToTwips(-2).count, -30);
 }
 
+TEST(Twips, AreAddedAndTakenSeveralTimes) {
+    EXPECT_EQ(Twips{7} + Twips{8}, Twips{15});
+    EXPECT_EQ(3 * Twips{8}, Twips{24});
+}
+
 } // namespace
