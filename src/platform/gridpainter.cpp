@@ -92,7 +92,6 @@ const GridPainter::LaidOutText& GridPainter::laidOut(const QString& text, bool b
         entry.text.setText(metrics.elidedText(text, Qt::ElideRight, width));
     entry.advance = QFontMetricsF(entry.font).horizontalAdvance(entry.text.text());
     entry.text.setTextFormat(Qt::PlainText);
-    entry.text.setPerformanceHint(QStaticText::AggressiveCaching);
     entry.text.prepare({}, entry.font);
     return m_texts.emplace(key, entry).first->second;
 }

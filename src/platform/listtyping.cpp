@@ -49,21 +49,15 @@ bool ListTyping::TakesKey(const QKeyEvent& event) {
 
 // A command reaches the list only as what asks whether its key is the list's.
 void ListTyping::Notice(const QEvent& event) {
-    switch (event.type()) {
-    case QEvent::ShortcutOverride: {
+    const QEvent::Type type = event.type();
+    bool ends =
+        type == QEvent::MouseButtonPress || type == QEvent::Wheel || type == QEvent::FocusOut;
+    if (type == QEvent::ShortcutOverride) {
         const auto& key = static_cast<const QKeyEvent&>(event);
-        if (!isModifier(key.key()) && !isText(key))
-            m_typed.clear();
-        break;
+        ends = !isModifier(key.key()) && !isText(key);
     }
-    case QEvent::MouseButtonPress:
-    case QEvent::Wheel:
-    case QEvent::FocusOut:
+    if (ends)
         m_typed.clear();
-        break;
-    default:
-        break;
-    }
 }
 
 // Where the origin has moved, something else has been chosen meanwhile.

@@ -48,7 +48,7 @@ void MsgBox(const QString& text, QWidget* owner) {
     box.setTextInteractionFlags(Qt::NoTextInteraction);
     widenToTitle(box);
     for (const Qt::Key key : {Qt::Key_W, Qt::Key_Q}) // as in the windows, which wait meanwhile
-        new QShortcut(QKeySequence(Qt::CTRL | key), &box, &box, &QDialog::accept);
+        new QShortcut(Qt::CTRL | key, &box, &box, &QDialog::accept);
     const PointerShape normal(Qt::ArrowCursor); // also amid work under the hourglass
     box.exec();
 }

@@ -19,7 +19,7 @@ using Drawing = std::shared_ptr<QSvgRenderer>;
 
 // So much white makes a picture that stands out from a light theme's buttons stand out
 // from those of a dark one. No colour does both.
-constexpr QColor veil(255, 255, 255, 90);
+constexpr QRgb veil = 0x5AFFFFFF;
 
 bool hasDarkButtons() {
     constexpr int middleGray = 128;
@@ -33,7 +33,7 @@ QPixmap drawn(QSvgRenderer& drawing, const QSize& size, bool pale) {
     drawing.render(&painter);
     painter.setCompositionMode(QPainter::CompositionMode_SourceAtop);
     if (pale)
-        painter.fillRect(pixmap.rect(), veil);
+        painter.fillRect(pixmap.rect(), QColor::fromRgba(veil));
     return pixmap;
 }
 

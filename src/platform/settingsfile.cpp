@@ -128,11 +128,9 @@ bool FlushSettings() {
     if (unsaved.empty())
         return true;
     const ForTheUserAlone alone; // nobody else shall hold the lock of a killed program
-    if (!haveAPlace() || !QDir().mkpath(settingsFolder()))
-        return false;
     QLockFile lock(settingsPath() + QStringLiteral(".lock"));
     lock.setStaleLockTime(longestSave);
-    if (!lock.tryLock(longestWait) || !merge())
+    if (!haveAPlace() || !QDir().mkpath(settingsFolder()) || !lock.tryLock(longestWait) || !merge())
         return false;
     unsaved.clear();
     return true;

@@ -49,8 +49,7 @@ bool isAsked = false;
 
 // A tool asks the former one how far the focus has gone.
 void tell(QWidget* control, const QString& text) {
-    if (former != 0)
-        QAccessible::deleteAccessibleInterface(former);
+    QAccessible::deleteAccessibleInterface(former);
     former =
         std::exchange(latest, QAccessible::registerAccessibleInterface(new Saying(control, text)));
     QAccessibleEvent event(QAccessible::accessibleInterface(latest), QAccessible::Focus);
