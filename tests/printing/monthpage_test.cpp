@@ -152,6 +152,10 @@ TEST_F(MonthPage, NamesACalendarThatNoPaneHolds) {
     print(Printing::MonthPage(Gregorian));
     EXPECT_TRUE(lines().contains(QStringLiteral("Friday 20 November 2026 10 Kislev 5787 10 Jumada "
                                                 "II 1448 7 November 2026 324 2461365 10.6")));
+    CalendarOrder = {Julian, Gregorian, Jewish, 77};
+    print(Printing::MonthPage(Gregorian));
+    EXPECT_TRUE(lines().contains(QStringLiteral("Friday 20 November 2026 7 November 2026 10 Kislev "
+                                                "5787 10 Jumada II 1448 324 2461365 10.6")));
 }
 
 TEST_F(MonthPage, HasTheChosenDayAloneInBold) {
@@ -208,6 +212,9 @@ TEST_F(MonthPage, RunsAsItsLanguageDoes) {
         EXPECT_GT(leftOf("305"), leftOf("2461346"));
         EXPECT_GT(leftOf("2461346"), leftOf("21.2"));
     }
+    CalendarNames(Gregorian) = "Gregorian"; // a name that the language lacks
+    print(Printing::MonthPage(Gregorian));
+    EXPECT_GT(leftOf("305"), leftOf("2461346"));
 }
 
 // Read from the right: the month, its numeral, the year.
@@ -280,6 +287,13 @@ TEST_F(MonthPage, DividesNoHeadBetweenBrackets) {
         lines()[3].endsWith(QStringLiteral("three four Day (days since the last new one)")));
 }
 
+TEST_F(MonthPage, DividesAHeadAsEarlyAsItMay) {
+    StringTexts(JulianDayText) = "nn n nn"; // as narrow either way
+    print(Printing::MonthPage(Gregorian));
+    EXPECT_TRUE(lines()[2].endsWith(QStringLiteral("Year day nn Moon age")));
+    EXPECT_TRUE(lines()[3].endsWith(QStringLiteral("number n nn (in days)")));
+}
+
 TEST_F(MonthPage, HasRulesOfOneThicknessFromEdgeToEdge) {
     print(Printing::MonthPage(Gregorian));
     const QImage page = picture(360);
@@ -320,6 +334,31 @@ TEST_F(MonthPage, KeepsItsColumnsNinePointsApartWhereTheyAreTooWide) {
     const auto room = [&found](const char* text) { return roomsOf(QLatin1String(text), found)[0]; };
     EXPECT_LT(room("2461346").height(), room("Heshvan").height()) << "letters are smaller";
     EXPECT_NEAR(room("2461365").left() - room("324").right(), 9, 0.25);
+}
+
+// In rows of 8.5 points beside the subtitle's 8, no larger. A column has room for the sign
+// of every quarter of the moon in bold: each is that of the chosen day once.
+TEST_F(MonthPage, FillsItsWidthInLettersOfTheirSizeWhereAllColumnsFit) {
+    for (int c = 1; c <= calendarCount; ++c) {
+        CalendarNames(c) = "C";
+        for (int month = 1; month <= 12; ++month)
+            MonthNames(c, month) = "N";
+    }
+    for (int weekday = 1; weekday <= 7; ++weekday)
+        WeekDayNames(weekday) = "D";
+    for (const int text : {DayOfYearText, WeekDayText, MoonAgeText, JulianDayText})
+        StringTexts(text) = "T";
+    double right = 0;
+    for (const int day : {2461347, 2461354, 2461362, 2461369}) {
+        goToDay(day);
+        print(Printing::MonthPage(Gregorian));
+        const auto found = words();
+        for (const Word& word : found)
+            right = std::max(right, word.room.right());
+        const double row = roomsOf(QStringLiteral("2461346"), found)[0].height();
+        EXPECT_NEAR(row / roomsOf(QStringLiteral("·"), found)[0].height(), 8.5 / 8, 0.01);
+    }
+    EXPECT_NEAR(right, 555, 0.3);
 }
 
 TEST_F(MonthPage, HasItsHeadsAboveTheRule) {

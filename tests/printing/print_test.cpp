@@ -7,6 +7,8 @@
 #include "support/usualrights.h"
 
 #include <QDir>
+#include <QPainter>
+#include <QPointer>
 #include <QPrintDialog>
 
 namespace {
@@ -118,6 +120,42 @@ TEST_F(PrintedPages, HaveTheSizeAndTheMarginsThatAreAskedFor) {
     }
 }
 
+// 490 by 642 points are left: 0.8425 of the size on A4.
+TEST_F(PrintedPages, HaveEachMarginThatIsAskedFor) {
+    choose({Gregorian, 2026, 8}); // 31 days, five of which begin a week: the page is full
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(pdfPath());
+    printer.setPageLayout(QPageLayout(QPageSize(QPageSize::Letter), QPageLayout::Portrait,
+                                      {50, 60, 72, 90}, QPageLayout::Point));
+    Printing::PrintPage(Printing::MonthPage(Gregorian), printer);
+    const QImage page = picture(360);
+    expectRule(page, 472, 250, 2700);  // below the title
+    expectRule(page, 3510, 250, 2700); // below the last row
+}
+
+// Of Legal paper 532 of 515 points of width limit them, of Letter 712 of 762 of height.
+TEST_F(PrintedPages, HaveLettersAsLargeAsThePaperAllows) {
+    const auto titleOn = [this](QPageSize::PageSizeId paper) {
+        print(Printing::MonthPage(Gregorian), paper);
+        return words()[0].room.height();
+    };
+    EXPECT_NEAR(titleOn(QPageSize::Legal) / titleOn(QPageSize::Letter), 1.10555, 0.0005);
+}
+
+// A4 of 150 dots to the inch across and 300 down.
+TEST_F(PrintedPages, FitPaperWhoseDotsAreNotSquare) {
+    QImage page(1240, 3508, QImage::Format_RGB32);
+    page.setDotsPerMeterX(5906);
+    page.setDotsPerMeterY(11811);
+    page.fill(Qt::white);
+    QPainter painter(&page);
+    const QPageLayout layout(QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF());
+    Printing::Paint(Printing::YearPage(Gregorian), painter, layout);
+    painter.end();
+    expectRule(page, 337, 83, 1156); // below the title
+}
+
 // Errors
 
 TEST_F(PrintedPages, SaysWhichFileCannotBeWritten) {
@@ -174,7 +212,9 @@ TEST_F(PrintedPages, SaysThatNeitherPrinterNorFileIsChosen) {
 
 TEST_F(PrintedPages, AsksForThePrinterAndProposesTheTitleAsName) {
     QString name;
-    answerDialog([&name](QPrintDialog& dialog) {
+    QPointer<QPrintDialog> shown;
+    answerDialog([&](QPrintDialog& dialog) {
+        shown = &dialog;
         name = dialog.printer()->docName();
         dialog.reject();
     });
@@ -184,6 +224,7 @@ TEST_F(PrintedPages, AsksForThePrinterAndProposesTheTitleAsName) {
     Printing::Print(Paper::Year, Jewish);
     EXPECT_EQ(name, QStringLiteral("Jewish calendar 5787"));
     EXPECT_EQ(m_dialogs, 2);
+    EXPECT_TRUE(shown.isNull()) << "no dialog stays behind";
     EXPECT_TRUE(before == Everything());
 }
 

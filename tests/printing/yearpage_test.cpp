@@ -27,6 +27,12 @@ TEST_F(YearPage, HasItsTitleAndTheYearsOfTheOthers) {
     EXPECT_EQ(found[2], QStringLiteral("Tishri Heshvan Kislev"));
 }
 
+TEST_F(YearPage, SaysNothingOfACalendarThatShowsNoneOfItsDays) {
+    choose({Gregorian, 1});
+    print(Printing::YearPage(Gregorian));
+    EXPECT_EQ(lines()[1], QStringLiteral("Julian calendar 1 – 2 · Jewish calendar 3761 – 3762"));
+}
+
 // 13 first days of Julian months fall into the year 5787.
 TEST_F(YearPage, HasItsNamesAndTheFirstDaysOfTheSmallMonthsInBold) {
     print(Printing::YearPage(Jewish));
@@ -158,6 +164,8 @@ TEST_F(YearPage, HasRulesOfTheirThicknessFromEdgeToEdge) {
     expectRule(page, 405, 200, 2775);
     expectRule(page, 660, 200, 1005);
     expectRule(page, 660, 1085, 1890);
+    EXPECT_TRUE(isDark(page, 2750, 403)) << "0.4 points above its middle";
+    EXPECT_FALSE(isDark(page, 2750, 407)) << "0.4 points below it";
 }
 
 TEST_F(YearPage, HasItsTitle16PointsBelowTheMargin) {
@@ -183,6 +191,8 @@ TEST_F(YearPage, HasItsDaysAtTheirHeights) {
     EXPECT_NEAR(LineOf(small.at({0, 0, 0, 2}).room), 149.5, 0.5);
     EXPECT_NEAR(LineOf(days.at({0, 6, 0, 2}).room), 253.4, 0.5);
     EXPECT_NEAR(LineOf(days.at({3, 0, 0, 2}).room), 681.76, 0.5);
+    EXPECT_NEAR(days.at({0, 0, 0, 2}).room.height() / small.at({0, 0, 0, 2}).room.height(),
+                0.52 / 0.33, 0.02);
 }
 
 } // namespace
