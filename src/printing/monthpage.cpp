@@ -127,12 +127,12 @@ Column julianDayColumn(const std::vector<PaperDay>& days) {
 // days between.
 QString signOfQuarter(double moonAge) {
     // The lit part is white as the paper is; the waxing moon is lit at the right.
-    constexpr char16_t signs[] = {u'\u25cf', u'\u25d0', u'\u25cb', u'\u25d1', u'\u25cf'};
+    constexpr QChar signs[] = {u'\u25cf', u'\u25d0', u'\u25cb', u'\u25d1', u'\u25cf'};
     constexpr double quarter = ChangeCals::lunation / 4.0;
     for (int number = 0; number <= 4; ++number) {
         const double after = moonAge - number * quarter;
         if (after >= -0.5 && after < 0.5)
-            return QString(QChar(signs[number]));
+            return signs[number];
     }
     return {};
 }

@@ -35,8 +35,7 @@ bool isAccepted(QPrinter& printer) {
 }
 
 QByteArray pdfOf(const Printing::Page& page, const QPageLayout& layout) {
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
+    QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     QPdfWriter writer(&buffer);
     writer.setTitle(page.title);
@@ -45,7 +44,7 @@ QByteArray pdfOf(const Printing::Page& page, const QPageLayout& layout) {
     QPainter painter(&writer);
     Printing::Paint(page, painter, layout);
     painter.end(); // the last bytes are written now
-    return bytes;
+    return buffer.data();
 }
 
 // Each says why it failed, nothing where it did not. The new file takes the old one's
