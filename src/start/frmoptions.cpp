@@ -92,8 +92,7 @@ frmOptions::frmOptions()
 void frmOptions::Form_Load() {
     SetCaption(Text(LabelTexts(OptionsLabel)));
     // A dialog has no columns of days: it runs as its language does.
-    const bool rightToLeft = Text(LabelTexts(OptionsLabel)).isRightToLeft();
-    setLayoutDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
+    setLayoutDirection(windowTitle().isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
 
     // Created in the order in which Tab goes through them.
     measure();
@@ -175,7 +174,7 @@ QWidget* frmOptions::newColumns(QWidget* parent, QBoxLayout::Direction direction
     auto* right = new QVBoxLayout;
     columns->addLayout(right, 1);
     m_combo2 = newWideList(QStringLiteral("Combo2"), LanguageLabel, right);
-    m_combo2->SetItems(LanguageList(), -1);
+    m_combo2->addItems(LanguageList());
     selectLanguage();
     m_combo3 = newWideList(QStringLiteral("Combo3"), StartupWindowLabel, right);
     m_combo3->AddItem(Text(CalendarNames(monthlyCalendarsName)));

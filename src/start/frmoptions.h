@@ -33,7 +33,7 @@ private:
     };
 
     /// Command1 by index.
-    enum Button : int { Apply = 1, Close = 2 };
+    enum : int { Apply = 1, Close = 2 };
 
     void Form_Load();
     void Command1_Click(int index);

@@ -60,8 +60,7 @@ void readMonths(const LngFile& file, const char* section, int c) {
 void readTexts(const LngFile& file) {
     readTable(file, "CALENDARS", CalendarNames);
     readMonths(file, "JGMONTHS", Julian);
-    for (int month = 1; month <= 12; ++month)
-        MonthNames(Gregorian, month) = MonthNames(Julian, month);
+    readMonths(file, "JGMONTHS", Gregorian);
     readMonths(file, "JMONTHS", Jewish);
     AdarName = MonthNames(Jewish, 6);
     readMonths(file, "MMONTHS", Moslem);
