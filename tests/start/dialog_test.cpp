@@ -3,6 +3,7 @@
 
 #include "support/widget_test.h"
 
+#include <QKeyEvent>
 #include <QScreen>
 
 namespace {
@@ -14,8 +15,17 @@ public:
         Place();
     }
 
+    /// Whether it has a use for a key.
+    bool takes(Qt::Key key) {
+        QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
+        QCoreApplication::sendEvent(this, &press);
+        return press.isAccepted();
+    }
+
+    int accepted = 0;
+
 protected:
-    void Accept() override {}
+    void Accept() override { ++accepted; }
 };
 
 class Dialogs : public WidgetTest {};
@@ -25,6 +35,16 @@ TEST_F(Dialogs, StandInTheMiddleAndAThirdDown) {
     const PlacedDialog dialog;
     EXPECT_EQ(dialog.pos(), QPoint(249, 200));
     EXPECT_EQ(dialog.Top(), Twips{3000});
+}
+
+TEST_F(Dialogs, AcceptByBothReturnKeysAndLeaveOtherKeysAlone) {
+    PlacedDialog dialog;
+    EXPECT_TRUE(dialog.takes(Qt::Key_Return));
+    EXPECT_EQ(dialog.accepted, 1);
+    EXPECT_TRUE(dialog.takes(Qt::Key_Enter));
+    EXPECT_EQ(dialog.accepted, 2);
+    EXPECT_FALSE(dialog.takes(Qt::Key_Space));
+    EXPECT_EQ(dialog.accepted, 2);
 }
 
 } // namespace

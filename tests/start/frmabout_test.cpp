@@ -100,6 +100,7 @@ TEST_F(About, TextsAreShownAsTheyStandAndWhole) {
         const auto* label = child<QLabel>(*box, name.constData());
         EXPECT_EQ(label->textFormat(), Qt::PlainText);
         EXPECT_TRUE(label->wordWrap()) << index;
+        EXPECT_EQ(label->height(), label->heightForWidth(label->width())) << index;
     }
     const auto* description = child<QLabel>(*box, "Label1_3");
     EXPECT_GT(description->height(), 6 * description->fontMetrics().lineSpacing())
@@ -161,6 +162,12 @@ TEST_F(About, TheTipIsShownWithTipsOnly) {
     EXPECT_EQ(ok()->toolTip(), QStringLiteral("Close"));
 }
 
+TEST_F(About, TheTipIsShownAsItStands) {
+    StringTexts(CloseText) = "<b>Close</b>";
+    load();
+    EXPECT_EQ(ok()->toolTip(), QStringLiteral("&lt;b&gt;Close&lt;/b&gt;"));
+}
+
 TEST_F(About, StandsAtAThirdOfTheFreeHeightAndHalfTheFreeWidth) {
     load();
     const QSize free = QGuiApplication::primaryScreen()->size() - box->size();
@@ -176,6 +183,13 @@ TEST_F(About, EscClosesIt) {
     load();
     show();
     QTest::keyClick(box, Qt::Key_Escape);
+    EXPECT_TRUE(box->IsUnloaded());
+}
+
+TEST_F(About, ItsFrameClosesIt) {
+    load();
+    show();
+    box->close();
     EXPECT_TRUE(box->IsUnloaded());
 }
 
@@ -289,9 +303,16 @@ TEST_F(About, ItsPartsAreAMarginApart) {
     EXPECT_EQ(box->height(), ok()->geometry().bottom() + 1 + margin);
 }
 
+TEST_F(About, AssistiveToolsFindItsPartsFromTopToBottom) {
+    load();
+    const auto parts = box->findChildren<QWidget*>();
+    EXPECT_TRUE(std::ranges::is_sorted(parts, {}, &QWidget::y));
+}
+
 TEST_F(About, OkIsTheDefaultButton) {
     load();
     EXPECT_TRUE(ok()->isDefault());
+    EXPECT_TRUE(ok()->autoDefault());
 }
 
 } // namespace

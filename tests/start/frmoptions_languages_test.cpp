@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shared/english.h"
 #include "start/frmoptions_test.h"
+#include "support/messageshown.h"
 
 #include <QCursor>
 #include <QDir>
@@ -128,6 +129,8 @@ TEST_F(Options, WithoutALanguageNothingIsApplied) {
     open();
     EXPECT_EQ(list("Combo2")->ListIndex(), -1);
     press("Option1_2");
+    const MessageShown watch(
+        [this](const QMessageBox&) { EXPECT_EQ(dialog->focusWidget(), list("Combo2")); });
     click(child<CommandButton>(*dialog, "Command1_1"));
     processEvents();
     EXPECT_EQ(m_messages.take(), QStringList{QStringLiteral("Select language")});
@@ -140,6 +143,17 @@ TEST_F(Options, WithoutALanguageNothingIsApplied) {
     apply();
     EXPECT_TRUE(dialog.isNull());
     EXPECT_EQ(MoslemType, 2);
+}
+
+TEST_F(Options, TheAboutBoxInTheFormerLanguageIsGoneBeforeAnyWindowIsInTheNewOne) {
+    copyLanguage("German");
+    const QPointer<Form> about(&ChangeCals::LoadAbout());
+    about->Show();
+    std::optional<bool> seen;
+    QObject::connect(monthly, &QWidget::windowTitleChanged, monthly,
+                     [&] { seen = !about.isNull() && about->Visible(); });
+    changeLanguage("German");
+    EXPECT_EQ(seen, false);
 }
 
 TEST_F(Options, ThePointerWaitsWhileTheyAreApplied) {

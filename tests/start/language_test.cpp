@@ -88,8 +88,8 @@ TEST_F(Language, EverySectionFillsItsTable) {
 }
 
 TEST_F(Language, WhatAFileHasTooMuchIsIgnored) {
-    writeLanguage("X.lng",
-                  "[CALENDARS]\n0=a\n6=b\n[JMONTHS]\n13=c\n[OTHER]\n1=d\n[STRINGS]\n26=e\n");
+    writeLanguage("X.lng", "[CALENDARS]\n0=a\n6=b\n[JMONTHS]\n13=c\n[OTHER]\n1=d\n[STRINGS]\n26=e\n"
+                           "[JGMONTHS]\n13=f\n[MMONTHS]\n13=g\n");
     load("X");
     EXPECT_EQ(TextTables(), english);
 }
@@ -182,6 +182,8 @@ TEST_F(Language, FilesInOtherCaseAreListedAndFound) {
     EXPECT_EQ(LanguageList(),
               (QStringList{QStringLiteral("English (Default)"), QStringLiteral("Russian")}));
     EXPECT_EQ(load("Russian"), "Russian");
+    EXPECT_EQ(StringTexts(1), "x");
+    EXPECT_EQ(load("rUSSIAN"), "rUSSIAN");
     EXPECT_EQ(StringTexts(1), "x");
 }
 
@@ -311,9 +313,10 @@ TEST_F(Language, ABlankTextIsEmpty) {
 }
 
 TEST_F(Language, BlanksAtATextsEndAreCut) {
-    writeLanguage("A.lng", "[LABELS]\n1=\" a b  \"\n");
+    writeLanguage("A.lng", "[LABELS]\n1=\" a b  \"\n2=\"c \"\n");
     load("A");
     EXPECT_EQ(LabelTexts(1), " a b");
+    EXPECT_EQ(LabelTexts(2), "c");
 }
 
 TEST_F(Language, LongTextsAreCutAt254Bytes) {

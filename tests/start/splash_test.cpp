@@ -5,6 +5,7 @@
 #include "shared/settings.h"
 #include "start/splashwatch.h"
 #include "start/start.h"
+#include "support/paintsof.h"
 #include "support/platform_input.h"
 #include "support/texttables.h"
 #include "support/widget_test.h"
@@ -12,6 +13,8 @@
 #include <QApplication>
 #include <QIcon>
 #include <QImage>
+#include <QWidget>
+#include <QWindow>
 #include <utility>
 
 namespace {
@@ -68,8 +71,21 @@ TEST_F(Splash, LeavesTheProgramItsIcon) {
     QApplication::setWindowIcon(QIcon(programPath(QStringLiteral("Moon.bmp"))));
     const qint64 icon = QApplication::windowIcon().cacheKey();
     ::Splash().Hide();
+    EXPECT_TRUE(watch.icon.isNull()) << "a splash has none to wait for";
+    EXPECT_TRUE(watch.wasExposed);
     EXPECT_EQ(QApplication::windowIcon().cacheKey(), icon);
     QApplication::setWindowIcon({});
+}
+
+TEST_F(Splash, LetsTheWindowsPaintWhileItIsShown) {
+    ::Splash splash;
+    EXPECT_TRUE(watch.window->isExposed());
+    QWidget other;
+    const PaintsOf paints(other);
+    other.show();
+    splash.WaitItsTime();
+    EXPECT_GT(paints.count, 0);
+    splash.Hide();
 }
 
 TEST_F(Splash, IsShownForItsWholeTimeAndTakesNoInputMeanwhile) {

@@ -4,6 +4,7 @@
 #include "changecals/opening.h"
 #include "changecals/windows.h"
 #include "platform/clock.h"
+#include "platform/combobox.h"
 #include "platform/commandbutton.h"
 #include "platform/flexgrid.h"
 #include "shared/english.h"
@@ -23,6 +24,7 @@ protected:
     Starting() {
         clearTexts();
         Today = [] { return QDate(2026, 11, 20); };
+        MonthDays = {};
         QImage moon(16, 16, QImage::Format_RGB32);
         moon.fill(Qt::yellow);
         EXPECT_TRUE(moon.save(moonPath(), "BMP"));
@@ -63,6 +65,22 @@ protected:
     SplashWatch splash;
 };
 
+/// Keeps what a calendar window shows as it comes: the Julian Day, or else the year.
+class FirstSight : public QObject {
+public:
+    FirstSight() { qApp->installEventFilter(this); }
+
+    bool eventFilter(QObject* object, QEvent* event) override {
+        if (event->type() != QEvent::Show || qobject_cast<CalendarWindow*>(object) == nullptr)
+            return false;
+        const bool isMonthly = qobject_cast<MonthlyWindow*>(object) != nullptr;
+        shown = child<ComboBox>(*object, isMonthly ? "Combo8" : "Combo1")->Text();
+        return false;
+    }
+
+    QString shown;
+};
+
 class StartupWindows : public Starting, public testing::WithParamInterface<int> {
 protected:
     QStringList expectedWindows() const {
@@ -73,15 +91,23 @@ protected:
             return {};
         return {QLatin1String(names[window])};
     }
+
+    QString expectedSight() const {
+        const char* const texts[] = {"2461365", "2026", "2026", "5787", "1448"};
+        const int window = GetParam();
+        return window < 0 || window > calendarCount ? QString() : QLatin1String(texts[window]);
+    }
 };
 
 TEST_P(StartupWindows, OnlyTheOneStoredIsShown) {
+    const FirstSight sight;
     store("[Startup]\nWindow=" + QByteArray::number(GetParam()) + "\n");
     ASSERT_TRUE(Start::Main());
     processEvents();
     for (const MainWindowNumber number : mainWindows)
         EXPECT_NE(ChangeCals::LoadedWindow(number), nullptr) << number;
     EXPECT_EQ(visibleWindows(), expectedWindows());
+    EXPECT_EQ(sight.shown, expectedSight()) << "it comes filled";
     EXPECT_EQ(CurrentWindow, GetParam());
     EXPECT_EQ(StartupWindow, GetParam());
     for (const MainWindowNumber number : mainWindows) {
@@ -115,10 +141,17 @@ TEST_F(Starting, ChoosesTodayInAllCalendars) {
         EXPECT_TRUE(invariantsHold(c)) << c;
 }
 
+TEST_F(Starting, DerivesByTheStoredMoslemVariant) {
+    store("[Moslem]\nType=2\n");
+    ASSERT_TRUE(Start::Main());
+    EXPECT_EQ(dateIn(Moslem), (Date{9, 6, 1448}));
+}
+
 TEST_F(Starting, ShowsASplashForItsTime) {
     store("[Startup]\nWindow=3\n");
     ASSERT_TRUE(Start::Main());
-    EXPECT_GE(splash.seconds, 1.0368) << "0.000012 days";
+    EXPECT_GE(splash.secondsAlone, 1.0368) << "0.000012 days";
+    EXPECT_GE(splash.seconds, splash.secondsAlone) << "it goes when the window is there";
     EXPECT_EQ(splash.ground, QColor(0xFF, 0xFF, 0xC0)) << "the start-up calendar's colour";
 }
 
