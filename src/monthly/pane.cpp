@@ -131,7 +131,6 @@ void Pane::ShareLetterSizes(const Table<Pane*, paneCount>& panes) {
 void Pane::Reset() {
     m_combo1->SetItems(calendarEntries(), -1);
     selectCalendar();
-    m_combo3->Clear();
 }
 
 void Pane::SetCal() {

@@ -25,7 +25,7 @@ public:
     /// Gives each row of lists of the panes one letter size.
     static void ShareLetterSizes(const Table<Pane*, paneCount>& panes);
 
-    /// Fills the chooser with the calendars' names and empties the month list.
+    /// Fills the chooser with the calendars' names.
     void Reset();
 
     /// Refills the selectors.
