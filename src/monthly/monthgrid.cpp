@@ -44,7 +44,6 @@ MonthGrid::MonthGrid(int pane, QWidget* parent)
         SetRowHeight(row, otherRowHeight);
     const Twips outline{30}; // on both sides
     SetSize(columns * ColWidth(0) + outline, RowHeight(0) + 6 * RowHeight(1) + outline);
-    SetCalendar(CalendarOrder(pane));
     connect(this, &MSFlexGrid::MouseDown, this, &MonthGrid::ChoosePressedDay); // of any button
     connect(this, &MSFlexGrid::DblClick, this, &MonthGrid::MSFlexGrid1_DblClick);
     connect(this, &DayGrid::Paged, this, &MonthGrid::page);
