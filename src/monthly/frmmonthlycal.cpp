@@ -17,7 +17,6 @@
 #include "platform/text.h"
 #include "platform/twips.h"
 #include "settings/usersettings.h"
-#include "shared/flags.h"
 #include "shared/mainwindows.h"
 #include "shared/settings.h"
 #include "shared/texts.h"
@@ -105,11 +104,7 @@ void frmMonthlyCal::SetCommonInfo() {
 }
 
 void frmMonthlyCal::ReSetForm() {
-    const UpdatingGuard updating;
-    for (int pane = 1; pane <= paneCount; ++pane)
-        m_panes(pane)->Reset();
     placeEmblems();
-    m_common->Reset();
     Refill();
 }
 

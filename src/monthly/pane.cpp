@@ -128,14 +128,9 @@ void Pane::ShareLetterSizes(const Table<Pane*, paneCount>& panes) {
     }
 }
 
-void Pane::Reset() {
-    m_combo1->SetItems(calendarEntries(), -1);
-    selectCalendar();
-}
-
 void Pane::SetCal() {
     const UpdatingGuard updating;
-    selectCalendar();
+    m_combo1->SetItems(calendarEntries(), calendar() - 1); // none for a number that is no calendar
     if (IsCalendar(calendar()))
         showOnlyChosenDay();
     setAvailable();
@@ -221,10 +216,6 @@ void Pane::setFillers() {
 
 int Pane::calendar() const {
     return CalendarOrder(m_pane);
-}
-
-void Pane::selectCalendar() {
-    m_combo1->SetListIndex(IsCalendar(calendar()) ? calendar() - 1 : -1);
 }
 
 void Pane::showOnlyChosenDay() {

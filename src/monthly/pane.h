@@ -25,9 +25,6 @@ public:
     /// Gives each row of lists of the panes one letter size.
     static void ShareLetterSizes(const Table<Pane*, paneCount>& panes);
 
-    /// Fills the chooser with the calendars' names.
-    void Reset();
-
     /// Refills the selectors.
     void SetCal();
 
@@ -60,7 +57,6 @@ private:
 
     void setFillers();
     int calendar() const;
-    void selectCalendar();
     void showOnlyChosenDay();
     void setAvailable();
 

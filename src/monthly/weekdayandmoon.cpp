@@ -42,10 +42,17 @@ ListEntries moonAges() {
     });
 }
 
+QStringList weekdays() {
+    QStringList names;
+    for (int weekday = Monday; weekday <= Sunday; ++weekday)
+        names.append(Text(WeekDayNames(weekday)));
+    return names;
+}
+
 int widestWeekday(const ComboBox& list) {
     int width = 0;
-    for (int weekday = Monday; weekday <= Sunday; ++weekday)
-        width = std::max(width, list.WidthFor(Text(WeekDayNames(weekday))));
+    for (const QString& name : weekdays())
+        width = std::max(width, list.WidthFor(name));
     return width;
 }
 
@@ -85,16 +92,9 @@ void WeekdayAndMoon::Place(int left, int middle, int width) {
     placeNext(m_combo8, m_combo8->OwnWidth());
 }
 
-void WeekdayAndMoon::Reset() {
-    m_combo6->Clear();
-    for (int weekday = Monday; weekday <= Sunday; ++weekday)
-        m_combo6->AddItem(Text(WeekDayNames(weekday)));
-}
-
 void WeekdayAndMoon::Fill() {
     const UpdatingGuard updating;
-    if (m_combo6->ListIndex() != WeekDayNo - 1)
-        m_combo6->SetListIndex(WeekDayNo - 1);
+    m_combo6->SetItems(weekdays(), WeekDayNo - 1);
     m_command2.BringToFront(MoonPhase);
     m_moonAge = moonAgeText(MoonAge);
     m_combo7->SetOnlyItem(m_moonAge);

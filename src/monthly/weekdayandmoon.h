@@ -24,9 +24,6 @@ public:
     /// Where `width` is less than they need, the weekday gives way.
     void Place(int left, int middle, int width);
 
-    /// Fills the weekday list.
-    void Reset();
-
     /// Shows the chosen day.
     void Fill();
 
