@@ -15,7 +15,6 @@
 #include "platform/image.h"
 #include "platform/line.h"
 #include "platform/text.h"
-#include "platform/twips.h"
 #include "settings/usersettings.h"
 #include "shared/mainwindows.h"
 #include "shared/settings.h"
@@ -33,13 +32,13 @@ constexpr int emblemTop = 10;
 constexpr int emblemSide = 32;
 constexpr int gap = 6;
 constexpr int commandAreaHeight = 56;
+const Table<int, paneCount> PaneLeft{20, 176, 332, 488};
+
 constexpr int closeButton = frmMonthlyCal::commandCount;
 
 // Of Command1, by its index.
 const Table<Command, frmMonthlyCal::commandCount> commands{
     Command::YearCalendars, Command::Today, Command::Options, Command::About, Command::Close};
-
-const Table<Twips, paneCount> PaneLeft{{300}, {2640}, {4980}, {7320}};
 
 } // namespace
 
@@ -148,8 +147,8 @@ void frmMonthlyCal::createCommands() {
 void frmMonthlyCal::place() {
     int bottom = 0;
     for (int pane = 1; pane <= paneCount; ++pane)
-        bottom = m_panes(pane)->Place(ToPixels(PaneLeft(pane)), emblemTop + emblemSide + gap);
-    const int right = ToPixels(PaneLeft(paneCount)) + Pane::width;
+        bottom = m_panes(pane)->Place(PaneLeft(pane), emblemTop + emblemSide + gap);
+    const int right = PaneLeft(paneCount) + Pane::width;
     m_line1->setGeometry(margin, bottom + gap, right - margin, 2 * gap);
     bottom = placeCommon(bottom + 3 * gap, right - margin);
     SetSize({right + margin, bottom});
@@ -185,7 +184,7 @@ void frmMonthlyCal::placeEmblems() {
         if (!IsCalendar(CalendarOrder(pane)))
             continue;
         Image* emblem = m_image1(CalendarOrder(pane));
-        emblem->setGeometry(ToPixels(PaneLeft(pane)), emblemTop, emblemSide, emblemSide);
+        emblem->setGeometry(PaneLeft(pane), emblemTop, emblemSide, emblemSide);
         emblem->show();
     }
 }
