@@ -23,11 +23,12 @@ constexpr int digitPixels = 11;
 Date inNeighbour(int c, int direction) {
     const auto [day, month, year] = ChosenDate(c);
     const int last = c == Jewish ? 13 : 12;
-    if (direction < 0 && month == 1)
+    const int neighbour = month + direction;
+    if (neighbour < 1)
         return {day, last, year - 1};
-    if (direction > 0 && month == Calc::MonthsInYear(c))
+    if (neighbour > Calc::MonthsInYear(c))
         return {day, 1, year + 1};
-    return {day, month + direction, year};
+    return {day, neighbour, year};
 }
 
 } // namespace
@@ -43,7 +44,7 @@ MonthGrid::MonthGrid(int pane, QWidget* parent)
     for (int row = 1; row < daysInWeek; ++row)
         SetRowHeight(row, otherRowHeight);
     const Twips outline{30}; // on both sides
-    SetSize(columns * ColWidth(0) + outline, RowHeight(0) + 6 * RowHeight(1) + outline);
+    SetSize(columns * weekWidth + outline, firstRowHeight + 6 * otherRowHeight + outline);
     connect(this, &MSFlexGrid::MouseDown, this, &MonthGrid::ChoosePressedDay); // of any button
     connect(this, &MSFlexGrid::DblClick, this, &MonthGrid::MSFlexGrid1_DblClick);
     connect(this, &DayGrid::Paged, this, &MonthGrid::page);
