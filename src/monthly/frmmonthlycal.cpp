@@ -191,7 +191,7 @@ void frmMonthlyCal::placeEmblems() {
 
 void frmMonthlyCal::addPaneKeys() {
     const auto add = [this](QKeyCombination key, int step) {
-        auto* shortcut = new QShortcut(QKeySequence(key), this);
+        auto* shortcut = new QShortcut(key, this);
         connect(shortcut, &QShortcut::activated, this, [this, step] { goToPane(step); });
     };
     add(Qt::Key_F6, +1);

@@ -144,7 +144,7 @@ bool Pane::ShowsDay() const {
 bool Pane::HasFocus() const {
     const QWidget* focus = m_grid->window()->focusWidget();
     const QWidget* const controls[] = {m_combo1, m_combo2, m_combo3, m_grid, m_combo4, m_combo5};
-    return std::find(std::begin(controls), std::end(controls), focus) != std::end(controls);
+    return std::ranges::find(controls, focus) != std::end(controls);
 }
 
 void Pane::TakeFocus() {
