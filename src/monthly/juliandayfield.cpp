@@ -53,8 +53,7 @@ QString JulianDayField::Answer() const {
 
 void JulianDayField::Show(int julianDay) {
     m_shown = m_accepted = QString::number(julianDay);
-    SetOnlyItem(m_shown);
-    setEditText(m_shown);
+    SetOnlyItem(m_shown); // whatever was typed over it
 }
 
 void JulianDayField::keyPressEvent(QKeyEvent* event) {
