@@ -177,7 +177,6 @@ void JulianDayField::tellRange() {
         setFocus();
         MsgBox(rangeText(), window());
         window()->activateWindow();
-        setFocus();
         lineEdit()->selectAll(); // the next digit replaces it
     }
     m_refusing = false;
