@@ -4,6 +4,8 @@
 
 #include <QFile>
 #include <QSettings>
+#include <set>
+#include <string>
 
 namespace {
 
@@ -201,8 +203,11 @@ TEST_F(MonthlyWindowTest, APaneWithoutACalendarStandsEmptyAndIsRepairedByChoosin
     EXPECT_EQ(combo(1, 1).ListIndex(), -1);
     EXPECT_TRUE(combo(1, 1).isVisible());
     EXPECT_FALSE(grid(1).isVisible());
-    for (const int kind : {2, 3, 4, 5})
+    for (const int kind : {2, 3, 4, 5}) {
         EXPECT_FALSE(combo(kind, 1).isVisible());
+        QTest::keyClick(&combo(kind, 1), Qt::Key_F12); // is filled before any key
+        EXPECT_EQ(combo(kind, 1).ListCount(), 1) << kind;
+    }
     ChangeCals::ChangeJD();
     EXPECT_EQ(CalendarOrder(1), 9);
 
@@ -243,6 +248,8 @@ protected:
 };
 
 TEST_F(MonthlyPaper, IsOfThePaneWithTheFocus) {
+    CalendarOrder = {Moslem, Jewish, Gregorian, Julian};
+    window().ReSetForm();
     for (int pane = 1; pane <= paneCount; ++pane) {
         const std::string expected = "print month " + std::to_string(CalendarOrder(pane));
         EXPECT_EQ(printedFrom(grid(pane)), expected);
@@ -279,6 +286,22 @@ TEST_F(MonthlyWindowTest, TheEmblemOfACalendarThatNoPaneShowsIsHidden) {
     window().ReSetForm();
     EXPECT_TRUE(child<QWidget>(window(), "Image1_4")->isHidden());
     EXPECT_TRUE(child<QWidget>(window(), "Image1_3")->isVisible());
+}
+
+TEST_F(MonthlyWindowTest, WhatARefillChangesIsNotTheUsers) {
+    std::set<std::string> changed;
+    const auto watch = [&changed](const char* what) {
+        return [&changed, what] {
+            changed.insert(what);
+            EXPECT_TRUE(Updating) << what;
+        };
+    };
+    const QObject context;
+    QObject::connect(&combo(2, 1), &QComboBox::currentTextChanged, &context, watch("year"));
+    QObject::connect(grid(1).model(), &QAbstractItemModel::dataChanged, &context, watch("days"));
+    QObject::connect(&combo(6), &QComboBox::currentTextChanged, &context, watch("weekday"));
+    goTo(2451545);
+    EXPECT_EQ(changed, (std::set<std::string>{"year", "days", "weekday"}));
 }
 
 } // namespace

@@ -51,6 +51,28 @@ TEST_F(JulianDayLeft, LeavingForAnotherWindowIsRefusedWithOneMessageOverTheField
     goTo(2461365);
 }
 
+TEST_F(JulianDayLeft, ARefusalBringsTheWindowOfTheFieldToTheFront) {
+    type(QStringLiteral("5"));
+    showOtherWindow();
+    waitForMessages();
+    EXPECT_TRUE(waitUntil([] { return window().isActiveWindow(); }));
+    goTo(2461365);
+}
+
+TEST_F(JulianDayLeft, LeavingForAnotherWindowTakesNothingWhenTheProgramEnds) {
+    type(QStringLiteral("2451545"));
+    ChangeCals::SetLeaving();
+    showOtherWindow();
+    EXPECT_EQ(CurJD, 2461365);
+}
+
+TEST_F(JulianDayLeft, NothingStaysSelected) {
+    combo(8).setFocus();
+    edit().selectAll();
+    QTest::keyClick(&combo(8), Qt::Key_Tab);
+    EXPECT_FALSE(edit().hasSelectedText());
+}
+
 TEST_F(JulianDayLeft, LeavingForAnotherProgramKeepsTheNumberWaiting) {
     for (const int day : {2451545, 5}) {
         type(QString::number(day));
@@ -139,6 +161,7 @@ TEST_F(JulianDayLeft, AFieldThatTheProgramFilledIsNotJudgedOnLeaving) {
     ASSERT_GT(CurJD, 2817404);
     combo(8).setFocus(Qt::TabFocusReason);
     QTest::keyClick(&combo(8), Qt::Key_Tab);
+    processEvents(); // a message would take the focus back
     EXPECT_FALSE(combo(8).hasFocus());
 }
 

@@ -93,6 +93,15 @@ TEST_F(JulianDayEntry, PastedTextIsJudgedAsAWhole) {
     EXPECT_EQ(combo(8).Text(), QStringLiteral("2461365"));
 }
 
+TEST_F(JulianDayEntry, PastedTextIsJudgedBeforeAnyKeyToo) {
+    edit().selectAll();
+    QApplication::clipboard()->setText(QStringLiteral("12ab"));
+    edit().paste(); // as by the mouse
+    EXPECT_EQ(m_beeps, 1);
+    EXPECT_EQ(combo(8).Text(), QStringLiteral("2461365"));
+    EXPECT_EQ(edit().cursorPosition(), 0);
+}
+
 TEST_F(JulianDayEntry, TypingIsNotCompleted) {
     type(QStringLiteral("24"));
     EXPECT_EQ(combo(8).Text(), QStringLiteral("24"));
@@ -191,6 +200,15 @@ TEST_F(JulianDayEntry, ARefusedCharacterBringsBackTheEntryThatWasChosen) {
     QTest::keyClicks(&combo(8), QStringLiteral("x"));
     EXPECT_EQ(m_beeps, 1);
     EXPECT_EQ(combo(8).Text(), QStringLiteral("2461365"));
+}
+
+TEST_F(JulianDayEntry, WhatAToolWroteIsRounded) {
+    combo(8).setFocus();
+    edit().setText(QStringLiteral("2451544.7")); // without a key
+    QTest::keyClick(&combo(8), Qt::Key_Return);
+    EXPECT_EQ(m_beeps, 0);
+    EXPECT_EQ(CurJD, 2451545);
+    EXPECT_EQ(combo(8).Text(), QStringLiteral("2451545"));
 }
 
 TEST_F(JulianDayEntry, ARefusedCharacterBringsBackWhatAToolWrote) {

@@ -35,6 +35,10 @@ TEST_F(MonthKeys, PageKeysGoToTheMonthBeforeAndAfter) {
     EXPECT_EQ(dateIn(Gregorian), (Date{20, 12, 2026}));
     press(Gregorian, Qt::Key_PageDown);
     EXPECT_EQ(dateIn(Gregorian), (Date{20, 1, 2027}));
+    press(Gregorian, Qt::Key_PageDown);
+    EXPECT_EQ(dateIn(Gregorian), (Date{20, 2, 2027}));
+    press(Gregorian, Qt::Key_PageUp);
+    EXPECT_EQ(dateIn(Gregorian), (Date{20, 1, 2027}));
     press(Gregorian, Qt::Key_PageUp);
     press(Gregorian, Qt::Key_PageUp);
     EXPECT_EQ(dateIn(Gregorian), (Date{20, 11, 2026}));

@@ -3,6 +3,7 @@
 #include "support/platform_accessible.h"
 
 #include <QAccessible>
+#include <QSignalSpy>
 
 namespace {
 
@@ -36,6 +37,8 @@ TEST_F(MonthGrids, SizesAreTheDesignedOnes) {
     for (int pane = 1; pane <= paneCount; ++pane) {
         EXPECT_EQ(grid(pane).size(), QSize(121, 145));
         EXPECT_EQ(grid(pane).font().pixelSize(), 11);
+        EXPECT_EQ(grid(pane).Rows(), 7);
+        EXPECT_EQ(grid(pane).Cols(), 7);
         for (int column = 0; column < 7; ++column)
             EXPECT_EQ(grid(pane).ColWidth(column), Twips{255});
         EXPECT_EQ(grid(pane).RowHeight(0), Twips{345});
@@ -265,6 +268,12 @@ TEST_F(MonthGrids, ADayStepRepaintsTwoCellsOfAGrid) {
     ChangeCals::ChangeJD();
     processEvents();
     EXPECT_EQ(grid(2).PaintedCells() - before, 2);
+}
+
+TEST_F(MonthGrids, AnotherMonthIsShownAtOnce) {
+    const QSignalSpy changed(grid(2).model(), &QAbstractItemModel::dataChanged);
+    goTo(CurJD + 30);
+    EXPECT_EQ(changed.count(), 1) << "not cell after cell";
 }
 
 TEST_F(MonthGrids, ARefillThatChangesNothingRepaintsNothing) {

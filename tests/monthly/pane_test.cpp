@@ -181,12 +181,12 @@ TEST_F(Selectors, AChoiceIsCarriedOnce) {
 TEST_F(Selectors, WhatIsChosenAlreadyIsNotCarried) {
     ChangeCals::LoadYear(Julian).Show();
     window().activateWindow();
-    for (const int kind : {2, 3, 4, 5}) {
-        ComboBox& list = combo(kind, 2);
-        list.setFocus();
+    for (ComboBox* list :
+         {&combo(2, 2), &combo(3, 2), &combo(4, 2), &combo(5, 2), &combo(6), &combo(7)}) {
+        list->setFocus();
         calls.clear();
-        Q_EMIT list.activated(list.currentIndex());
-        EXPECT_TRUE(takeCalls().empty()) << kind;
+        Q_EMIT list->activated(list->currentIndex());
+        EXPECT_TRUE(takeCalls().empty()) << qPrintable(list->objectName());
     }
 }
 
