@@ -15,7 +15,7 @@ namespace {
 constexpr int discMargin = 2; // pixels
 
 // What is not lit: the sky, and the moon's shadow that cannot be told from it.
-constexpr int skyColor = 0x000000;
+constexpr Qt::GlobalColor skyColor = Qt::black;
 
 // The toolkit would tell a widget that paints itself as a mere filler.
 QAccessibleInterface* newInterface(const QString& className, QObject* object) {
@@ -30,8 +30,8 @@ void paintShadow(QPainter& painter, const Shadow& shadow) {
                        QSizeF(shadow.width, shadow.height) / twipsPerPixel);
     if (shape.width() < 1)
         return;
-    painter.setPen(QPen(ToColor(skyColor), shadow.border));
-    painter.setBrush(shadow.solid ? QBrush(ToColor(skyColor)) : QBrush());
+    painter.setPen(QPen(skyColor, shadow.border));
+    painter.setBrush(shadow.solid ? skyColor : QBrush());
     if (shadow.shape == Shadow::Shape::Circle)
         painter.drawEllipse(shape);
     else
@@ -59,7 +59,7 @@ void MoonPicture::SetShadow(const Shadow& shadow) {
 
 void MoonPicture::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.fillRect(rect(), ToColor(skyColor));
+    painter.fillRect(rect(), skyColor);
     painter.setRenderHint(QPainter::Antialiasing);
     if (m_scaled.isNull())
         paintSubstitute(painter);

@@ -197,7 +197,6 @@ void frmYearCal::placeControls() {
     placeGroup(FirstOtherCalendar, buttonCount);
     left += gap;
     placeGroup(OptionsButton, CloseButton);
-    setTabOrder(before, m_grid);
     m_grid->move(frame, controlsHeight - frame);
 }
 

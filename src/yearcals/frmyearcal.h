@@ -37,7 +37,7 @@ protected:
 private:
     /// Command1 by index; from FirstOtherCalendar on they open the other calendars'
     /// windows.
-    enum Button : int {
+    enum : int {
         PreviousYear = 1,
         NextYear = 2,
         TodayButton = 3,
