@@ -10,6 +10,7 @@
 #include <QDir>
 #include <QFile>
 #include <QImage>
+#include <QKeyEvent>
 #include <QLabel>
 
 namespace {
@@ -202,6 +203,14 @@ TEST_F(MoonWindowTest, EscHidesItAlsoAfterAChangeAndOtherKeysDoNothing) {
     QTest::keyClick(moon().windowHandle(), Qt::Key_Escape);
     EXPECT_FALSE(window->Visible());
     EXPECT_EQ(&moon(), window);
+}
+
+TEST_F(MoonWindowTest, AKeyThatItHasNoUseForIsLeftToOthers) {
+    writeBitmap();
+    ChangeCals::ShowMoonWindow();
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier);
+    QCoreApplication::sendEvent(&moon(), &press);
+    EXPECT_FALSE(press.isAccepted());
 }
 
 TEST_F(MoonWindowTest, ADoubleClickBringsBackTheMonthlyWindow) {

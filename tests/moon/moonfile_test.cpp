@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "moon/moonfile.h"
 
+#include "support/usualrights.h"
 #include "support/widget_test.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QImage>
 #include <QtEndian>
 #include <optional>
@@ -104,6 +106,18 @@ TEST_F(MoonFile, WhatIsNoFileIsNotOpened) {
     EXPECT_TRUE(LoadMoonPicture(path).picture.isNull());
 }
 
+TEST_F(MoonFile, WhatMayNotBeReadIsMissingHoweverLargeItIs) {
+    const QString path = programPath(QStringLiteral("Moon.bmp"));
+    writeFile(path, {});
+    ASSERT_TRUE(QFile::resize(path, 300'000'000));
+    for (const QString& folder : {m_folder.path(), QFileInfo(path).path()})
+        ASSERT_TRUE(QFile::setPermissions(folder, QFile::Permissions(0x7777)));
+    ASSERT_TRUE(QFile::setPermissions(path, {}));
+    const UsualRights usual;
+    EXPECT_TRUE(LoadMoonPicture(path).picture.isNull());
+    EXPECT_FALSE(LoadMoonPicture(path).isTooLarge);
+}
+
 TEST_F(MoonFile, MayHaveAQuarterOfAGigabyteAndNoMore) {
     constexpr qint64 most = 268435456;
     const Bitmap small{.width = 2, .height = 2, .data = QByteArray(16, '\xFF')};
@@ -156,6 +170,26 @@ TEST_F(MoonFile, PixelsThatAreNotInTheFileAreNoPicture) {
         Bitmap bitmap = twoRows(24, Plain, zeros8, ones8);
         bitmap.offset = offset;
         EXPECT_TRUE(load(bitmap).isNull()) << offset;
+    }
+}
+
+TEST_F(MoonFile, PixelsMayStandBehindAGap) {
+    Bitmap bitmap = twoRows(24, Plain, zeros8, ones8);
+    bitmap.offset = fileHeader + infoHeader + 8;
+    bitmap.data.prepend(ones8);
+    const QImage picture = load(bitmap);
+    ASSERT_EQ(picture.size(), QSize(2, 2));
+    EXPECT_EQ(picture.pixelColor(0, 0), QColor(Qt::white));
+    EXPECT_EQ(picture.pixelColor(0, 1), QColor(Qt::black));
+}
+
+// The length tells where the head ends.
+TEST_F(MoonFile, AHeadOfNegativeLengthIsNoPicture) {
+    for (const int length : {-15, -100}) {
+        const QByteArray head = "BM" + bytes(0) + bytes(0) + bytes(26) + bytes(length) +
+                                bytes<short>(2) + bytes<short>(2) + bytes<short>(1) +
+                                bytes<short>(24);
+        EXPECT_TRUE(load(head + zeros8 + ones8).isNull()) << length;
     }
 }
 

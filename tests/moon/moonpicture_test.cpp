@@ -5,12 +5,15 @@
 #include "changecals/windows.h"
 #include "moon/frmmoon.h"
 #include "moon/moonpicture.h"
+#include "support/paintsof.h"
 #include "support/recording_windows.h"
 #include "support/widget_test.h"
 
+#include <QFile>
 #include <QImage>
 #include <QLabel>
 #include <QPalette>
+#include <cstdlib>
 
 namespace {
 
@@ -125,6 +128,44 @@ TEST_F(MoonPictures, AreSmoothedAsTheyAreScaled) {
     }
 }
 
+TEST_F(MoonPictures, AreKeptInTheSizeInWhichTheyAreShown) {
+    store(chequered(side));
+    moon();
+    ASSERT_TRUE(QFile::remove(programPath(QStringLiteral("Moon.bmp"))));
+    const QImage image = drawn(fullMoonAge);
+    EXPECT_EQ(image.pixelColor(100, 100), QColor(Qt::black));
+    EXPECT_EQ(image.pixelColor(101, 100), white);
+}
+
+/// As on a screen of two pixels for one.
+class MoonOnASharpScreen : public MoonPicture {
+public:
+    using MoonPicture::MoonPicture;
+
+    QImage drawn() {
+        QImage image(size() * 2, QImage::Format_RGB32);
+        image.setDevicePixelRatio(2);
+        render(&image);
+        return image;
+    }
+
+protected:
+    int metric(PaintDeviceMetric what) const override {
+        return what == PdmDevicePixelRatioScaled ? 2 * 0x10000 : MoonPicture::metric(what);
+    }
+};
+
+TEST_F(MoonPictures, AreShownInEveryPixelOfASharpScreen) {
+    MoonOnASharpScreen alone(QStringLiteral("Picture1"), nullptr);
+    alone.resize(side, side);
+    alone.SetPicture(chequered(2 * side));
+    const QImage image = alone.drawn();
+    for (int y = 20; y < 2 * side - 20; ++y) {
+        for (int x = 20; x < 2 * side - 20; ++x)
+            ASSERT_GT(std::abs(qGray(image.pixel(x, y)) - 127), 100) << x << ' ' << y;
+    }
+}
+
 /// The rectangle of the pixels that are not black.
 QRect inked(const QImage& image) {
     QRect found;
@@ -175,6 +216,44 @@ TEST_F(MoonPictures, TheDiscInThePlaceOfAPictureLooksTheSameOnADarkDesktop) {
     dark.setColor(QPalette::WindowText, Qt::white);
     alone.setPalette(dark);
     EXPECT_EQ(alone.grab().toImage(), usual);
+}
+
+// Along the fourth line of such a screen, of which each pixel takes two.
+TEST_F(MoonPictures, TheDiscInThePlaceOfAPictureHasAnOutlineOfOnePixel) {
+    MoonOnASharpScreen alone(QStringLiteral("Picture1"), nullptr);
+    alone.resize(side, side);
+    alone.SetPicture({});
+    const QImage disc = alone.drawn();
+    EXPECT_LT(qGray(disc.pixel(side, 4)), 40);
+    EXPECT_GT(qGray(disc.pixel(side, 5)), 200);
+}
+
+TEST_F(MoonPictures, AShadowCoversNothingUntilItIsAsWideAsAPixel) {
+    MoonPicture alone(QStringLiteral("Picture1"), nullptr);
+    alone.resize(side, side);
+    QImage bright(16, 16, QImage::Format_RGB32);
+    bright.fill(white);
+    alone.SetPicture(bright);
+    const QImage bare = alone.grab().toImage();
+    const struct {
+        double twips;
+        bool covers;
+    } rows[] = {{1, false}, {14, false}, {15, true}, {22, true}};
+    for (const auto& row : rows) {
+        alone.SetShadow({Shadow::Shape::Rectangle, true, 1, 1500, 1500, row.twips, 1500});
+        EXPECT_EQ(alone.grab().toImage() != bare, row.covers) << row.twips;
+    }
+}
+
+TEST_F(MoonPictures, ArePaintedAnewWhenTheirShadowIsAnother) {
+    MoonPicture alone(QStringLiteral("Picture1"), nullptr);
+    alone.resize(side, side);
+    alone.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&alone));
+    processEvents();
+    const PaintsOf paints(alone);
+    alone.SetShadow({Shadow::Shape::Rectangle, true, 1, 0, 0, 1500, 1500});
+    EXPECT_TRUE(waitUntil([&paints] { return paints.count > 0; }));
 }
 
 } // namespace

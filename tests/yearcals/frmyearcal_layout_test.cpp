@@ -5,10 +5,25 @@
 #include <QApplication>
 #include <QEvent>
 #include <QFont>
+#include <QFontMetrics>
 
 namespace {
 
-using YearLayouts = YearTest;
+class YearLayouts : public YearTest {
+protected:
+    ~YearLayouts() override { QApplication::setFont(m_formerFont); }
+
+    void useLetters(int pixels, double spacing = 0) const {
+        QFont font = m_formerFont;
+        font.setPixelSize(pixels);
+        font.setLetterSpacing(QFont::AbsoluteSpacing, spacing);
+        QApplication::setFont(font);
+        processEvents();
+    }
+
+private:
+    const QFont m_formerFont = QApplication::font();
+};
 
 TEST_F(YearLayouts, TheRowOfControlsGoesFromOneEdgeToTheOther) {
     for (const int c : {Julian, Gregorian, Moslem}) {
@@ -54,17 +69,41 @@ TEST_F(YearLayouts, ControlsNeitherOverlapNorStickOut) {
 TEST_F(YearLayouts, LargerLettersMoveTheControlsOfAnOpenWindow) {
     open(Julian);
     const QRect before = selector(Julian).geometry();
-    const QFont former = QApplication::font();
-    QFont large = former;
-    large.setPixelSize(24);
-    QApplication::setFont(large);
-    processEvents();
-    {
+    useLetters(24);
+    frmYearCal fresh(Julian);
+    EXPECT_NE(selector(Julian).geometry(), before);
+    EXPECT_EQ(selector(Julian).geometry(), child<ComboBox>(fresh, "Combo1")->geometry());
+}
+
+TEST_F(YearLayouts, TheRowGoesFromOneEdgeToTheOtherInLettersOfAnySize) {
+    for (int pixels = 8; pixels < 19; ++pixels) {
+        useLetters(pixels);
         frmYearCal fresh(Julian);
-        EXPECT_NE(selector(Julian).geometry(), before);
-        EXPECT_EQ(selector(Julian).geometry(), child<ComboBox>(fresh, "Combo1")->geometry());
+        const auto& list = *child<ComboBox>(fresh, "Combo1");
+        EXPECT_EQ(list.x(), 4) << pixels;
+        EXPECT_EQ(list.width(), list.WidthFor(QStringLiteral("3000"))) << pixels;
+        const int right = child<CommandButton>(fresh, "Command1_6")->geometry().right();
+        EXPECT_GE(right, 384 - 2) << pixels;
+        EXPECT_LE(right, 384) << pixels;
     }
-    QApplication::setFont(former);
+}
+
+// By a quarter of a pixel after each digit the year is as wide as any number of pixels.
+TEST_F(YearLayouts, LettersTooLargeForTheRowBecomeSmallerButNoSmallerThanTheyMust) {
+    constexpr int room = 389 - 2 * 4 - 10 * 30 - 3 * 2;
+    constexpr int besideText = 24;
+    for (const double spacing : {0.0, 0.25, 0.5, 0.75}) {
+        useLetters(40, spacing);
+        frmYearCal fresh(Julian);
+        const auto& list = *child<ComboBox>(fresh, "Combo1");
+        EXPECT_LE(list.width(), room) << spacing;
+        const int next = child<CommandButton>(fresh, "Command1_1")->x();
+        EXPECT_GE(next, 4 + list.width() + 2) << spacing;
+        QFont larger = list.font();
+        larger.setPixelSize(larger.pixelSize() + 1);
+        const int advance = QFontMetrics(larger).horizontalAdvance(QStringLiteral("3000"));
+        EXPECT_GT(advance, room - besideText) << spacing;
+    }
 }
 
 TEST_F(YearLayouts, AnotherStylePlacesTheControlsAnew) {

@@ -103,4 +103,17 @@ TEST_F(YearSelector, AYearLeftByAButtonCanBeChosenAgain) {
     EXPECT_EQ(CurDate(Gregorian, Year), 2026);
 }
 
+TEST_F(YearSelector, ARefillIsMarkedAsNoChoiceOfTheUsers) {
+    open(Gregorian);
+    ComboBox& years = selector(Gregorian);
+    years.setFocus();
+    std::vector<bool> updating;
+    const QObject context;
+    QObject::connect(&years, &QComboBox::currentIndexChanged, &context,
+                     [&updating] { updating.push_back(Updating); });
+    goTo(CurJD + 365);
+    EXPECT_EQ(updating, std::vector<bool>{true});
+    EXPECT_FALSE(Updating);
+}
+
 } // namespace
