@@ -7,9 +7,10 @@
 
 namespace {
 
-GridPlace nextInColumns(GridPlace cell, int step, const DayBands& bands) {
+GridPlace nextInColumns(GridPlace cell, bool down, const DayBands& bands) {
+    const int step = down ? 1 : -1;
     const int bandRows = bands.titleRows + daysInWeek;
-    const int first = step > 0 ? bands.titleRows : bandRows - 1; // of the rows of a band
+    const int first = down ? bands.titleRows : bandRows - 1; // of the rows of a band
     const int top = cell.row - cell.row % bandRows;
     const int week = bands.WeekRow(cell.row) + step;
     const int column = cell.column + step;
@@ -17,7 +18,7 @@ GridPlace nextInColumns(GridPlace cell, int step, const DayBands& bands) {
         return {cell.row + step, cell.column};
     if (column >= 0 && column < bands.columns)
         return {top + first, column};
-    return {top + step * bandRows + first, step > 0 ? 0 : bands.columns - 1};
+    return {top + step * bandRows + first, down ? 0 : bands.columns - 1};
 }
 
 } // namespace
@@ -33,6 +34,6 @@ GridPlace NextBy(int arrowKey, GridPlace cell, const DayBands& bands) {
     case Qt::Key_Right:
         return {cell.row, cell.column + 1};
     default:
-        return nextInColumns(cell, arrowKey == Qt::Key_Up ? -1 : 1, bands);
+        return nextInColumns(cell, arrowKey == Qt::Key_Down, bands);
     }
 }

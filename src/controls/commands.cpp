@@ -45,7 +45,7 @@ Commands::Commands(Form& window, MainWindowNumber number, std::function<void()> 
                    std::function<void()> print)
     : m_number(number), m_close(std::move(close)), m_print(std::move(print)) {
     for (const Row& row : rows) {
-        auto* shortcut = new QShortcut(QKeySequence(row.key), &window);
+        auto* shortcut = new QShortcut(row.key, &window);
         QObject::connect(shortcut, &QShortcut::activated, &window,
                          [this, command = row.command] { Run(command); });
     }

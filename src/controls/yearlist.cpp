@@ -15,7 +15,7 @@ void Controls::ShowYearInList(ComboBox& list, int c) {
     const bool isInList = year >= MinYear(c) && year <= MaxYear(c);
     if (list.ListCount() <= 1 || !isInList)
         list.SetOnlyItem(QString::number(year));
-    else if (list.ListIndex() != year - MinYear(c))
+    else
         list.SetListIndex(year - MinYear(c));
 }
 
