@@ -5,6 +5,10 @@
 #include "support/recording_windows.h"
 #include "support/widget_test.h"
 
+#include <QAbstractItemModel>
+#include <QItemSelectionModel>
+#include <QSignalSpy>
+
 namespace {
 
 /// The months of the Gregorian year side by side, each under a title row.
@@ -12,9 +16,7 @@ class Months final : public DayGrid {
 public:
     Months()
         : DayGrid(QStringLiteral("months"), 1, 1, 1 + 12 * monthColumns, MonthlyWindowNumber,
-                  nullptr) {
-        SetCalendar(Gregorian);
-    }
+                  nullptr) {}
     using DayGrid::ChoosePressedDay;
     using DayGrid::FillMonth;
     using DayGrid::FillWeekdays;
@@ -34,6 +36,7 @@ protected:
     DayGrids() {
         startToday();
         useRecordingWindows();
+        grid.SetCalendar(Gregorian);
         for (int month = 1; month <= 12; ++month)
             grid.FillMonth(month);
         grid.FillWeekdays();
@@ -103,6 +106,21 @@ TEST_F(DayGrids, MoveTheirMark) {
     grid.MarkChosenDay();
     EXPECT_EQ(red(), std::vector{twentyFirst});
     EXPECT_EQ(grid.SelectedCell(), twentyFirst);
+}
+
+TEST_F(DayGrids, TellOfAMovedMarkWhenItHasMoved) {
+    const QSignalSpy moved(grid.selectionModel(), &QItemSelectionModel::currentChanged);
+    const QSignalSpy changed(grid.model(), &QAbstractItemModel::dataChanged);
+    grid.MoveTo(twentyFirst);
+    goTo(CurJD + 1);
+    grid.MarkChosenDay();
+    EXPECT_EQ(moved.count(), 1) << "there, and not back and there again";
+    EXPECT_EQ(changed.count(), 2) << "the former cell and the new one";
+}
+
+TEST_F(DayGrids, HaveNoCalendarBeforeTheFirst) {
+    EXPECT_EQ(Months().Calendar(), 0);
+    EXPECT_EQ(grid.Calendar(), Gregorian);
 }
 
 TEST_F(DayGrids, HaveNoMarkInOtherColours) {

@@ -48,6 +48,13 @@ TEST_F(Tips, NameTheirCalendarToThoseWhoDoNotSeeWhereTheyAre) {
     EXPECT_EQ(control.accessibleName(), QStringLiteral("Moslem calendar, Any"));
 }
 
+TEST_F(Tips, NameNoCalendarWhereThereIsNone) {
+    for (const int noCalendar : {-1, 0, 5}) {
+        Controls::SetTip(&control, YearText, noCalendar);
+        EXPECT_EQ(control.accessibleName(), QStringLiteral("Year")) << noCalendar;
+    }
+}
+
 TEST_F(Tips, AreSwitchedOffAndNamesAreNot) {
     ShowTips = 0;
     Controls::SetTip(&control, YearText);

@@ -39,14 +39,30 @@ TEST_F(YearLists, HoldAllYearsOfTheirCalendar) {
 }
 
 TEST_F(YearLists, ShowTheChosenYearAloneUntilTheyAreFull) {
-    Controls::ShowYearInList(list, Gregorian);
-    EXPECT_EQ(list.ListCount(), 1);
-    EXPECT_EQ(list.Text(), QStringLiteral("2026"));
+    for (const char* year : {"2026", "2027"}) {
+        Controls::ShowYearInList(list, Gregorian);
+        EXPECT_EQ(list.ListCount(), 1);
+        EXPECT_EQ(list.Text(), QLatin1String(year));
+        goTo(CurJD + 366);
+    }
     fill(Gregorian);
     goTo(CurJD + 366);
     Controls::ShowYearInList(list, Gregorian);
     EXPECT_EQ(list.ListCount(), 3000);
-    EXPECT_EQ(list.Text(), QStringLiteral("2027"));
+    EXPECT_EQ(list.Text(), QStringLiteral("2029"));
+}
+
+TEST_F(YearLists, ShowTheFirstAndTheLastYearAmongTheOthers) {
+    fill(Gregorian);
+    const struct {
+        int julianDay, position;
+    } rows[] = {{1721426, 0}, {2817152, 2999}}; // 1 January 1 and 31 December 3000
+    for (const auto& row : rows) {
+        goTo(row.julianDay);
+        Controls::ShowYearInList(list, Gregorian);
+        EXPECT_EQ(list.ListCount(), 3000);
+        EXPECT_EQ(list.ListIndex(), row.position);
+    }
 }
 
 TEST_F(YearLists, ShowAYearForWhichTheyHaveNoPlaceAlone) {

@@ -59,7 +59,8 @@ TEST_F(English, FirstAndLastEntriesOfEveryTable) {
                 {StringTexts(CalendarText), "Calendar"},
                 {StringTexts(ExitText), "Exit"},
                 {StringTexts(FileNotFoundText), "File not found"},
-                {StringTexts(SelectLanguageText), "Select language"}};
+                {StringTexts(SelectLanguageText), "Select language"},
+                {SelectedWord, "selected"}};
     for (const auto& row : rows)
         EXPECT_EQ(row.text, row.expected);
 }

@@ -19,3 +19,7 @@ TEST(UpdatingGuard, AnInnerRefillLeavesTheOuterOneAtWork) {
     }
     EXPECT_TRUE(Updating);
 }
+
+TEST(CurrentWindow, IsTheMonthlyOneAtFirst) {
+    EXPECT_EQ(CurrentWindow, 0);
+}

@@ -48,6 +48,12 @@ TEST_F(TableTest, TellsOfMoreEntriesThanItHasAndTakesNone) {
     EXPECT_EQ(reported, (std::vector<Access>{{2, 1}}));
 }
 
+TEST_F(TableTest, IsComparedByEveryEntry) {
+    const Table<int, 2> table{1, 2};
+    EXPECT_NE(table, (Table<int, 2>{7, 2}));
+    EXPECT_NE(table, (Table<int, 2>{1, 7}));
+}
+
 TEST_F(TableTest, ReadsNothingOutsideAndTellsTheIndexAndTheExtent) {
     const Table<int, 2, 3> table{11, 12, 13, 21, 22, 23};
     EXPECT_EQ(table(0, 1), 0);
