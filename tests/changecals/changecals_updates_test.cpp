@@ -69,6 +69,21 @@ TEST_F(Updates, HiddenWindowsAreLeftAlone) {
     EXPECT_EQ(takeCalls(), Calls{});
 }
 
+TEST_F(Updates, AWindowThatIsVisibleAloneIsRedrawnAndRebuiltAlone) {
+    const Table<bool, calendarCount> all{true, true, true, true};
+    ChangeCals::LoadMonthly().Show();
+    ChangeCals::ChangeJD();
+    EXPECT_EQ(takeCalls(), monthlyRedraw);
+    ChangeCals::RebuildWindows(all);
+    EXPECT_EQ(takeCalls(), Calls{"monthly.ReSetForm"});
+    ChangeCals::LoadMonthly().Hide();
+    ChangeCals::LoadMoon().Show();
+    ChangeCals::ChangeJD();
+    EXPECT_EQ(takeCalls(), Calls{"moon.ReSetForm, CurrentWindow 0"});
+    ChangeCals::RebuildWindows(all);
+    EXPECT_EQ(takeCalls(), Calls{"moon.ReSetForm, CurrentWindow 0"});
+}
+
 TEST_F(Updates, MinimisedWindowsAreRedrawn) {
     ChangeCals::LoadYear(Jewish).showMinimized();
     ChangeCals::ChangeJD();
@@ -94,6 +109,9 @@ TEST_F(Updates, AChosenDateIsCarriedAndItsWindowComesFirst) {
     ChangeCals::ChooseJulianDay(2461365, MoonWindowNumber);
     EXPECT_EQ(dateIn(Gregorian), (Date{20, 11, 2026}));
     EXPECT_EQ(takeCalls(), (Calls{"year1.ShowYear", "year3.ShowYear"}));
+    ChangeCals::ChooseJulianDay(2461364, YearWindowNumber(Jewish));
+    EXPECT_EQ(takeCalls(), (Calls{"year3.ShowYear", "year1.ShowYear"}));
+    EXPECT_EQ(CurrentWindow, 0);
 }
 
 TEST_F(Updates, NoChangeOfAListIsTakenForTheUsersWhileTheDayIsCarried) {

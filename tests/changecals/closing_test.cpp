@@ -7,6 +7,7 @@
 #include "support/recording_windows.h"
 #include "support/widget_test.h"
 
+#include <QEvent>
 #include <QFile>
 #include <QSettings>
 #include <utility>
@@ -171,6 +172,24 @@ TEST_F(Closing, TipsFollowTheNumberOfOpenWindows) {
     EXPECT_EQ(monthlyTip(), exitTip);
 }
 
+TEST_F(Closing, OnlyAWindowThatComesOrGoesChangesTheTips) {
+    ChangeCals::ShowMonthlyWindow();
+    static_cast<RecordingMonthly&>(ChangeCals::LoadMonthly()).record.closeTip.clear();
+    QEvent other(QEvent::User);
+    QCoreApplication::sendEvent(&ChangeCals::LoadMonthly(), &other);
+    EXPECT_EQ(monthlyTip(), QString());
+}
+
+TEST_F(Closing, WindowsThatGoWithTheProgramLeaveTheTips) {
+    ChangeCals::ShowMonthlyWindow();
+    ChangeCals::OpenYearWindow(Moslem);
+    ChangeCals::LeaveProgram(3);
+    EXPECT_EQ(m_exitStatus, 3);
+    EXPECT_FALSE(ChangeCals::LoadMonthly().Visible());
+    EXPECT_EQ(monthlyTip(), severalTip);
+    EXPECT_EQ(yearTip(Moslem), severalTip);
+}
+
 TEST_F(Closing, PositionsAreThoseOfTheFramesInTwips) {
     ChangeCals::LoadMonthly().Show();
     ChangeCals::LoadMonthly().move(100, 50);
@@ -248,6 +267,7 @@ TEST_F(Closing, EndingIsNotBegunAgainWhileItsMessageStands) {
     ChangeCals::LoadMonthly().Show();
     bool again = false;
     const MessageShown endAgain([&again](QMessageBox&) {
+        EXPECT_TRUE(ChangeCals::LoadMonthly().Visible());
         if (!std::exchange(again, true))
             ChangeCals::ExitProgram();
     });
@@ -276,11 +296,14 @@ TEST_F(Closing, PositionsAreSavedBeforeTheEnd) {
     EXPECT_TRUE(saved);
 }
 
-TEST_F(Closing, TheMonthlyWindowIsNoneAsSoonAsItIsUnloaded) {
+TEST_F(Closing, AMainWindowIsNoneAsSoonAsItIsUnloaded) {
     ChangeCals::OpenYearWindow(Moslem);
     ChangeCals::LoadMonthly().Show();
     ChangeCals::LoadMonthly().close();
     EXPECT_EQ(ChangeCals::LoadedWindow(MonthlyWindowNumber), nullptr);
+    ChangeCals::LoadMoon().Show();
+    ChangeCals::LoadMoon().close();
+    EXPECT_EQ(ChangeCals::LoadedWindow(MoonWindowNumber), nullptr);
 }
 
 } // namespace

@@ -193,4 +193,10 @@ TEST_F(FirstPlacesOf, AScreenTooLowForOneWindowAloneLetsThemOverlap) {
     EXPECT_EQ(FirstPlaces({0, 0, 1920, 1040}, sizes)(Julian), QPoint(1118, 193));
 }
 
+TEST_F(FirstPlacesOf, AHighScreenHaveTheirLowerRowBelowTheJulianWindow) {
+    WindowSizes sizes = contents;
+    sizes(Gregorian) = QSize(389, 500);
+    EXPECT_EQ(FirstPlaces({0, 0, 1600, 1170}, sizes)(Jewish), QPoint(674, 585));
+}
+
 } // namespace

@@ -35,6 +35,8 @@ TEST_F(Opening, YearWindowsOfThePanesOpenFromTheLastToTheFirst) {
     CalendarOrder = {9, Jewish, Julian, Moslem};
     ChangeCals::OpenYearWindowsOfPanes();
     EXPECT_EQ(takeCalls(), (Calls{"year4.ShowYear", "year1.ShowYear", "year3.ShowYear"}));
+    for (const int c : {Jewish, Julian, Moslem})
+        EXPECT_TRUE(ChangeCals::LoadYear(c).Visible()) << c;
 }
 
 TEST_F(Opening, TheYearWindowOfTheFirstPaneGetsTheKeyboard) {

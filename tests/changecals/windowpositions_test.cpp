@@ -46,6 +46,10 @@ TEST_F(PositionsOfWindows, ReckonWithTheSizeOfAWindowThatIsPlaced) {
     ChangeCals::PlaceForm(monthly, MonthlyWindowNumber);
     EXPECT_EQ(monthly.pos(), QPoint(0, 314));
     EXPECT_EQ(ChangeCals::PlaceOf(MoonWindowNumber).top, Twips{0});
+    Form smaller(QStringLiteral("frmMonthlyCal"));
+    smaller.resize(656, 400);
+    ChangeCals::PlaceForm(smaller, MonthlyWindowNumber);
+    EXPECT_EQ(ChangeCals::PlaceOf(MoonWindowNumber).top, Twips{0}) << "the largest is known";
 }
 
 TEST_F(PositionsOfWindows, AreReadBackFromTheWindows) {
