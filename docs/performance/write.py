@@ -30,13 +30,15 @@ def build():
 
 
 def benchmarks(name):
-    """The processor's nanoseconds of each benchmark, the median of several runs."""
+    """The processor's nanoseconds of each benchmark, the median of several runs. They take
+    turns, since a machine is faster in one minute than in the next."""
     with tempfile.TemporaryDirectory() as folder:
         report = pathlib.Path(folder) / "report.json"
         environment = {**os.environ, "QT_QPA_PLATFORM": "offscreen", "XDG_RUNTIME_DIR": folder}
         subprocess.run(
             [BIN / name, f"--benchmark_out={report}", "--benchmark_out_format=json",
-             "--benchmark_repetitions=5", "--benchmark_report_aggregates_only=true"],
+             "--benchmark_repetitions=5", "--benchmark_enable_random_interleaving=true",
+             "--benchmark_report_aggregates_only=true"],
             env=environment, check=True, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         rows = json.loads(report.read_text())["benchmarks"]
     unit = {"ns": 1, "us": 1e3, "ms": 1e6}
@@ -159,7 +161,8 @@ def page(results):
         f"""# Performance
 
 Written by `docs/performance/write.py` from measured results. Compare within a row: what stands there was
-measured in one run on one machine, in time of the processor, as the median of five: {made["processor"]},
+measured in one run on one machine by turns, in time of the processor, as the median of five:
+{made["processor"]},
 {made["cores"]} cores, {made["memory"]} of memory, {made["system"]} ({made["machine"]}), {made["compiler"]},
 Qt {made["qt"]}, ICU {made["icu"]}, the program at commit {made["commit"]}.
 """,
