@@ -33,10 +33,11 @@ def room_of(path):
 
 
 def changes_of(room):
-    """All changes of a room."""
+    """All changes of a room, but of what is compiled for Windows alone: no test here
+    runs it."""
     paths = [ROOT / "src" / PROGRAM] if room == PROGRAM else sorted(
         [*(ROOT / "src" / room).glob("*.cpp"), *(ROOT / "src" / room).glob("*.h")])
-    for path in paths:
+    for path in [path for path in paths if not path.stem.endswith("_windows")]:
         name, source = path.relative_to(ROOT).as_posix(), path.read_text(encoding="utf-8")
         alike = {}
         for mutant in mutants_of(name, source):
@@ -214,7 +215,7 @@ class Run:
 def main():
     everywhere = [*rooms(), PROGRAM]
     parser = argparse.ArgumentParser(description=__doc__.split("\n\n")[0])
-    parser.add_argument("--seed", type=int, default=3141)
+    parser.add_argument("--seed", type=int, default=4669)
     parser.add_argument("--count", type=int, default=160, help="changes in all rooms together")
     parser.add_argument("--rooms", nargs="+", default=everywhere, choices=everywhere)
     parser.add_argument("--jobs", type=int, default=os.cpu_count(), help="changes judged at a time")
