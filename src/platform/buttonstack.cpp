@@ -12,7 +12,6 @@ ButtonStack::ButtonStack(const QString& name, const QStringList& pictures, QWidg
         connect(button, &CommandButton::clicked, this, &ButtonStack::Click);
         m_buttons.push_back(button);
     }
-    Front()->raise();
 }
 
 void ButtonStack::Place(int x, int y, int side) {

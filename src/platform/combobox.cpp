@@ -51,7 +51,6 @@ ListEntries NumberedEntries(int first, int last, int chosen,
     if (chosen < first || chosen > last)
         return {};
     ListEntries entries{{}, chosen - first};
-    entries.texts.reserve(last - first + 1);
     for (int number = first; number <= last; ++number)
         entries.texts.append(entry(number));
     return entries;

@@ -22,7 +22,6 @@ CommandButton::CommandButton(const QString& name, const QString& picture, QWidge
     : QPushButton(parent), m_pointedAt(ButtonPicture(pointedAt(picture))) {
     setObjectName(name);
     setFocusPolicy(Qt::StrongFocus);
-    setAutoDefault(false);
     SetSide(side);
     setIcon(ButtonPicture(picture));
     setAttribute(Qt::WA_Hover); // not every style has it repainted under the pointer

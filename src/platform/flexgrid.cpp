@@ -29,10 +29,9 @@ bool isArrival(Qt::FocusReason reason) {
     return reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason;
 }
 
-void setFixedSections(QHeaderView* header) {
+void hideHeader(QHeaderView* header) {
     header->hide();
     header->setMinimumSectionSize(1);
-    header->setSectionResizeMode(QHeaderView::Fixed);
 }
 
 } // namespace
@@ -44,18 +43,12 @@ MSFlexGrid::MSFlexGrid(const QString& name, int rows, int columns, QWidget* pare
     setObjectName(name);
     setFocusPolicy(Qt::StrongFocus);
     setFrameStyle(QFrame::Box | QFrame::Plain);
-    setLineWidth(1);
     setShowGrid(false);
-    setEditTriggers(NoEditTriggers);
     setSelectionMode(NoSelection);
-    setTabKeyNavigation(false);
-    setAutoScroll(false);
-    setTextElideMode(Qt::ElideNone);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setCornerButtonEnabled(false);
-    setFixedSections(horizontalHeader());
-    setFixedSections(verticalHeader());
+    hideHeader(horizontalHeader());
+    hideHeader(verticalHeader());
     setItemDelegate(m_painter);
     setModel(m_model);
     m_painter->SetFonts(font());
@@ -176,12 +169,8 @@ void MSFlexGrid::currentChanged(const QModelIndex& current, const QModelIndex& p
     m_speaker.TellCurrent();
 }
 
-void MSFlexGrid::selectionChanged(const QItemSelection& selected,
-                                  const QItemSelection& deselected) {
-    // The table view counts headers among the cells.
-    QAbstractItemView::selectionChanged( // NOLINT(bugprone-parent-virtual-call)
-        selected, deselected);
-}
+// No cell looks other when it is selected, and the table view counts headers among the cells.
+void MSFlexGrid::selectionChanged(const QItemSelection&, const QItemSelection&) {}
 
 // All cells are always in view.
 void MSFlexGrid::scrollTo(const QModelIndex&, ScrollHint) {}

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/form.h"
 
-#include <QCloseEvent>
 #include <cmath>
 #include <cstdlib>
 
@@ -78,7 +77,6 @@ int Form::settled(int place, int put) const {
     return fractional && std::abs(place - put) <= 1 ? put : place;
 }
 
-void Form::closeEvent(QCloseEvent* event) {
-    event->accept();
+void Form::closeEvent(QCloseEvent*) {
     Unload();
 }

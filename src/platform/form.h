@@ -15,7 +15,7 @@ class Form : public QWidget, public Speaker {
     Q_OBJECT
 
 public:
-    enum State { Normal = 0, Minimised = 1, Maximised = 2 };
+    enum State { Normal, Minimised, Maximised };
 
     explicit Form(const QString& name);
 
