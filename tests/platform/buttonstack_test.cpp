@@ -73,7 +73,9 @@ TEST_F(Stack, AnIndexOutOfRangeIsIgnored) {
 TEST_F(Stack, ClicksOfTheFrontOneAreTold) {
     show();
     stack.BringToFront(2);
-    click(seen());
+    QTest::mousePress(seen(), Qt::LeftButton);
+    EXPECT_EQ(clicks, 0) << "not before the release";
+    QTest::mouseRelease(seen(), Qt::LeftButton);
     EXPECT_EQ(clicks, 1);
 }
 
@@ -87,6 +89,15 @@ TEST_F(Stack, TheOneInFrontHasItsFormersPlaceAmongTheTabStops) {
     EXPECT_TRUE(stack.Front()->hasFocus());
     QTest::keyClick(stack.Front(), Qt::Key_Tab);
     EXPECT_TRUE(next->hasFocus());
+}
+
+TEST_F(Stack, TheOneInFrontLiesOverWhatElseStandsThere) {
+    auto* cover = new QLineEdit(&window);
+    cover->setGeometry(10, 40, 60, 60);
+    show();
+    EXPECT_EQ(seen(), cover);
+    stack.BringToFront(1);
+    EXPECT_EQ(seen(), stack.Buttons()[1]);
 }
 
 } // namespace

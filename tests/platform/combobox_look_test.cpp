@@ -4,8 +4,10 @@
 #include "support/paintsof.h"
 
 #include <QAbstractItemView>
+#include <QPainter>
 #include <QScrollBar>
 #include <QStyle>
+#include <QStyleOption>
 
 namespace {
 
@@ -183,6 +185,22 @@ TEST_F(RowOfTwo, IsPaintedWhenTheTextOfOneChanges) {
     EXPECT_TRUE(waitUntil([&paints] { return paints.count > 0; }));
 }
 
+TEST_F(RowOfTwo, KeepsEachListsOwnFontWhereAllLettersAreAsLarge) {
+    const QImage before = list->grab().toImage();
+    QFont bold = neighbour->font();
+    bold.setBold(true);
+    neighbour->setFont(bold);
+    EXPECT_EQ(list->grab().toImage(), before);
+}
+
+TEST_F(Combo, IsPaintedWhenTheFocusComes) {
+    show();
+    processEvents();
+    const PaintsOf paints(*list);
+    focusList();
+    EXPECT_TRUE(waitUntil([&paints] { return paints.count > 0; }));
+}
+
 TEST_F(Combo, ItsLettersFollowTheFont) {
     list->SetOnlyItem(QStringLiteral("HHH"));
     list->resize(80, 60);
@@ -221,6 +239,7 @@ TEST_F(Combo, AListDropsDownAsWideAsItsEntries) {
     processEvents();
     EXPECT_GE(list->view()->viewport()->width(),
               QFontMetrics(list->view()->font()).horizontalAdvance(wide));
+    EXPECT_EQ(list->view()->textElideMode(), Qt::ElideNone) << "on a narrow screen neither";
 }
 
 TEST_F(Combo, ItsEntryHasTheColorOfTheTextsOfFields) {
@@ -253,6 +272,9 @@ TEST_F(Combo, AFieldKeeps24PixelsBesideItsText) {
     list->setEditable(true);
     show();
     EXPECT_EQ(list->WidthFor({}), list->width() - list->lineEdit()->width() + 24);
+    const int field = list->lineEdit()->width();
+    list->resize(list->width() + 30, list->height());
+    EXPECT_EQ(list->lineEdit()->width(), field + 30);
 }
 
 // A line without gaps, too long for the smallest letters: what is seen of it is all the room.
@@ -278,6 +300,77 @@ TEST_F(Combo, TwoLinesNeedTheirHeightAndFourPixels) {
     const QRect whole = inkOf(*list);
     list->resize(90, lines + 3);
     EXPECT_LT(inkOf(*list).width(), whole.width());
+}
+
+TEST_F(Combo, AsksForTheRoomOfALetterWhateverItHolds) {
+    const QString wide(60, u'W');
+    list->SetOnlyItem(wide);
+    show();
+    EXPECT_LT(list->sizeHint().width(), QFontMetrics(list->font()).horizontalAdvance(wide) / 4);
+    EXPECT_EQ(list->minimumContentsLength(), 1);
+}
+
+TEST_F(Combo, ATextIsOnOneLineInTheWidthThatItAsksForAndNotInLess) {
+    const QString name = QStringLiteral("November");
+    const int width = list->WidthFor(name);
+    const int oneLine = list->sizeHint().height();
+    EXPECT_EQ(list->HeightFor({name}, width), oneLine);
+    EXPECT_GT(list->HeightFor({name}, width - 1), oneLine);
+}
+
+TEST_F(Combo, ATextTooWideForItsRoomGetsLettersThatFit) {
+    QFont large = window.font();
+    large.setPixelSize(20);
+    window.setFont(large);
+    const QString year = QStringLiteral("2888");
+    const int whole = list->FitWidth(year, 1000);
+    EXPECT_EQ(list->FitWidth(year, whole), whole);
+    EXPECT_EQ(list->WidthFor(year), whole);
+    EXPECT_LE(list->FitWidth(year, whole - 5), whole - 5);
+    EXPECT_LE(list->WidthFor(year), whole - 5);
+    EXPECT_EQ(list->FitWidth(year, 10), 10) << "the least letters are too large";
+    EXPECT_EQ(list->FitWidth(year, whole), whole) << "large letters again";
+}
+
+// Both heights, as half a pixel is rounded away in one of them.
+TEST_F(Combo, ItsEntryStandsInTheMiddleOfItsHeight) {
+    QFont font = list->font();
+    font.setPixelSize(12);
+    list->setFont(font);
+    list->SetOnlyItem(QStringLiteral("HHH"));
+    show();
+    for (const int height : {24, 25}) {
+        list->resize(80, height);
+        QImage expected(80, height, QImage::Format_RGB32);
+        expected.fill(Qt::white);
+        QPainter painter(&expected);
+        painter.setFont(font);
+        painter.drawText(QRect(5, 2, 58, height - 4), Qt::AlignVCenter, list->Text());
+        painter.end();
+        const QRect ink = inkOf(*list);
+        EXPECT_EQ(ink.top(), InkOf(expected).top()) << height;
+        EXPECT_EQ(ink.bottom(), InkOf(expected).bottom()) << height;
+    }
+}
+
+// Left of the arrow an empty list looks as it does behind it.
+TEST_F(Combo, ItsArrowStandsInTheTwelvePixelsBeforeItsBorder) {
+    list->SetOnlyItem({});
+    show();
+    list->resize(80, 24);
+    const QImage drawn = list->grab().toImage();
+    QImage expected = drawn;
+    for (int y = 4; y < 20; ++y)
+        for (int x = 62; x < 77; ++x)
+            expected.setPixel(x, y, drawn.pixel(40, y));
+    EXPECT_NE(expected, drawn);
+    QStyleOption arrow;
+    arrow.initFrom(list);
+    arrow.rect = QRect(64, 2, 12, 20);
+    QPainter painter(&expected);
+    list->style()->drawPrimitive(QStyle::PE_IndicatorArrowDown, &arrow, &painter, list);
+    painter.end();
+    EXPECT_EQ(DifferingPixels(drawn, expected), QRect());
 }
 
 } // namespace

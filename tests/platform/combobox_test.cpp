@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/combobox_test.h"
 
+#include <QWheelEvent>
 #include <functional>
+#include <utility>
 
 namespace {
 
@@ -105,6 +107,15 @@ TEST_F(Combo, ClosingTheListWithoutAChoiceIsNoClick) {
     EXPECT_EQ(clicks, 0);
 }
 
+TEST_F(Combo, TheWheelWithoutTheFocusIsLeftToWhatTheListStandsOn) {
+    show();
+    const QPointF middle = list->rect().center();
+    QWheelEvent turn(middle, list->mapToGlobal(middle), {}, {0, -120}, Qt::NoButton, {},
+                     Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(list, &turn);
+    EXPECT_FALSE(turn.isAccepted());
+}
+
 TEST_F(Combo, TheWheelWithoutTheFocusChangesNothing) {
     show();
     turnWheel(*list);
@@ -124,6 +135,7 @@ TEST_F(Combo, NumbersBecomeEntries) {
     EXPECT_EQ(NumberedEntries(3, 5, 5).chosen, 2);
     EXPECT_TRUE(NumberedEntries(3, 5, 2).texts.isEmpty());
     EXPECT_TRUE(NumberedEntries(3, 5, 6).texts.isEmpty());
+    EXPECT_EQ(NumberedEntries(3, 5, 6).chosen, -1);
 }
 
 TEST_F(Combo, AShortListIsFilledWhenTheFocusComes) {
@@ -143,17 +155,20 @@ TEST_F(Combo, AShortListIsFilledWhenTheFocusComes) {
 TEST_F(Combo, AShortListIsFilledBeforeEveryUse) {
     show();
     focusList();
-    const std::vector<std::function<void()>> uses{[this] { QTest::keyClick(list, Qt::Key_Down); },
-                                                  [this] { turnWheel(*list); },
-                                                  [this] { type("2027"); },
-                                                  [this] {
-                                                      list->showPopup();
-                                                      list->hidePopup();
-                                                  }};
-    for (const auto& use : uses) {
+    const std::vector<std::pair<std::function<void()>, const char*>> uses{
+        {[this] { QTest::keyClick(list, Qt::Key_Down); }, "2027"},
+        {[this] { turnWheel(*list); }, "2027"},
+        {[this] { type("2027"); }, "2027"},
+        {[this] {
+             list->showPopup();
+             list->hidePopup();
+         },
+         "2026"}};
+    for (const auto& [use, shown] : uses) {
         offerYears(2026);
         use();
         EXPECT_EQ(list->ListCount(), 3000);
+        EXPECT_EQ(list->Text(), QLatin1String(shown));
     }
     EXPECT_EQ(fillings, 4);
 }

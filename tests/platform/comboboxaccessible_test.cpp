@@ -63,6 +63,7 @@ TEST_F(AccessibleCombo, ItsActionsOpenAndCloseTheList) {
     EXPECT_TRUE(accessible(*list).state().hasPopup);
     EXPECT_TRUE(accessible(*list).state().expandable);
     EXPECT_TRUE(accessible(*list).state().collapsed);
+    EXPECT_FALSE(accessible(*list).state().expanded);
     EXPECT_EQ(accessible(*list).childCount(), 0);
     QAccessibleActionInterface* actions = accessible(*list).actionInterface();
     EXPECT_EQ(actions->keyBindingsForAction(showMenu), QStringList{QStringLiteral("Alt+Down")});
@@ -72,6 +73,7 @@ TEST_F(AccessibleCombo, ItsActionsOpenAndCloseTheList) {
         act(action);
         ASSERT_TRUE(waitUntil([this] { return list->view()->isVisible(); }));
         EXPECT_TRUE(accessible(*list).state().expanded);
+        EXPECT_FALSE(accessible(*list).state().collapsed);
         ASSERT_EQ(accessible(*list).childCount(), 1);
         QAccessibleInterface* entries = accessible(*list).child(0);
         EXPECT_EQ(entries->parent(), &accessible(*list));

@@ -5,6 +5,7 @@
 #include "support/paintsof.h"
 
 #include <QEnterEvent>
+#include <QProxyStyle>
 #include <QStyle>
 #include <QStyleFactory>
 #include <memory>
@@ -28,8 +29,8 @@ protected:
 
 TEST_F(OneButton, HasItsNameSizeAndPicture) {
     EXPECT_EQ(button->objectName(), QStringLiteral("Command1_1"));
-    EXPECT_EQ(button->size(), QSize(CommandButton::side, CommandButton::side));
-    EXPECT_EQ(button->iconSize(), QSize(CommandButton::pictureSide, CommandButton::pictureSide));
+    EXPECT_EQ(button->size(), QSize(30, 30));
+    EXPECT_EQ(button->iconSize(), QSize(24, 24));
     EXPECT_FALSE(button->icon().pixmap(CommandButton::pictureSide).isNull());
 }
 
@@ -149,6 +150,35 @@ TEST_F(OneButton, TabLeadsToIt) {
     show();
     QTest::keyClick(other, Qt::Key_Tab);
     EXPECT_TRUE(button->hasFocus());
+}
+
+TEST_F(OneButton, IsDownWhenItsPressIsTold) {
+    bool wasDown = false;
+    QObject::connect(button, &CommandButton::MouseDown, button,
+                     [this, &wasDown] { wasDown = button->isDown(); });
+    show();
+    QTest::mousePress(button, Qt::LeftButton);
+    EXPECT_TRUE(wasDown);
+    QTest::mouseRelease(button, Qt::LeftButton);
+}
+
+/// A style in which a click on a button leaves the focus where it is.
+class TabOnlyStyle : public QProxyStyle {
+public:
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* returned) const override {
+        if (hint == SH_Button_FocusPolicy)
+            return static_cast<int>(Qt::TabFocus);
+        return QProxyStyle::styleHint(hint, option, widget, returned);
+    }
+};
+
+TEST_F(OneButton, AClickTakesTheFocusWhateverTheStyleAsksFor) {
+    const QString former = QApplication::style()->name();
+    QApplication::setStyle(new TabOnlyStyle);
+    const CommandButton another(QStringLiteral("Command1_2"), closePicture, nullptr);
+    EXPECT_EQ(another.focusPolicy(), Qt::StrongFocus);
+    QApplication::setStyle(former);
 }
 
 } // namespace

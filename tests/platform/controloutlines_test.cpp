@@ -13,6 +13,7 @@
 #include <QScrollBar>
 #include <QStyle>
 #include <QStyleOption>
+#include <memory>
 
 namespace {
 
@@ -196,6 +197,46 @@ TEST_F(Outlines, FollowTheColorsOfWindowsWhateverThoseOfFieldsAre) {
     QApplication::setPalette(colors);
     processEvents();
     EXPECT_EQ(check->palette().color(QPalette::Window), QColor(Qt::white)) << "not forced";
+}
+
+class OutlinesToCome : public PlatformTest {
+protected:
+    void TearDown() override { QApplication::setPalette(m_before); }
+
+    static void chooseWhiteOnBlack() {
+        QApplication::setPalette(colorsOf({"white on black", Qt::black, Qt::white}));
+    }
+
+    static QColor ground() { return QApplication::palette("QComboBox").color(QPalette::Window); }
+
+private:
+    const QPalette m_before = QApplication::palette();
+};
+
+TEST_F(OutlinesToCome, AreChosenBeforeThereIsAWindow) {
+    chooseWhiteOnBlack();
+    EXPECT_EQ(ground(), QColor(Qt::white));
+}
+
+/// Keeps from the program, while it lives, that its theme is another.
+class KeptTheme : public QObject {
+public:
+    KeptTheme() { qApp->installEventFilter(this); }
+
+    bool eventFilter(QObject* receiver, QEvent* event) override {
+        return receiver == qApp && event->type() == QEvent::ApplicationPaletteChange;
+    }
+};
+
+TEST_F(OutlinesToCome, AreChosenInAThemeThatIsOlderThanTheProgram) {
+    {
+        const KeptTheme kept;
+        chooseWhiteOnBlack();
+    }
+    ASSERT_EQ(ground(), QColor(Qt::black));
+    InstallControlOutlines();
+    const std::unique_ptr<QObject> added(qApp->children().constLast());
+    EXPECT_EQ(ground(), QColor(Qt::white));
 }
 
 } // namespace

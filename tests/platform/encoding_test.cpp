@@ -18,4 +18,9 @@ TEST(CodePage, FollowsTheScriptOfTheUsersLanguage) {
         EXPECT_EQ(CodePageOf(QLocale(QLatin1String(row.locale))), row.codePage) << row.locale;
 }
 
+TEST(WithoutMark, OtherBytesStayAsTheyAre) {
+    EXPECT_EQ(WithoutMark("\xEF\xBB\xBF\xC0x"), "\xC0x");
+    EXPECT_EQ(WithoutMark("\xC0x"), "\xC0x");
+}
+
 } // namespace

@@ -73,6 +73,10 @@ TEST_F(FlexGrid, ArrowKeysMoveTheCurrentCell) {
         QTest::keyClick(grid, step.key);
         EXPECT_EQ(at(), step.at) << step.key;
     }
+    QTest::keyClick(grid, Qt::Key_PageDown);
+    EXPECT_EQ(at(), QPoint(6, 7));
+    QTest::keyClick(grid, Qt::Key_PageUp);
+    EXPECT_EQ(at(), QPoint(6, 0));
     EXPECT_EQ(presses.size(), 0U);
 }
 
@@ -214,6 +218,34 @@ TEST_F(FlexGrid, TheCurrentCellStaysWhileTheUserIsInAnotherWindow) {
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     ASSERT_TRUE(waitUntil([this] { return grid->hasFocus(); }));
     EXPECT_EQ(at(), QPoint(4, 5));
+}
+
+TEST_F(MergedRow, OfATitleThatChangesNothingElseIsPainted) {
+    setTitles({"May", "May", "May", "May", "May", "May"});
+    show();
+    EXPECT_LE(paintedBy([this] {
+                  setTitles({"June", "June", "June", "June", "June", "June"});
+              }),
+              columns);
+}
+
+TEST_F(MergedRow, TheFirstTwoCellsAreMergedWhereTheOthersStayAsTheyAre) {
+    grid->SetTextMatrix(0, 0, QStringLiteral("z"));
+    setTitles({"a", "b", "c", "d", "e", "f"});
+    EXPECT_EQ(spans(), std::vector<int>(columns, 1));
+    grid->SetTextMatrix(0, 0, QStringLiteral("a"));
+    EXPECT_EQ(spans(), (std::vector<int>{2, 2, 1, 1, 1, 1, 1}));
+}
+
+TEST_F(MergedRow, TheToolkitHasNothingToComplainOf) {
+    static int complaints;
+    complaints = 0;
+    const QtMessageHandler former = qInstallMessageHandler(
+        [](QtMsgType, const QMessageLogContext&, const QString&) { ++complaints; });
+    setTitles({"a", "a", "a", "b", "c", "d"});
+    setTitles({"a", "b", "b", "b", "c", "d"});
+    qInstallMessageHandler(former);
+    EXPECT_EQ(complaints, 0);
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/flexgrid_test.h"
+#include "support/ink.h"
 #include "support/platform_accessible.h"
 
 #include "platform/color.h"
@@ -129,6 +130,36 @@ TEST_F(FlexGrid, ItsFrameIsOnePixelInAStyleOfWideFramesToo) {
     another.hide();
     QApplication::setStyle(former);
     EXPECT_EQ(cells, QRect(1, 1, 38, 38));
+}
+
+TEST_F(FlexGrid, ACellIsSelectedBeforeItsChangeIsTold) {
+    bool wasSelected = false;
+    QObject::connect(grid->model(), &QAbstractItemModel::dataChanged, grid, [this, &wasSelected] {
+        wasSelected = grid->selectionModel()->isSelected(index(2, 3));
+    });
+    grid->SetRedraw(false);
+    grid->SetTextMatrix(2, 3, QStringLiteral("3"));
+    grid->SetSelectedCell({2, 3});
+    grid->SetRedraw(true);
+    EXPECT_TRUE(wasSelected);
+}
+
+/// The height of a digit in a grid that has its letters from its window.
+int digitHeightAt(int pixels) {
+    QWidget parent;
+    QFont font = parent.font();
+    font.setPixelSize(pixels);
+    parent.setFont(font);
+    MSFlexGrid cell(QStringLiteral("MSFlexGrid2"), 1, 1, &parent);
+    cell.SetColWidth(0, ToTwips(40));
+    cell.SetRowHeight(0, ToTwips(40));
+    cell.SetSize(ToTwips(42), ToTwips(42));
+    cell.SetTextMatrix(0, 0, QStringLiteral("8"));
+    return InkOf(cell.viewport()->grab(QRect(0, 0, 40, 40)).toImage()).height();
+}
+
+TEST_F(FlexGrid, ItsLettersAreThoseOfItsWindowUntilTheyAreSet) {
+    EXPECT_GT(digitHeightAt(20), digitHeightAt(10) + 4);
 }
 
 } // namespace

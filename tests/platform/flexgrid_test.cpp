@@ -8,6 +8,9 @@ TEST_F(FlexGrid, HasTheNumberOfCellsAskedFor) {
     EXPECT_EQ(grid->Rows(), rows);
     EXPECT_EQ(grid->Cols(), columns);
     EXPECT_EQ(at(), QPoint(0, 0));
+    EXPECT_EQ(grid->model()->rowCount(index(1, 2)), 0) << "cells hold no others";
+    EXPECT_EQ(grid->model()->columnCount(index(1, 2)), 0);
+    EXPECT_EQ(grid->focusPolicy(), Qt::StrongFocus);
 }
 
 TEST_F(FlexGrid, SizesAreExactInTwips) {
@@ -58,16 +61,21 @@ TEST_F(FlexGrid, CellPropertiesActOnTheCurrentCellOnly) {
 
 TEST_F(FlexGrid, AllCellColorsAreSetAtOnceAndNotBold) {
     grid->SetTextMatrix(0, 0, QStringLiteral("1"));
+    grid->SetTextMatrix(1, 2, QStringLiteral("2"));
     grid->SetCellFontBold(true);
     grid->SetAllCellColors(blue, red);
-    for (const QPoint cell : {QPoint(0, 0), QPoint(columns - 1, rows - 1)}) {
-        grid->SetRow(cell.y());
-        grid->SetCol(cell.x());
-        EXPECT_EQ(grid->CellBackColor(), blue);
-        EXPECT_EQ(grid->CellForeColor(), red);
-        EXPECT_FALSE(grid->CellFontBold());
+    for (int row = 0; row < rows; ++row) {
+        for (int column = 0; column < columns; ++column) {
+            grid->SetRow(row);
+            grid->SetCol(column);
+            EXPECT_EQ(grid->CellBackColor(), blue);
+            EXPECT_EQ(grid->CellForeColor(), red);
+            EXPECT_FALSE(grid->CellFontBold());
+        }
     }
     EXPECT_EQ(grid->TextMatrix(0, 0), QStringLiteral("1"));
+    EXPECT_EQ(grid->TextMatrix(1, 2), QStringLiteral("2"));
+    EXPECT_EQ(grid->TextMatrix(2, 1), QString());
 }
 
 TEST_F(FlexGrid, OutsideTheGridNothingHappens) {
@@ -154,6 +162,57 @@ TEST_F(FlexGrid, ManyChangedCellsArePaintedWithinTheRectangleThatHoldsThem) {
     });
     EXPECT_GE(painted, 12);
     EXPECT_LE(painted, 20) << "the toolkit adds a line of pixels at the end";
+}
+
+TEST_F(FlexGrid, EightChangedCellsArePaintedOneByOneAndNineWithWhatLiesBetweenThem) {
+    show();
+    const auto change = [this](const QString& text) {
+        for (int row = 1; row < rows; row += 2)
+            for (const int column : {1, 5})
+                grid->SetTextMatrix(row, column, text);
+    };
+    const int eight = paintedBy([this, change] {
+        const MSFlexGrid::DrawingOff drawingOff(*grid);
+        change(QStringLiteral("a"));
+    });
+    EXPECT_EQ(eight, 8);
+    const int nine = paintedBy([this, change] {
+        const MSFlexGrid::DrawingOff drawingOff(*grid);
+        change(QStringLiteral("b"));
+        grid->SetTextMatrix(4, 3, QStringLiteral("b"));
+    });
+    EXPECT_GT(nine, 9);
+}
+
+TEST_F(FlexGrid, NothingIsPaintedWhileDrawingIsOff) {
+    show();
+    const int painted = paintedBy([this] {
+        const MSFlexGrid::DrawingOff drawingOff(*grid);
+        const int meanwhile = paintedBy([this] {
+            const MSFlexGrid::DrawingOff offAsBefore(*grid);
+            grid->SetTextMatrix(5, 1, QStringLiteral("a"));
+        });
+        EXPECT_EQ(meanwhile, 0);
+    });
+    EXPECT_EQ(painted, 1);
+}
+
+TEST_F(FlexGrid, WhereTheCurrentCellMovesTwoCellsArePainted) {
+    show();
+    pressAt(middleOf(3, 3));
+    EXPECT_EQ(paintedBy([this] { QTest::keyClick(grid, Qt::Key_Home); }), 2);
+}
+
+TEST_F(FlexGrid, ACellIsMovedToWhateverRowAndColAre) {
+    grid->MoveTo({2, 3});
+    EXPECT_EQ(at(), QPoint(3, 2));
+    EXPECT_EQ(grid->currentIndex(), index(2, 3));
+    grid->SetRow(5);
+    grid->SetCol(4);
+    grid->MoveTo({2, 3});
+    EXPECT_EQ(at(), QPoint(3, 2));
+    grid->MoveTo({-1, 3});
+    EXPECT_EQ(grid->currentIndex(), index(2, 3)) << "there is no such cell";
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 
 #include <QAccessible>
 #include <QPointer>
+#include <QWindow>
 
 namespace {
 
@@ -15,12 +16,25 @@ public:
     bool visibleAtUnload = false;
     int raises = 0;
     bool shownForTheKeyboard = false;
+    bool minimisedWhenShown = false;
+    bool inSightWhenRaised = false;
+    bool unloadedWhenHidden = false;
+    QSize baseSizeWhenResized;
 
 protected:
     bool event(QEvent* event) override {
-        if (event->type() == QEvent::Show)
+        if (event->type() == QEvent::Show) {
             shownForTheKeyboard = !testAttribute(Qt::WA_ShowWithoutActivating);
-        raises += static_cast<int>(event->type() == QEvent::ZOrderChange);
+            minimisedWhenShown = isMinimized();
+        }
+        if (event->type() == QEvent::ZOrderChange) {
+            ++raises;
+            inSightWhenRaised = isVisible();
+        }
+        if (event->type() == QEvent::Hide)
+            unloadedWhenHidden = IsUnloaded();
+        if (event->type() == QEvent::Resize && windowHandle() != nullptr)
+            baseSizeWhenResized = windowHandle()->baseSize();
         return Form::event(event);
     }
 
@@ -87,6 +101,7 @@ TEST_F(Forms, CountStepsOfSizeFromTheirSize) {
     show();
     form->SetSize({101, 100});
     EXPECT_EQ(form->windowHandle()->baseSize(), QSize(101, 100));
+    EXPECT_EQ(form->baseSizeWhenResized, QSize(101, 100)) << "not only afterwards";
 }
 
 TEST_F(Forms, CaptionsAreShownAsTheyStand) {
@@ -158,6 +173,7 @@ TEST_F(Forms, ClosingUnloadsOnce) {
     EXPECT_TRUE(form->IsUnloaded());
     EXPECT_EQ(form->unloads, 1);
     EXPECT_FALSE(form->visibleAtUnload) << "gone from the screen when it is told";
+    EXPECT_TRUE(form->unloadedWhenHidden);
     form->close();
     form->Unload();
     EXPECT_EQ(form->unloads, 1);
@@ -189,6 +205,7 @@ TEST_F(Forms, OnlyShowAsksForTheKeyboard) {
     form->Hide();
     form->ShowInFront();
     EXPECT_FALSE(form->shownForTheKeyboard);
+    EXPECT_TRUE(form->inSightWhenRaised);
     form->Hide();
     form->Show();
     EXPECT_TRUE(form->shownForTheKeyboard);
@@ -199,6 +216,15 @@ TEST_F(Forms, KeepTheirSidesInAProgramThatReadsFromTheRight) {
     QGuiApplication::setLayoutDirection(Qt::RightToLeft);
     EXPECT_EQ(Form(QStringLiteral("frmOther")).layoutDirection(), Qt::LeftToRight);
     QGuiApplication::setLayoutDirection(former);
+}
+
+TEST_F(Forms, OneThatWasHiddenMinimisedIsShownInItsOrdinaryState) {
+    show();
+    form->showMinimized();
+    ASSERT_TRUE(waitUntil([this] { return form->WindowState() == Form::Minimised; }));
+    form->Hide();
+    form->Show();
+    EXPECT_FALSE(form->minimisedWhenShown);
 }
 
 } // namespace

@@ -274,4 +274,16 @@ TEST_F(AccessibleGrid, WithoutWordsOfItsOwnItsTextsAreItsEntriesFromTheFirstRowO
     EXPECT_EQ(list.child(1)->text(QAccessible::Name), QStringLiteral("b"));
 }
 
+TEST_F(AccessibleGrid, AMarkThatMovesWhileAllTextsChangeIsToldAlone) {
+    mark(*grid, 2, 1);
+    show();
+    AccessibleWatch watch;
+    grid->setFocus();
+    watch.take(QAccessible::Focus);
+    spoken = QStringLiteral("next year, day ");
+    mark(*grid, 3, 1);
+    EXPECT_EQ(watch.take(QAccessible::Focus),
+              (std::vector<Told>{{QAccessible::Focus, grid, QStringLiteral("next year, day 41")}}));
+}
+
 } // namespace

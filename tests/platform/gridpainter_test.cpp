@@ -288,6 +288,7 @@ TEST_F(GridLook, TextsAreDrawnInTheSizeThatWasSetLast) {
         const int small = height();
         grid->SetFontPixelSize(16);
         EXPECT_GT(height(), small + 3) << bold;
+        EXPECT_EQ(grid->font().pixelSize(), 16);
     }
 }
 
