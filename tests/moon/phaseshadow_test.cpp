@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "moon/phaseshadow.h"
 
+#include "platform/twips.h"
+
 #include <cmath>
 #include <gtest/gtest.h>
 
