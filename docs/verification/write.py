@@ -124,10 +124,11 @@ def mutations():
     return f"""## Changes that tests must notice
 
 The sources of all rooms, but for what is compiled for Windows alone, can be changed in
-{number(sum(population.values()))} ways by one thing: an operator, a constant, a pair of arguments, a call or a
-statement left out, two statements exchanged, a guard without its object, the enumerator beside, another signal.
-The seed {run["run"]["seed"]}, never used before, drew the sample below. Each was built and judged by the tests of its room, of the rooms above, on several monitors, by the walk through all windows and on a
-screen; the program's own file by the tests of its start. Of this sample the tests as they were noticed
+{number(sum(population.values()))} ways by one thing: an operator, a constant, a pair of arguments, a call or a statement left out, two
+statements exchanged, a guard without its object, the enumerator beside, another signal.
+The seed {run["run"]["seed"]}, never used before, drew the sample below. Each was built and judged by the tests of its
+room, of the rooms above, on several monitors, by the walk through all windows and on a screen; the program's own
+file by the tests of its start. Of this sample the tests as they were noticed
 {share_noticed(first)}; since then, what lived got its test or is gone: {share_noticed(now)}.
 A change that makes the program run without end is not counted among either. One without effect was built and run like
 all others and noticed by none; its reason is in `tests/mutations/equivalents.json`.
