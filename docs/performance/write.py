@@ -162,9 +162,8 @@ def page(results):
 
 Written by `docs/performance/write.py` from measured results. Compare within a row: what stands there was
 measured in one run on one machine by turns, in time of the processor, as the median of five:
-{made["processor"]},
-{made["cores"]} cores, {made["memory"]} of memory, {made["system"]} ({made["machine"]}), {made["compiler"]},
-Qt {made["qt"]}, ICU {made["icu"]}, the program at commit {made["commit"]}.
+{made["processor"]}, {made["cores"]} cores, {made["memory"]} of memory, {made["system"]} ({made["machine"]}),
+{made["compiler"]}, Qt {made["qt"]}, ICU {made["icu"]}, the program at commit {made["commit"]}.
 """,
         days(times), steps(times), start(results),
         """## To make it again
