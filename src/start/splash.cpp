@@ -5,12 +5,10 @@
 #include "shared/settings.h"
 
 #include <QApplication>
-#include <QThread>
 #include <QWindow>
+#include <chrono>
 
 namespace {
-
-using Clock = std::chrono::steady_clock;
 
 constexpr std::chrono::duration<double, std::chrono::days::period> shownFor(0.000012);
 constexpr int standardColor = 2;
@@ -25,12 +23,19 @@ void letWindowsPaint() {
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
+void sleepAndLetWindowsPaint() {
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents |
+                                    QEventLoop::WaitForMoreEvents);
+}
+
 // A window is painted only when the desktop has put it up, which takes a few
 // events; a desktop that never does must not hold up the start.
 void waitUntilExposed(const QWindow& window) {
-    const auto limit = Clock::now() + exposeLimit;
-    while (!window.isExposed() && Clock::now() < limit)
-        letWindowsPaint();
+    QTimer limit;
+    limit.setSingleShot(true);
+    limit.start(exposeLimit);
+    while (!window.isExposed() && limit.isActive())
+        sleepAndLetWindowsPaint();
 }
 
 } // namespace
@@ -44,12 +49,12 @@ Splash::Splash() {
     QApplication::setWindowIcon(icon);
     m_box.repaint();
     letWindowsPaint();
-    m_release = Clock::now() + std::chrono::duration_cast<Clock::duration>(shownFor);
+    m_time.setSingleShot(true);
+    m_time.setTimerType(Qt::PreciseTimer);
+    m_time.start(std::chrono::ceil<std::chrono::milliseconds>(shownFor));
 }
 
 void Splash::WaitItsTime() const {
-    while (Clock::now() < m_release) {
-        letWindowsPaint();
-        QThread::msleep(1);
-    }
+    while (m_time.isActive())
+        sleepAndLetWindowsPaint();
 }

@@ -3,7 +3,7 @@
 
 #include "start/frmabout.h"
 
-#include <chrono>
+#include <QTimer>
 
 /// What the start shows while it prepares the windows: the upper part of the about
 /// box, in the colour of the calendar whose window follows.
@@ -12,12 +12,12 @@ public:
     /// Shows it, and returns when it is painted.
     Splash();
 
-    /// Lets the windows paint until the splash has had its time.
+    /// Sleeps and lets the windows paint until the splash has had its time.
     void WaitItsTime() const;
 
     void Hide() { m_box.Hide(); }
 
 private:
     frmAbout m_box;
-    std::chrono::steady_clock::time_point m_release;
+    QTimer m_time;
 };

@@ -13,8 +13,10 @@
 #include <QApplication>
 #include <QIcon>
 #include <QImage>
+#include <QTimer>
 #include <QWidget>
 #include <QWindow>
+#include <chrono>
 #include <utility>
 
 namespace {
@@ -75,6 +77,30 @@ TEST_F(Splash, LeavesTheProgramItsIcon) {
     EXPECT_TRUE(watch.wasExposed);
     EXPECT_EQ(QApplication::windowIcon().cacheKey(), icon);
     QApplication::setWindowIcon({});
+}
+
+TEST_F(Splash, DoesNotWaitForADesktopThatNeverShowsIt) {
+    watch.atItsExposure = [](QWindow& window) { window.hide(); };
+    ::Splash splash;
+    EXPECT_FALSE(watch.window->isExposed());
+    splash.Hide();
+}
+
+TEST_F(Splash, WaitsForADesktopThatShowsItLate) {
+    watch.atItsExposure = [](QWindow& window) {
+        window.hide();
+        QTimer::singleShot(std::chrono::milliseconds(50), &window, &QWindow::show);
+    };
+    ::Splash splash;
+    EXPECT_TRUE(watch.window->isExposed());
+    splash.Hide();
+}
+
+TEST_F(Splash, TakesNoInputWhileItComesUp) {
+    watch.atItsIcon = [](QWindow& window) { queueKey(window, Qt::Key_Escape); };
+    ::Splash splash;
+    EXPECT_TRUE(watch.window->isVisible());
+    splash.Hide();
 }
 
 TEST_F(Splash, LetsTheWindowsPaintWhileItIsShown) {

@@ -10,6 +10,8 @@
 #include <QObject>
 #include <QWidget>
 #include <QWindow>
+#include <functional>
+#include <utility>
 
 /// Keeps what is drawn of the splash, how long it is shown and what the program's
 /// icon is meanwhile.
@@ -18,6 +20,8 @@ public:
     SplashWatch() { qApp->installEventFilter(this); }
 
     bool eventFilter(QObject* object, QEvent* event) override {
+        if (event->type() == QEvent::Expose && atItsExposure && object == window)
+            std::exchange(atItsExposure, {})(*window);
         if (!object->isWidgetType())
             return false;
         auto* widget = static_cast<QWidget*>(object);
@@ -27,6 +31,10 @@ public:
             secondsAlone = secondsShown();
         return false;
     }
+
+    /// What happens once when the desktop has put it up, and what when it has its icon.
+    std::function<void(QWindow&)> atItsExposure;
+    std::function<void(QWindow&)> atItsIcon;
 
     QColor ground; ///< a pixel near its corner
     QWindow* window = nullptr;
@@ -49,6 +57,8 @@ private:
             icon = QApplication::windowIcon();
         } else if (type == QEvent::ApplicationWindowIconChange) {
             wasExposed = splash.windowHandle() != nullptr && splash.windowHandle()->isExposed();
+            if (wasExposed && atItsIcon)
+                atItsIcon(*window);
         } else if (type == QEvent::Hide) {
             seconds = secondsShown();
             ground = splash.grab().toImage().pixelColor(2, 2);
