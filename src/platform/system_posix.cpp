@@ -7,6 +7,7 @@
 #include <fcntl.h>
 #include <filesystem>
 #include <fontconfig/fontconfig.h>
+#include <sched.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -21,7 +22,12 @@ void ChooseWindowSystem() {
 }
 
 std::jthread FontListing() {
-    return std::jthread([] { FcInit(); });
+    return std::jthread([] {
+        // Whom the program talks to meanwhile goes first: the desktop.
+        const sched_param none{};
+        sched_setscheduler(0, SCHED_IDLE, &none);
+        FcInit();
+    });
 }
 
 bool BringToDisk(QFileDevice& file) {
