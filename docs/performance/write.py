@@ -21,7 +21,7 @@ import machine  # noqa: E402  beside the folders of the pages
 
 BIN = ROOT / "build/bench/bin"
 HERE = pathlib.Path(__file__).resolve().parent
-STARTS = 5
+STARTS = 15
 
 
 def build():
