@@ -14,7 +14,7 @@ import tempfile
 import compile_database
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
-OURS = re.compile(r"/(src|tests|bench|docs|assets)/(?!.*_autogen/).*\.cpp$")
+OURS = re.compile(r"/(src|tests|bench|docs|assets)/(?!.*_autogen/|\.rcc/).*\.cpp$")
 
 # Headers of GCC 12's library that the tool does not know yet.
 STANDARD = {"bits/chrono.h": "chrono", "bits/std_abs.h": "cmath", "bits/ranges_algo.h": "algorithm",
