@@ -23,7 +23,7 @@ void ChooseWindowSystem() {
 
 std::jthread FontListing() {
     return std::jthread([] {
-        // Whom the program talks to meanwhile goes first: the desktop.
+        // The desktop, with which the program talks meanwhile, goes first.
         const sched_param none{};
         sched_setscheduler(0, SCHED_IDLE, &none);
         FcInit();
